@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace lignara {
+
+/// The data directory as the session keeps it: the directory with a trailing backslash.
+std::string MakeDataDirectory(const std::string& directory);
+
+/// The path of a file in the data directory, in the form of the platform at hand.
+std::string DataPath(const std::string& dataDirectory, const std::string& fileName);
+
+}  // namespace lignara

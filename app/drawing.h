@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace lignara {
+
+/// The colours of pictures, by what a user would call them.
+enum class Colour { Black, Red, Blue, Gray, RoyalBlue, DarkOrange };
+
+/// The colour's name as scripts print it, such as "red".
+const char* ColourName(Colour colour);
+
+struct LineShape {
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+  Colour colour = Colour::Black;
+};
+
+struct CircleShape {
+  double x = 0, y = 0, radius = 0;
+  Colour colour = Colour::Black;
+};
+
+/// A text whose top left corner is at (x, y).
+struct TextShape {
+  double x = 0, y = 0;
+  std::string text;
+  Colour colour = Colour::Black;
+};
+
+using Shape = std::variant<LineShape, CircleShape, TextShape>;
+
+/// A picture in its own units: x grows to the right, y downward, from 0 to width and height. Shapes
+/// outside are legal and are clipped where the picture is shown.
+struct Drawing {
+  double width = 0;
+  double height = 0;
+  double textHeight = 0;  ///< of all its texts, in the picture's units
+  std::vector<Shape> shapes;
+};
+
+}  // namespace lignara

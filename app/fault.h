@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string_view>
+
+namespace lignara {
+
+class Platform;
+
+/// What can go wrong in one statement of a calculation.
+enum class Fault { None, DivisionByZero, Overflow, NoRealResult, IndexOutOfBounds };
+
+/// The text that the user sees in the box for a fault; empty for Fault::None.
+std::string_view FaultText(Fault fault);
+
+/// Shows the fault's text in a plain box of the innermost FaultScope. Fault::None shows nothing.
+void ReportFault(Fault fault);
+
+/// While one stands, arithmetic and index faults of stored numbers are shown by its platform.
+///
+/// Each command that calculates sets one up. Scopes nest; the innermost is in force. Without any
+/// scope a fault still stores nothing, but nobody is told.
+class FaultScope {
+ public:
+  explicit FaultScope(Platform& platform);
+  ~FaultScope();
+  FaultScope(const FaultScope&) = delete;
+  FaultScope& operator=(const FaultScope&) = delete;
+
+ private:
+  Platform* outer_;
+};
+
+}  // namespace lignara

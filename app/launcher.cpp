@@ -1,0 +1,59 @@
+#include "app/launcher.h"
+
+#include "app/data_directory.h"
+#include "app/fault.h"
+#include "app/number_text.h"
+
+namespace lignara {
+
+void StartSession(SessionState& session, const std::string& currentDirectory) {
+  session.DataDirectory = MakeDataDirectory(currentDirectory);
+  session.Member = MemberSelection();
+  session.ReportFont.Name = "Times New Roman";
+  session.ReportFont.Size = 10;
+}
+
+void StartTruss(const std::string& trussType, SessionState& session, Platform& platform) {
+  platform.CloseWindow("TRUSS");
+  // An input window still open belongs to the type pressed before.
+  platform.CloseWindow("TR_INPUT");
+  session.TrussType = trussType;
+  session.DesignMode = "TRUSS";
+  platform.OpenWindow("TR_INPUT");
+}
+
+void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  session.SpanCount = ReadNumber(window.spanText);
+  session.DesignMode = "BEAM";
+  if (session.SpanCount > 1) {
+    platform.OpenWindow("MS");
+  } else {
+    platform.ShowMessage({"You must enter at least 2 spans"});
+  }
+}
+
+bool AcceptsSpanCount(const LauncherWindow& window) {
+  return RoundHalfEven(ReadNumber(window.spanText)) > 1;
+}
+
+void StartSingleSpanBeam(SessionState& session, Platform& platform) {
+  session.DesignMode = "BEAM";
+  platform.OpenWindow("MLSP");
+}
+
+void ChooseDesignMode(const std::string& mode, SessionState& session, Platform& platform) {
+  session.DesignMode = mode;
+  platform.CloseWindow("QUESTION");
+  platform.OpenWindow("WTYPETR");
+}
+
+void ShowHelp(const std::string& windowName, const SessionState& session, Platform& platform) {
+  platform.ShowHelp(DataPath(session.DataDirectory, kHelpFile), windowName);
+}
+
+void CloseAllWindows(Platform& platform) {
+  for (const char* name : kExitOrder) platform.CloseWindow(name);
+}
+
+}  // namespace lignara

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "app/platform.h"
+#include "app/session_state.h"
+
+namespace lignara {
+
+/// The first window: what its one field holds.
+struct LauncherWindow {
+  std::string spanText;  ///< "Enter No. of Spans"
+};
+
+inline constexpr const char* kHelpFile = "LIGNARA.HLP";
+inline constexpr const char* kProgramName = "Lignara";
+
+/// Gives the session its first content: the data directory, the neutral current member, the report
+/// font. `currentDirectory` is without a trailing separator.
+void StartSession(SessionState& session, const std::string& currentDirectory);
+
+/// A truss picture: throws away the truss at hand, without a question, and opens the input of a new
+/// one. `trussType` is the keyword of the type.
+void StartTruss(const std::string& trussType, SessionState& session, Platform& platform);
+
+/// "Multi-Span Beam": opens the window when the span field rounds to at least 2.
+void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Platform& platform);
+
+/// True when the span field holds a count that "Multi-Span Beam" would accept.
+bool AcceptsSpanCount(const LauncherWindow& window);
+
+/// "Single Span Beams".
+void StartSingleSpanBeam(SessionState& session, Platform& platform);
+
+/// "TRUSS" or "BEAM" of the chooser: opens the member size calculator for that client.
+void ChooseDesignMode(const std::string& mode, SessionState& session, Platform& platform);
+
+/// Opens the help document of the data directory at a window's section.
+void ShowHelp(const std::string& windowName, const SessionState& session, Platform& platform);
+
+/// Closes the windows that stand before the launcher, in the order of the program's exit.
+void CloseAllWindows(Platform& platform);
+
+/// The order in which the windows close at exit. Windows missing here are closed by their parents.
+inline constexpr std::array<const char*, 12> kExitOrder = {
+    "QUESTION", "TR_INPUT", "wdb",      "WTYPETR", "MLSP", "ABOUT",
+    "TRUSS",    "MS",       "MDOUTPUT", "ply",     "GL",   "FASTENER"};
+
+}  // namespace lignara

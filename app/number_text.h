@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "app/stored_number.h"
+
+namespace lignara {
+
+/// The value of a text as the number fields read it: its longest numeric prefix behind leading
+/// blanks (sign, digits, point, exponent), 0 where there is none. The locale plays no part. A
+/// number too large for 64 bits is an overflow fault; one too small is 0.
+Number ReadNumber(std::string_view text);
+
+/// The number in a display pattern such as "0", "0.00", "##0.##" or "0.00E+00".
+///
+/// The decimal value of the stored number (7 significant digits of a 32-bit number, 15 of a 64-bit
+/// one) is rounded half away from zero. '0' always prints a digit, '#' only where there is one; the
+/// point stays. What rounds to zero has no sign.
+std::string FormatNumber(const Float32& number, std::string_view pattern);
+std::string FormatNumber(const Float64& number, std::string_view pattern);
+std::string FormatNumber(double number, std::string_view pattern);
+std::string FormatNumber(float number, std::string_view pattern);
+
+/// A whole number as it stands in a row label: one leading blank where it is not negative, so that
+/// a row reads "PL 1 = 0.00".
+std::string NumberText(std::int32_t number);
+
+/// A 32-bit number as a user would type it into a field: up to 7 digits, nothing behind the last
+/// one that counts, an exponent only where the digits do not reach ("100", "0.5", "1.5E+09").
+std::string PlainNumber(const Float32& number);
+
+}  // namespace lignara

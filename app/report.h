@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "app/drawing.h"
+
+namespace lignara {
+
+/// Width of a print zone, in characters.
+inline constexpr std::size_t kPrintZone = 14;
+
+/// The items of one line, each in a print zone of its own: an item starts at the next multiple of
+/// 14 columns behind the end of the one before, so one of exactly 14 characters pushes the next to
+/// the zone after. Nothing stands behind the last item.
+std::string PrintZones(const std::vector<std::string>& items);
+
+/// The same with `empty` zones ahead of the first item. No items give an empty line.
+std::string PrintZones(std::size_t empty, const std::vector<std::string>& items);
+
+struct NewPage {};
+
+/// A report as data: lines of text, page breaks and drawings in order. It stands once; a file and a
+/// printer are two ways to read it.
+class Report {
+ public:
+  using Item = std::variant<std::string, NewPage, Drawing>;
+
+  void Line(std::string text = "") { items_.emplace_back(std::move(text)); }
+  void Lines(std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) Line();
+  }
+  void StartPage() { items_.emplace_back(NewPage{}); }
+  void Draw(Drawing drawing) { items_.emplace_back(std::move(drawing)); }
+
+  const std::vector<Item>& items() const { return items_; }
+
+  std::string fontName = "Times New Roman";
+  int fontSize = 10;  ///< points
+
+ private:
+  std::vector<Item> items_;
+};
+
+/// The lines of a report as the bytes of a text file, each ended by a line feed. Page breaks and
+/// drawings have no place in a file.
+std::string ReportText(const Report& report);
+
+}  // namespace lignara

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include "app/member_selection.h"
+#include "app/stored_number.h"
+
+namespace lignara {
+
+struct ReportFontChoice {
+  std::string Name;
+  Int16 Size;  ///< points
+};
+
+/// The one record that outlives windows. All windows read and write it directly; nothing of it is
+/// stored between runs of the program.
+struct SessionState {
+  std::string TrussType;      ///< truss keyword; empty after the input of a truss was cancelled
+  std::string DesignMode;     ///< "TRUSS" or "BEAM": for whom the member size calculator works
+  Int16 SpanCount;            ///< spans of a multi-span beam
+  std::string DataDirectory;  ///< with a trailing backslash
+  ReportFontChoice ReportFont;
+
+  Float32 TrussSpans;        ///< number of panels; a whole even number
+  Float32 TrussLength;       ///< between the supports, ft
+  Float32 TrussHeight;       ///< at midspan, ft
+  Float32 TrussInnerHeight;  ///< of the bottom chords at midspan, scissors truss only, ft
+  Float32 PanelLength;       ///< ft
+  Float32 LineLoad;          ///< the last line load applied, lb/ft
+
+  std::string ReportTitle;
+  std::string ReportDescription;
+
+  std::string LastWoodTypes;  ///< of the species file last read
+  std::string LastGrade;      ///< the grade last picked
+  Int16 unitSystem;           ///< 0 English, 1 metric; nothing sets it
+
+  MemberSelection Member;
+};
+
+}  // namespace lignara
