@@ -18,7 +18,7 @@ std::string PrintZones(std::size_t empty, const std::vector<std::string>& items)
 std::string ReportText(const Report& report) {
   std::string text;
   for (const Report::Item& item : report.items()) {
-    if (const auto* line = std::get_if<std::string>(&item)) text += *line + "\n";
+    if (const auto* line = std::get_if<ReportLine>(&item)) text += line->Text() + "\n";
   }
   return text;
 }

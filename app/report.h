@@ -20,17 +20,33 @@ std::string PrintZones(const std::vector<std::string>& items);
 /// The same with `empty` zones ahead of the first item. No items give an empty line.
 std::string PrintZones(std::size_t empty, const std::vector<std::string>& items);
 
+/// One line of a report: its items, each in a print zone of its own, behind `emptyZones` zones.
+/// Paper needs the items apart, since its letters differ in width.
+struct ReportLine {
+  std::size_t emptyZones = 0;
+  std::vector<std::string> items;
+
+  /// The line as columns of characters.
+  std::string Text() const { return PrintZones(emptyZones, items); }
+};
+
 struct NewPage {};
 
 /// A report as data: lines of text, page breaks and drawings in order. It stands once; a file and a
 /// printer are two ways to read it.
 class Report {
  public:
-  using Item = std::variant<std::string, NewPage, Drawing>;
+  using Item = std::variant<ReportLine, NewPage, Drawing>;
 
-  void Line(std::string text = "") { items_.emplace_back(std::move(text)); }
-  void Lines(std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i) Line();
+  /// A blank line.
+  void Line() { items_.emplace_back(ReportLine{}); }
+  /// A line of one item behind `emptyZones` empty zones.
+  void Line(std::string text, std::size_t emptyZones = 0) {
+    items_.emplace_back(ReportLine{emptyZones, {std::move(text)}});
+  }
+  /// A line of items in print zones.
+  void Line(std::vector<std::string> items, std::size_t emptyZones = 0) {
+    items_.emplace_back(ReportLine{emptyZones, std::move(items)});
   }
   void StartPage() { items_.emplace_back(NewPage{}); }
   void Draw(Drawing drawing) { items_.emplace_back(std::move(drawing)); }
