@@ -45,7 +45,7 @@ class Report {
     items_.emplace_back(ReportLine{emptyZones, {std::move(text)}});
   }
   /// A line of items in print zones.
-  void Line(std::vector<std::string> items, std::size_t emptyZones = 0) {
+  void Columns(std::vector<std::string> items, std::size_t emptyZones = 0) {
     items_.emplace_back(ReportLine{emptyZones, std::move(items)});
   }
   void StartPage() { items_.emplace_back(NewPage{}); }
