@@ -131,10 +131,7 @@ class Stored {
 
   Stored& operator=(const Stored& other) { return *this = Number(other); }
   template <typename A>
-    requires std::is_arithmetic_v<A>
-  Stored& operator=(A value) {
-    return *this = Number(value);
-  }
+  requires std::is_arithmetic_v<A> Stored& operator=(A value) { return *this = Number(value); }
 
   Stored& operator=(Number expression) {
     if (this == &Nowhere()) {
