@@ -18,13 +18,15 @@ count() {
   if [ "$1" -eq 0 ]; then passed=$((passed + 1)); else failed=$((failed + 1)); fi
 }
 
-# run_tests FOLDER [CTEST ARGUMENTS...]: runs the tests of a build folder and adds up its counts.
+# run_tests FOLDER [CTEST ARGUMENTS...]: runs the tests of a build folder, with the settings of the
+# array `environment`, and adds up its counts.
+environment=()
 run_tests() {
   local folder=$1 log total bad
   shift
   log=$folder/ctest.log
-  ctest --test-dir "$folder" --output-on-failure --no-tests=error --parallel "$jobs" "$@" |
-    tee "$log" || true
+  env "${environment[@]}" ctest --test-dir "$folder" --output-on-failure --no-tests=error \
+    --parallel "$jobs" "$@" | tee "$log" || true
   bad=$(sed -n 's/.* tests passed, \([0-9]*\) tests\{0,1\} failed out of .*/\1/p' "$log")
   total=$(sed -n 's/.* tests passed, .* failed out of \([0-9]*\)$/\1/p' "$log")
   if [ -z "$total" ]; then
@@ -61,12 +63,14 @@ if build release -DLIGNARA_TESTS=ON -DLIGNARA_BENCH=ON; then
   # A private copy of the locale, so that nothing of the system changes.
   mkdir -p build/locale
   [ -d build/locale/de_DE.UTF-8 ] || localedef -i de_DE -f UTF-8 "$PWD/build/locale/de_DE.UTF-8"
-  if [ "$(LOCPATH=$PWD/build/locale LC_ALL=de_DE.UTF-8 locale decimal_point)" = , ]; then
-    LOCPATH=$PWD/build/locale LC_ALL=de_DE.UTF-8 run_tests build/release
+  environment=(LOCPATH="$PWD/build/locale" LC_ALL=de_DE.UTF-8)
+  if [ "$(env "${environment[@]}" locale decimal_point)" = , ]; then
+    run_tests build/release
   else
     echo "The locale de_DE.UTF-8 could not be made."
     count 1
   fi
+  environment=()
 else
   count 1
 fi
