@@ -81,14 +81,18 @@ struct ActiveModel {
   Float32 FceAtBracing, FceAtLength;  ///< psi
 };
 
+/// The number of panels in a half of the session's truss; a whole number (ties to even). 0 where it
+/// does not fit 16 bits, which is an overflow fault.
+int HalfSpans(const SessionState& session);
+
 /// What every calculation step of a truss works on.
 struct TrussJob {
   ActiveModel& model;
   const SessionState& session;
   Platform& platform;
 
-  /// Number of panels in a half; a whole number (ties to even), 0 where it does not fit 16 bits.
-  int HalfSpans() const;
+  /// Number of panels in a half.
+  int HalfSpans() const { return lignara::HalfSpans(session); }
 };
 
 /// Makes all arrays of a run anew, filled with zero; the node loads stay.

@@ -9,16 +9,13 @@
 #include "app/platform.h"
 #include "app/session_state.h"
 #include "truss/active_model.h"
+#include "truss/members.h"
 
 namespace lignara {
 
 /// Width and height of the truss picture in its own units.
 inline constexpr int kCanvasWidth = 4800;
 inline constexpr int kCanvasHeight = 3000;
-
-/// The families of truss members in the names of lists and labels.
-enum class Family { TL, TR, CL, CR, VL, VR, DL, DR, CV };
-inline constexpr int kFamilies = 9;
 
 /// Centre of a member's circle on the canvas.
 struct MarkPoint {
