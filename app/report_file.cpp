@@ -1,0 +1,34 @@
+#include "app/report_file.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace lignara {
+namespace {
+
+void ShowSystemError(const std::string& path, int code, Platform& platform) {
+  platform.ShowMessage({path + ": " + std::generic_category().message(code)});
+}
+
+}  // namespace
+
+std::optional<ReportFile> CreateReportFile(Platform& platform) {
+  const std::optional<std::string> path = platform.ChooseSaveFile(kReportFilter);
+  if (!path) return std::nullopt;
+  errno = 0;
+  ReportFile file{*path, std::ofstream(*path, std::ios::binary | std::ios::trunc)};
+  if (!file.stream) {
+    ShowSystemError(*path, errno == 0 ? EIO : errno, platform);
+    return std::nullopt;
+  }
+  return file;
+}
+
+void WriteReportFile(ReportFile& file, const Report& report, Platform& platform) {
+  errno = 0;
+  file.stream << ReportText(report);
+  file.stream.close();
+  if (!file.stream) ShowSystemError(file.path, errno == 0 ? EIO : errno, platform);
+}
+
+}  // namespace lignara
