@@ -1,0 +1,77 @@
+#pragma once
+
+#include <array>
+
+#include "app/stored_number.h"
+#include "wood/species_data.h"
+
+namespace lignara {
+
+/// The stresses that have a final multiplier, in the order of `AdjustmentFactors::Multiplier` and
+/// of the boxes "Final Stress Multipliers".
+enum class StressKind { Fb, Ft, Fv, FcPar, FcPerp, E };
+inline constexpr int kStressKinds = 6;
+
+/// The working state of the panel "Stress Adjustment Factors".
+struct AdjustmentFactors {
+  std::array<Float32, 4> SizeFactor;  ///< 1 Fb, 2 Ft, 3 Fc along the grain; 0 stands empty
+  Float32 LoadDuration;
+  Float32 Repetitive;
+  Float32 ShearCondition;
+  Float32 FlatUse;
+  /// 1 Fb, 2 Ft, 3 Fc along the grain, 4 Fv, 5 Fc across the grain, 6 E; 0 and 7 stand empty.
+  std::array<Float32, 8> WetUse;
+  std::array<Float32, kStressKinds> Multiplier;
+
+  Float32& MultiplierOf(StressKind kind) { return Multiplier[static_cast<std::size_t>(kind)]; }
+  const Float32& MultiplierOf(StressKind kind) const {
+    return Multiplier[static_cast<std::size_t>(kind)];
+  }
+};
+
+// The rows of the panel's lists. Row 0 of each is blank, and gives the factor 1.0.
+
+inline constexpr std::array<const char*, 8> kWidthRows = {
+    "", "2,3 OR 4 in", "5 in", "6 in", "8 in", "10 in", "12 in", "Greater than 14 in"};
+inline constexpr std::array<const char*, 4> kThicknessRows = {"", "2 or 3 in", "4 in",
+                                                              "Greater than 4 in"};
+inline constexpr std::array<const char*, 10> kGradeRows = {
+    "",      "Select",       "Structural", "No. 1",   "No. 2",
+    "No. 3", "Construction", "Standard",   "Utility", "Stud"};
+inline constexpr std::array<const char*, 8> kLoadDurationRows = {
+    "",      "Permanent", "10 yr (normal)",      "2 mo (snow)",
+    "7 day", "1 day",     "10 min (earthquake)", "Impact"};
+inline constexpr std::array<const char*, 4> kShearConditionRows = {
+    "", "No Split", "Split < 1/2 thru", "Split >= 1/2 thru"};
+
+// Look-up by list row. A row outside of its list gives 1.0, as the blank row does.
+
+/// Size factors for Fb, Ft and Fc along the grain. The tables are those of the western woods, which
+/// also serve where no family was chosen; southern pine goes by rules; machine rated lumber has
+/// none.
+std::array<float, 3> SizeFactors(WoodFamily family, int widthRow, int thicknessRow, int gradeRow);
+
+float LoadDurationFactor(int row);
+float ShearConditionFactor(int row);
+float FlatUseFactor(int widthRow, int thicknessRow);
+
+/// Of members used in sets that share their load, where repetitive use counts.
+inline constexpr float kRepetitiveUse = 1.15F;
+
+/// One row of the wet use factors, for moisture above 19%.
+struct WetUseRow {
+  const char* label;  ///< in the list "Wet Use Factor"
+  float factor;
+};
+/// In the order of `AdjustmentFactors::WetUse`, from its index 1 on.
+inline constexpr std::array<WetUseRow, 6> kWetUse = {{{"Fb = ", 0.85F},
+                                                      {"Ft = ", 1.0F},
+                                                      {"Fc // = ", 0.8F},
+                                                      {"Fv = ", 0.97F},
+                                                      {"Fc perp = ", 0.67F},
+                                                      {"E = ", 0.9F}}};
+
+/// The final multipliers of all stresses from the factors, each in 32-bit float.
+void ComputeMultipliers(AdjustmentFactors& factors);
+
+}  // namespace lignara
