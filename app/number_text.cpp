@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace lignara {
 namespace {
@@ -35,6 +36,26 @@ std::string_view UnsignedPrefix(std::string_view text) {
     at = end;
   }
   return digits == 0 ? std::string_view() : text.substr(0, SkipExponent(text, at));
+}
+
+/// The exponent behind the mark at `mark`; one too long to be read is very large or very small.
+long ExponentAt(std::string_view number, std::size_t mark) {
+  if (mark >= number.size()) return 0;
+  std::string_view text = number.substr(mark + 1);
+  if (text.front() == '+') text.remove_prefix(1);
+  int exponent = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), exponent);
+  if (result.ec == std::errc()) return exponent;
+  return text.front() == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+}
+
+/// Of a number outside the range of 64 bits: is it too near to zero, and not too far from it?
+bool IsTiny(std::string_view number) {
+  const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+  const std::string_view digits = number.substr(0, mark);
+  const auto point = static_cast<long>(std::min(digits.find('.'), digits.size()));
+  const auto first = static_cast<long>(digits.find_first_of("123456789"));
+  return point - first + ExponentAt(number, mark) < 0;
 }
 
 /// A number as decimal digits: 0.d1d2d3... x 10^point.
@@ -171,10 +192,7 @@ Number ReadNumber(std::string_view text) {
   double value = 0.0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
-    // Too near to zero for 64 bits, or too far from it: the sign of the exponent tells.
-    const std::size_t mark = number.find_first_of("eE");
-    const bool tiny = mark != std::string_view::npos && number[mark + 1] == '-';
-    return tiny ? Number(0.0) : Number::Faulted(Fault::Overflow);
+    return IsTiny(number) ? Number(0.0) : Number::Faulted(Fault::Overflow);
   }
   return negative ? Number(-value) : Number(value);
 }
