@@ -1,5 +1,8 @@
 #include "app/launcher.h"
 
+#include <cstdint>
+#include <limits>
+
 #include "app/data_directory.h"
 #include "app/fault.h"
 #include "app/number_text.h"
@@ -34,7 +37,8 @@ void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Pla
 }
 
 bool AcceptsSpanCount(const LauncherWindow& window) {
-  return RoundHalfEven(ReadNumber(window.spanText)) > 1;
+  const Number count = RoundHalfEven(ReadNumber(window.spanText));
+  return count > 1 && count <= std::numeric_limits<std::int16_t>::max();
 }
 
 void StartSingleSpanBeam(SessionState& session, Platform& platform) {
