@@ -85,14 +85,24 @@ struct ActiveModel {
 /// does not fit 16 bits, which is an overflow fault.
 int HalfSpans(const SessionState& session);
 
-/// What every calculation step of a truss works on.
-struct TrussJob {
+/// What every calculation step of a truss works on, for the length of one command.
+class TrussJob {
+ public:
+  TrussJob(ActiveModel& its_model, const SessionState& its_session, Platform& its_platform)
+      : model(its_model),
+        session(its_session),
+        platform(its_platform),
+        halfSpans_(lignara::HalfSpans(its_session)) {}
+
+  /// Number of panels in a half. A fault in it is shown once a command.
+  int HalfSpans() const { return halfSpans_; }
+
   ActiveModel& model;
   const SessionState& session;
   Platform& platform;
 
-  /// Number of panels in a half.
-  int HalfSpans() const { return lignara::HalfSpans(session); }
+ private:
+  int halfSpans_;
 };
 
 /// Makes all arrays of a run anew, filled with zero; the node loads stay.

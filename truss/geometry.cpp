@@ -1,0 +1,53 @@
+#include "truss/geometry.h"
+
+#include "truss/half.h"
+
+namespace lignara {
+
+void SLOPE_PEAK(TrussJob& job) {
+  const SessionState& s = job.session;
+  if (!(s.TrussLength > 0)) return FailRun(job, "TL=0, ERROR");
+  job.model.ANG_A = Atan(s.TrussHeight / (s.TrussLength * 0.5));
+  job.model.ANG_AC = kRightAngle - job.model.ANG_A;
+}
+
+void VERT_LENGTH(TrussJob& job) {
+  const SessionState& s = job.session;
+  if (s.TrussType != "KINGPOST") {
+    const Number slope = Tan(job.model.ANG_A);
+    for (TrussHalf& half : HalvesOf(job.model)) {
+      for (int i = 1; i <= job.HalfSpans(); ++i) half.LEN_V[i] = s.PanelLength * i * slope;
+    }
+  }
+  job.model.LEN_CV[1] = s.TrussHeight;
+}
+
+void TOP_LENGTH(TrussJob& job) {
+  const SessionState& s = job.session;
+  for (TrussHalf& half : HalvesOf(job.model)) {
+    if (s.TrussType == "KINGPOST") {
+      half.LEN_T[1] = Sqrt(Square(s.TrussHeight) + Square(s.TrussLength / 2));
+      continue;
+    }
+    const Number panel = Sqrt(Square(half.LEN_V[1]) + Square(s.PanelLength));
+    for (int i = 1; i <= job.HalfSpans(); ++i) half.LEN_T[i] = panel;
+  }
+}
+
+void BOTTOM_LENGTH(TrussJob& job) {
+  for (TrussHalf& half : HalvesOf(job.model)) {
+    for (int i = 1; i <= job.HalfSpans(); ++i) half.LEN_C[i] = job.session.PanelLength;
+  }
+}
+
+void DIAG_LENGTH(TrussJob& job) {
+  // A diagonal of PRATT1 rises to the vertical ahead, one of ENGLISH falls from the one behind.
+  const int behind = job.session.TrussType == "ENGLISH" ? 1 : 0;
+  for (TrussHalf& half : HalvesOf(job.model)) {
+    for (int i = 2; i <= job.HalfSpans(); ++i) {
+      half.LEN_D[i] = Sqrt(Square(half.LEN_V[i - behind]) + Square(half.LEN_C[i]));
+    }
+  }
+}
+
+}  // namespace lignara
