@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include "truss/axial_loads.h"
+#include "truss/deflection.h"
+#include "truss/drawn_geometry.h"
+
 namespace lignara {
 namespace {
 
@@ -14,7 +18,7 @@ MemberRun Single(std::vector<Family> families, Upper last = Upper::One) {
   return {std::move(families), 1, last, true};
 }
 
-const MemberRun kCentreVertical = {{Family::CV}, 1, Upper::One};
+MemberRun CentreVertical() { return {{Family::CV}, 1, Upper::One}; }
 
 Runs Joined(Runs runs, const Runs& more) {
   runs.insert(runs.end(), more.begin(), more.end());
@@ -34,25 +38,25 @@ Runs ChordsAndDiagonals(int firstDiagonal) {
 Runs Verticals(Upper last) { return {Each(Family::VL, 1, last), Each(Family::VR, 1, last)}; }
 
 Runs KingPostMembers() {
-  return {Single({Family::TL, Family::TR, Family::CL, Family::CR}), kCentreVertical};
+  return {Single({Family::TL, Family::TR, Family::CL, Family::CR}), CentreVertical()};
 }
 
 Runs ScissorsMembers() {
   return {Single({Family::TL, Family::TR}, Upper::Two),
-          Single({Family::VL, Family::VR, Family::CL, Family::CR}), kCentreVertical};
+          Single({Family::VL, Family::VR, Family::CL, Family::CR}), CentreVertical()};
 }
 
 Runs Pratt1AxialRows() {
-  return Joined(Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)), {kCentreVertical});
+  return Joined(Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)), {CentreVertical()});
 }
 
 Runs EnglishAxialRows() {
   const MemberRun byTurns = {{Family::VL, Family::VR}, 1, Upper::BeforeHalf};
-  return Joined(ChordsAndDiagonals(2), {byTurns, kCentreVertical});
+  return Joined(ChordsAndDiagonals(2), {byTurns, CentreVertical()});
 }
 
 Runs FlatAxialRows() {
-  return Joined(Joined(ChordsAndDiagonals(1), Verticals(Upper::Half)), {kCentreVertical});
+  return Joined(Joined(ChordsAndDiagonals(1), Verticals(Upper::Half)), {CentreVertical()});
 }
 
 Runs WarrenRows(int firstDiagonal) {
@@ -61,54 +65,139 @@ Runs WarrenRows(int firstDiagonal) {
 
 Runs Pratt1Checked() { return Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)); }
 
-// The same members as in the axial list of the pitched trusses: the end panel's diagonal and the
-// verticals next to midspan of the parallel chord types are left out of the check.
-Runs FlatChecked() { return Joined(Pratt1Checked(), {kCentreVertical}); }
+/// The end panel's diagonal and the vertical next to midspan are left out of the check.
+Runs FlatChecked() { return Joined(Pratt1Checked(), {CentreVertical()}); }
 
 Runs EnglishChecked() { return FlatAxialRows(); }
+
+using Signs = std::vector<SignRule>;
+constexpr int kCompression = -1;
+constexpr int kTension = 1;
+
+SignRule Sign(int sign, Family left, Family right, int first = 1, Upper last = Upper::Half) {
+  return {{{left, right}, first, last}, sign};
+}
+
+Signs WithChords(Signs signs) {
+  signs.push_back(Sign(kCompression, Family::TL, Family::TR));
+  signs.push_back(Sign(kTension, Family::CL, Family::CR));
+  return signs;
+}
+
+SignRule CentreInCompression() { return {CentreVertical(), kCompression}; }
+
+Signs Pratt1Signs() {
+  return WithChords(
+      {Sign(kCompression, Family::VL, Family::VR), Sign(kTension, Family::DL, Family::DR, 2)});
+}
+
+Signs EnglishSigns() {
+  return WithChords({Sign(kTension, Family::VL, Family::VR),
+                     Sign(kCompression, Family::DL, Family::DR, 2), CentreInCompression()});
+}
+
+Signs KingPostSigns() {
+  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::One),
+          Sign(kTension, Family::CL, Family::CR, 1, Upper::One), CentreInCompression()};
+}
+
+Signs ScissorsSigns() {
+  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::Two),
+          Sign(kTension, Family::CL, Family::CR, 1, Upper::One),
+          Sign(kCompression, Family::VL, Family::VR, 1, Upper::One), CentreInCompression()};
+}
+
+Signs Pratt2Signs() {
+  return WithChords({Sign(kCompression, Family::VL, Family::VR),
+                     Sign(kTension, Family::DL, Family::DR), CentreInCompression()});
+}
+
+Signs HoweSigns() {
+  return WithChords({Sign(kCompression, Family::VL, Family::VR, 1, Upper::One),
+                     Sign(kTension, Family::VL, Family::VR, 2),
+                     Sign(kCompression, Family::DL, Family::DR), CentreInCompression()});
+}
+
+/// Lines of these types are worded a little differently, as users of the printed lists know them.
+std::vector<StressWording> SpacedTop() { return {{Family::TL, "Actual Stress  = ", " psi"}}; }
+
+std::vector<StressWording> KingPostWordings() {
+  return {{Family::TL, "Actual Stress =  ", " psi"}, {Family::CR, "Actual Stress = ", " psi)"}};
+}
 
 std::vector<TrussTypeInfo> MakeTypes() {
   return {
       {.keyword = "PRATT1",
        .title = "PRATT1 TRUSS",
        .exampleCaption = "Example:(6 Span Pratt1)",
+       .chain = PRATT1_AXIAL,
+       .signs = Pratt1Signs(),
+       .deflections = DEFLECTIONS_PEAKED,
        .axialRows = Pratt1AxialRows(),
        .checkedMembers = Pratt1Checked()},
       {.keyword = "FINK",
        .title = "FINK TRUSS",
        .exampleCaption = "Example:(6 Span Fink)",
+       .drawnGeometry = FinkDrawnGeometry,
+       .chain = FINK_AXIAL,
+       .signs = Pratt1Signs(),
+       .deflections = DEFLECTIONS_PEAKED,
        .axialRows = Pratt1AxialRows(),
        .checkedMembers = Pratt1Checked()},
       {.keyword = "ENGLISH",
        .title = "ENGLISH TRUSS",
        .exampleCaption = "Example:(6 Span English)",
+       .chain = ENGLISH_AXIAL,
+       .signs = EnglishSigns(),
+       .deflections = DEFLECTIONS_PEAKED,
        .axialRows = EnglishAxialRows(),
-       .checkedMembers = EnglishChecked()},
+       .checkedMembers = EnglishChecked(),
+       .stressWordings = SpacedTop()},
       {.keyword = "KINGPOST",
        .title = "KING POST TRUSS",
        .exampleCaption = "Example:(KING POST)",
+       .chain = KINGPOST_AXIAL,
+       .signs = KingPostSigns(),
+       .deflections = DEFLECTIONS_PEAKED,
        .axialRows = KingPostMembers(),
-       .checkedMembers = KingPostMembers()},
+       .checkedMembers = KingPostMembers(),
+       .stressWordings = KingPostWordings()},
       {.keyword = "SCI",
        .title = "SCISSORS TRUSS",
        .exampleCaption = "Example:(Scissors Truss)",
+       .drawnGeometry = ScissorsDrawnGeometry,
+       .chain = SCI_AXIAL,
+       .signs = ScissorsSigns(),
+       .deflections = DEFLECTIONS_PEAKED,
        .axialRows = ScissorsMembers(),
        .checkedMembers = ScissorsMembers()},
       {.keyword = "HOWE",
        .title = "HOWE TRUSS",
        .exampleCaption = "Example:(6 Span HOWE Truss)",
+       .chain = HOWE_AXIAL,
+       .signs = HoweSigns(),
+       .deflections = DEFLECTIONS_FLAT,
        .axialRows = FlatAxialRows(),
-       .checkedMembers = FlatChecked()},
+       .checkedMembers = FlatChecked(),
+       .stressWordings = SpacedTop()},
       {.keyword = "PRATT2",
        .title = "PRATT2 TRUSS",
        .exampleCaption = "Example:(6 Span PRATT2 Truss)",
+       .chain = PRATT2_AXIAL,
+       .signs = Pratt2Signs(),
+       .deflections = DEFLECTIONS_FLAT,
        .axialRows = FlatAxialRows(),
-       .checkedMembers = FlatChecked()},
+       .checkedMembers = FlatChecked(),
+       .stressWordings = SpacedTop()},
       {.keyword = "WARREN",
        .title = "WARREN TRUSS",
        .exampleCaption = "Example:(6 Span WARREN Truss)",
+       .drawnGeometry = WarrenDrawnGeometry,
+       .chain = WARREN_AXIAL,
+       .deflections = DEFLECTIONS_WARREN,
        .axialRows = WarrenRows(1),
-       .checkedMembers = WarrenRows(2)},
+       .checkedMembers = WarrenRows(2),
+       .stressWordings = SpacedTop()},
   };
 }
 

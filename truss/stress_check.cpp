@@ -1,0 +1,77 @@
+#include "truss/stress_check.h"
+
+#include <algorithm>
+
+#include "app/number_text.h"
+#include "truss/truss_types.h"
+
+namespace lignara {
+namespace {
+
+constexpr double kBracedSlenderness = 50;
+constexpr double kInchesPerFoot = 12;
+
+const Float32& SmallerSide(const Float32& b, const Float32& d) { return b <= d ? b : d; }
+
+/// The bracing distance and the two Euler values of a member, into the working fields.
+void SetWorkingValues(ActiveModel& m, const TrussMemberGroup& group, const Float32& length) {
+  m.MemberFt = group.GroupFt;
+  m.MinBracingLength =
+      SmallerSide(group.GroupB, group.GroupD) * kBracedSlenderness / kInchesPerFoot;
+  TRUSS_ALL_COMP(m.MinBracingLength, group.GroupE, group.GroupB, group.GroupD, m.FceAtBracing);
+  TRUSS_ALL_COMP(length, group.GroupE, group.GroupB, group.GroupD, m.FceAtLength);
+  m.MemberFa = group.GroupFa;
+}
+
+/// "Actual Stress" in the words that the type has for the member.
+std::string ActualLine(const TrussTypeInfo& type, const Member& member, const Float32& stress) {
+  StressWording words;
+  for (const StressWording& wording : type.stressWordings) {
+    if (wording.family == member.family) words = wording;
+  }
+  return words.before + FormatNumber(stress, "0.00") + words.after;
+}
+
+std::string AllowableLine(const ActiveModel& m) {
+  const bool tension = m.MemberFt <= m.MemberFa;
+  return "Allowable axial stress = " + FormatNumber(tension ? m.MemberFt : m.MemberFa, "0.00") +
+         " psi with full lateral bracing" + (tension ? "." : "");
+}
+
+void CheckMember(TrussJob& job, const TrussTypeInfo& type, const Member& member,
+                 std::vector<std::string>& rows) {
+  ActiveModel& m = job.model;
+  const TrussMemberGroup& group = job.session.Member.Group(GroupOf(member.family));
+  SetWorkingValues(m, group, LengthOf(m, member.family)[member.index]);
+  const Float32 actual = Abs(AxialOf(m, member.family)[member.index] / group.GroupArea);
+  rows.push_back(StressLabel(member));
+  rows.push_back(ActualLine(type, member, actual));
+  rows.push_back(AllowableLine(m));
+  rows.push_back("Assumes min. lateral bracing of " + FormatNumber(m.MinBracingLength, "0.00") +
+                 " ft");
+}
+
+}  // namespace
+
+void TRUSS_ALL_COMP(const Float32& length, const Float32& E, const Float32& B, const Float32& D,
+                    Float32& result) {
+  result = 0;
+  if (!(B > 0) || !(D > 0)) return;
+  const Number slenderness = kInchesPerFoot * length / SmallerSide(B, D);
+  result = 0.3 * E / Square(slenderness);
+}
+
+bool HasAreas(const MemberSelection& selection) {
+  return std::none_of(selection.Groups.begin(), selection.Groups.end(),
+                      [](const TrussMemberGroup& group) { return group.GroupArea == 0; });
+}
+
+void CheckStresses(TrussJob& job, std::vector<std::string>& rows) {
+  const TrussTypeInfo& type = TrussTypeOf(job.session.TrussType);
+  rows = {""};
+  for (const Member& member : MembersOf(type.checkedMembers, job.HalfSpans())) {
+    CheckMember(job, type, member, rows);
+  }
+}
+
+}  // namespace lignara

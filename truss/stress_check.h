@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "truss/active_model.h"
+
+namespace lignara {
+
+/// Euler value of a column, psi: 0.3 E / (l / d)^2, d being the smaller side. `length` in ft, `E`
+/// in psi, `B` and `D` in inches. 0 where a side is not above 0, or where the length is 0 (a
+/// fault).
+void TRUSS_ALL_COMP(const Float32& length, const Float32& E, const Float32& B, const Float32& D,
+                    Float32& result);
+
+/// True where all four member groups have an area. The test is for 0: a negative one passes.
+bool HasAreas(const MemberSelection& selection);
+
+/// Rebuilds `rows`, the list "Actual and Allowable Axial Stresses": a blank line, then four lines a
+/// member. The allowable stress is the lesser of the group's tension and compression value for any
+/// member, with full lateral bracing; the list says at which distance that is given (a slenderness
+/// of 50).
+void CheckStresses(TrussJob& job, std::vector<std::string>& rows);
+
+}  // namespace lignara
