@@ -1,0 +1,107 @@
+#include "truss/canvas.h"
+
+#include "app/fault.h"
+#include "truss/drawn_geometry.h"
+#include "truss/truss_painter.h"
+
+namespace lignara {
+namespace {
+
+constexpr double kZoomStep = 0.1;
+constexpr double kZoomLimit = 2.5;
+constexpr int kBarStep = 600;
+
+/// Nine tenths of the canvas's width and seven tenths of its height hold the truss at zoom 1.
+void SetScales(TrussView& view, const SessionState& session) {
+  const Number width = kCanvasWidth - 0.1 * kCanvasWidth;
+  const Number height = kCanvasHeight - 0.3 * kCanvasHeight;
+  view.PixelsPerFootX = width / session.TrussLength * view.ZoomFactor;
+  view.PixelsPerFootY = height / session.TrussHeight * view.ZoomFactor;
+}
+
+/// The colour of a member after a run, by the axial load as it stands in the lists.
+Colour StressColour(const Float32& axial) {
+  if (axial > 0.0) return Colour::RoyalBlue;
+  return axial < 0.0 ? Colour::DarkOrange : Colour::Gray;
+}
+
+Colour MemberColour(const TrussWindow& window, const Member& member) {
+  if (!window.view.resultsShown) return Colour::Black;
+  return StressColour(AxialOf(window.model, member.family)[member.index]);
+}
+
+void DrawMembers(const TrussWindow& window, const TrussShape& shape, TrussPainter& painter) {
+  for (const MemberLine& line : LayoutOf(shape)) {
+    painter.DrawMember(line, MemberColour(window, line.member));
+  }
+}
+
+void DrawArrow(const TrussWindow& window, const SessionState& session, const TrussShape& shape,
+               TrussPainter& painter) {
+  const int row = window.view.markedRow;
+  if (row < 1) return;
+  const auto nodes = TopNodesInRows(TopNodesOf(window.model, session));
+  if (row > static_cast<int>(nodes.size())) return;
+  painter.DrawArrow(TopNodePoint(shape, nodes[static_cast<std::size_t>(row - 1)]));
+}
+
+void Zoom(TrussWindow& window, const SessionState& session, Platform& platform, double step) {
+  FaultScope faults(platform);
+  TrussView& view = window.view;
+  view.ZoomFactor = view.ZoomFactor + step * view.ZoomFactor;
+  view.markedRow = -1;
+  RedrawTruss(window, session, platform);
+}
+
+}  // namespace
+
+void ResetView(TrussView& view, const SessionState& session) {
+  view.ZoomFactor = 1.0;
+  view.markedRow = -1;
+  SetScales(view, session);
+  view.CanvasOriginX = view.PixelsPerFootX;
+  view.CanvasOriginY = kCanvasHeight - view.PixelsPerFootY * 0.2 * session.TrussHeight;
+}
+
+void RedrawTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  TrussJob job{window.model, session, platform};
+  SetDrawnGeometry(job);
+  SetScales(window.view, session);
+  const TrussShape shape = ShapeOf(window.model, session);
+  TrussPainter painter(window.view);
+  DrawMembers(window, shape, painter);
+  DrawArrow(window, session, shape, painter);
+  window.view.MemberMark = painter.TakeMarks();
+  window.view.drawing = painter.TakeDrawing();
+}
+
+Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
+  const TrussShape shape = ShapeOf(window.model, session);
+  TrussPainter painter(window.view);
+  // Builders of Howe trusses number the centre post as the one of its family.
+  painter.centreName = shape.type == "HOWE" ? "CV1" : "CV";
+  for (const MemberLine& line : LayoutOf(shape)) painter.DrawMember(line, Colour::Black);
+  const bool level = HasLevelTop(shape.type);
+  for (const TopNode& node : TopNodesInRows(TopNodesOf(window.model, session))) {
+    painter.DrawNodeName(TopNodePoint(shape, node), node.side, level, NodeLabel(node, shape.type));
+  }
+  return painter.TakeDrawing();
+}
+
+void EnlargeTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
+  if (window.view.ZoomFactor < kZoomLimit) Zoom(window, session, platform, kZoomStep);
+}
+
+void ReduceTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
+  Zoom(window, session, platform, -kZoomStep);
+}
+
+void PanTruss(TrussWindow& window, const SessionState& session, Platform& platform, int barValue) {
+  FaultScope faults(platform);
+  window.view.CanvasOriginX = Number(barValue) * kBarStep;
+  window.view.markedRow = -1;
+  RedrawTruss(window, session, platform);
+}
+
+}  // namespace lignara

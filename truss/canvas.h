@@ -1,0 +1,22 @@
+#pragma once
+
+#include "truss/truss_window.h"
+
+namespace lignara {
+
+/// Radius of the circle on each member, in canvas units.
+inline constexpr int kMarkRadius = 50;
+
+/// The view of a window that opens: zoom 1, scales, origin, no arrow.
+void ResetView(TrussView& view, const SessionState& session);
+
+/// Draws the truss anew at the view's zoom and origin: geometry of the drawing, scales, picture and
+/// marks. The node of `markedRow` keeps its arrow. After a run members show tension and
+/// compression.
+void RedrawTruss(TrussWindow& window, const SessionState& session, Platform& platform);
+
+/// The truss for paper, at the scales and the origin of the view: members in black, and a name
+/// beside each top node.
+Drawing PageDrawing(const TrussWindow& window, const SessionState& session);
+
+}  // namespace lignara

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "truss/active_model.h"
+
+namespace lignara {
+
+enum class NodeSide { Left, Right, Peak };
+
+/// A node of the top chord that can be loaded: element `index` of `PL` or `PR`, or `PT`.
+struct TopNode {
+  NodeSide side;
+  int index = 0;
+};
+
+/// The elements of `PL` and `PR` that are nodes, and whether `PT` is one.
+struct TopNodeRange {
+  int first = 1;
+  int last = 0;
+  bool peak = true;
+
+  int count() const { return last - first + 1; }
+};
+
+/// The nodes by type. A Warren truss counts them from 0, over the support; its midspan node is on
+/// the top chord or not, as `WarrenChord` says.
+TopNodeRange TopNodesOf(const ActiveModel& model, const SessionState& session);
+
+/// The nodes in the order of the node list: left half, peak, right half.
+std::vector<TopNode> TopNodesInRows(const TopNodeRange& range);
+/// The nodes in the order of the report: left half, right half, peak.
+std::vector<TopNode> TopNodesInReport(const TopNodeRange& range);
+
+/// The load on a node, lbs.
+Float32& NodeLoad(ActiveModel& model, const TopNode& node);
+const Float32& NodeLoad(const ActiveModel& model, const TopNode& node);
+
+/// The deflection of a node, in.
+const Float32& NodeDeflection(const ActiveModel& model, const TopNode& node);
+
+/// "PL 1", "PT": the name of a node's load. Scissors trusses write "PL1".
+std::string LoadLabel(const TopNode& node, const std::string& trussType);
+/// "LN 1", "TN": the name of a node in the report. Scissors trusses write "LN1".
+std::string NodeLabel(const TopNode& node, const std::string& trussType);
+
+}  // namespace lignara

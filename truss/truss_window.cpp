@@ -1,0 +1,39 @@
+#include "truss/truss_window.h"
+
+#include "app/fault.h"
+#include "truss/canvas.h"
+#include "truss/truss_types.h"
+
+namespace lignara {
+namespace {
+
+/// A king post truss has a panel on each side of its post, though its arrays are made for four.
+void SetPanelLength(SessionState& session) {
+  const bool kingPost = session.TrussType == "KINGPOST";
+  session.PanelLength = session.TrussLength / (kingPost ? Number(2) : Number(session.TrussSpans));
+}
+
+void ShowReportChoices(TrussWindow& window, const SessionState& session) {
+  window.titleText = session.ReportTitle;
+  window.descriptionText = session.ReportDescription;
+  window.fontTimes = session.ReportFont.Name != "Arial";
+  window.fontTen = session.ReportFont.Size.value() != 8;
+}
+
+}  // namespace
+
+void OpenTruss(TrussWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  window = TrussWindow();
+  window.title = TrussTypeOf(session.TrussType).title;
+  SetPanelLength(session);
+  const int half = HalfSpans(session);
+  window.model.PL.Allocate(half);
+  window.model.PR.Allocate(half);
+  ShowReportChoices(window, session);
+  ResetView(window.view, session);
+  RedrawTruss(window, session, platform);
+  SHOW_NODE_LOADS(window, session);
+}
+
+}  // namespace lignara
