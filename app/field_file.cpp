@@ -1,0 +1,119 @@
+#include "app/field_file.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <sstream>
+#include <utility>
+
+#include "app/data_directory.h"
+#include "app/number_text.h"
+
+namespace lignara {
+namespace {
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+/// The bytes of a file; nothing where it cannot be read. A directory is no file.
+std::optional<std::string> FileText(const std::string& path) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  std::ostringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+}  // namespace
+
+FieldStream::FieldStream(std::string text) : text_(std::move(text)) {
+  if (text_.starts_with(kUtf8Mark)) at_ = kUtf8Mark.size();
+}
+
+void FieldStream::SkipBlanks() {
+  while (at_ < text_.size() && IsBlank(text_[at_])) ++at_;
+}
+
+bool FieldStream::AtEnd() {
+  while (at_ < text_.size() && (IsBlank(text_[at_]) || AtLineEnd())) ++at_;
+  return at_ >= text_.size();
+}
+
+std::optional<std::string> FieldStream::Next() {
+  if (AtEnd()) return std::nullopt;
+  std::string field = text_[at_] == '"' ? QuotedField() : BareField();
+  // Nothing between a closing quote and the end of its field counts.
+  while (at_ < text_.size() && text_[at_] != ',' && !AtLineEnd()) ++at_;
+  if (at_ < text_.size()) ++at_;
+  return field;
+}
+
+std::string FieldStream::QuotedField() {
+  std::string field;
+  for (++at_; at_ < text_.size() && !AtLineEnd(); ++at_) {
+    if (text_[at_] == '"') {
+      ++at_;
+      if (at_ >= text_.size() || text_[at_] != '"') break;
+    }
+    field += text_[at_];
+  }
+  return field;
+}
+
+std::string FieldStream::BareField() {
+  const std::size_t start = at_;
+  at_ = std::min(text_.find_first_of(",\r\n", at_), text_.size());
+  std::size_t end = at_;
+  while (end > start && IsBlank(text_[end - 1])) --end;
+  return text_.substr(start, end - start);
+}
+
+FieldFile::FieldFile(const std::string& dataDirectory, const std::string& fileName,
+                     Platform& platform)
+    : platform_(platform), fileName_(fileName), fields_("") {
+  std::optional<std::string> text;
+  if (!fileName.empty()) text = FileText(DataPath(dataDirectory, fileName));
+  missing_ = !text;
+  if (missing_) {
+    Report(fileName.empty() ? "This row names no file" : "Cannot open " + fileName);
+  } else {
+    fields_ = FieldStream(std::move(*text));
+  }
+}
+
+std::string FieldFile::ReadText() { return Next().value_or(""); }
+
+double FieldFile::ReadValue() {
+  const Number number = ReadNumber(Next().value_or(""));
+  if (number.fault() != Fault::None) Report("A number in " + fileName_ + " is too large");
+  return number.value();
+}
+
+int FieldFile::ReadCount() {
+  const double count = std::nearbyint(ReadValue());
+  if (std::fabs(count) <= std::numeric_limits<std::int16_t>::max()) {
+    return std::max(static_cast<int>(count), 0);
+  }
+  Report("A number in " + fileName_ + " is too large");
+  return 0;
+}
+
+std::optional<std::string> FieldFile::Next() {
+  std::optional<std::string> field = fields_.Next();
+  if (!field && !missing_) Report("The file " + fileName_ + " is too short");
+  return field;
+}
+
+void FieldFile::Report(const std::string& text) {
+  if (text == lastReport_) return;
+  lastReport_ = text;
+  platform_.ShowMessage({text});
+}
+
+}  // namespace lignara

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/platform.h"
+#include "app/stored_number.h"
+
+namespace lignara {
+
+/// A text as a stream of fields, each ended by a comma or a line end.
+///
+/// - A field may stand in double quotes, which keep commas and blanks; two quotes in it stand for
+///   one. A quote that is never closed ends with its line.
+/// - Blanks around a field do not count. Blank lines are passed over, and so is a comma at the end
+///   of a line: a record may break over lines.
+/// - Line ends of all systems serve; a UTF-8 mark at the start is passed over.
+class FieldStream {
+ public:
+  explicit FieldStream(std::string text);
+
+  /// The next field; nothing behind the last one.
+  std::optional<std::string> Next();
+  /// True where nothing but blank lines is left.
+  bool AtEnd();
+
+ private:
+  void SkipBlanks();
+  std::string QuotedField();
+  std::string BareField();
+  bool AtLineEnd() const { return text_[at_] == '\n' || text_[at_] == '\r'; }
+
+  std::string text_;
+  std::size_t at_ = 0;
+};
+
+/// A comma-separated file of the data directory, read field by field.
+///
+/// A file that cannot be opened, or that ends too early, is shown once in a plain box; the field is
+/// then empty or 0, and the reading goes on. Text behind the last field asked for is passed over.
+class FieldFile {
+ public:
+  FieldFile(const std::string& dataDirectory, const std::string& fileName, Platform& platform);
+
+  /// The next field as text.
+  std::string ReadText();
+  /// The next field as a number; 0 where it is none, or too large.
+  double ReadValue();
+  /// The next field as the count of the records that follow: 0 to 32767. What is no such number is
+  /// 0, and a negative count too.
+  int ReadCount();
+  /// True where no further field can be read.
+  bool AtEnd() { return fields_.AtEnd(); }
+
+ private:
+  std::optional<std::string> Next();
+  /// Shows what happened, unless the file has shown the same before.
+  void Report(const std::string& text);
+
+  Platform& platform_;
+  std::string fileName_;
+  FieldStream fields_;
+  bool missing_ = false;
+  std::string lastReport_;
+};
+
+}  // namespace lignara
