@@ -93,7 +93,7 @@ void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& p
 /// The window `wdb` was closed: its stresses go to the ticked groups, and all boxes are filled.
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// "Wood Type Data Base".
-void OpenWoodDataBaseFor(SessionState& session, Platform& platform);
+void VisitWoodDataBase(SessionState& session, Platform& platform);
 /// "OK": reads all boxes into the current member and closes the window.
 void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// "Cancel".

@@ -1,0 +1,69 @@
+#include "wood/custom_size.h"
+
+#include "app/fault.h"
+#include "app/number_text.h"
+
+namespace lignara {
+namespace {
+
+constexpr const char* kTwoDecimals = "0.00";
+
+}  // namespace
+
+void FollowGroupSize(MemberSizeWindow& window, SessionState& session, MemberGroup group) {
+  if (window.sizeInProgress) return;
+  GroupPanel& panel = window.Group(group);
+  TrussMemberGroup& member = session.Member.Group(group);
+  panel.size = kCustomSize;
+  member.GroupArea = ReadNumber(panel.b) * ReadNumber(panel.d);
+  panel.area = FormatNumber(member.GroupArea, kTwoDecimals);
+}
+
+void TakeBeamSection(MemberSizeWindow& window, MemberSelection& member, const Float64& width,
+                     const Float64& depth) {
+  member.SectionArea = width * depth;
+  member.NominalWidth = width;
+  member.DressedB = width;
+  member.NominalDepth = depth;
+  member.DressedD = depth;
+  member.SectionIx = RectangleInertia(width, depth);
+  member.SectionIy = RectangleInertia(depth, width);
+  member.SectionSx = member.SectionIx / (0.5 * depth);
+  member.SectionSy = member.SectionIy / (0.5 * width);
+  BeamPanel& beam = window.beam;
+  beam.area = FormatNumber(member.SectionArea, kTwoDecimals);
+  beam.ix = FormatNumber(member.SectionIx, kTwoDecimals);
+  beam.iy = FormatNumber(member.SectionIy, kTwoDecimals);
+  beam.sx = FormatNumber(member.SectionSx, kTwoDecimals);
+  beam.sy = FormatNumber(member.SectionSy, kTwoDecimals);
+}
+
+void EditGroupBox(MemberSizeWindow& window, SessionState& session, Platform& platform,
+                  MemberGroup group, GroupBox box) {
+  FaultScope faults(platform);
+  switch (box) {
+    case GroupBox::B:
+    case GroupBox::D:
+      FollowGroupSize(window, session, group);
+      break;
+    case GroupBox::Area:
+      session.Member.Group(group).GroupArea = ReadNumber(window.Group(group).area);
+      break;
+    case GroupBox::Fa:
+    case GroupBox::Ft:
+    case GroupBox::E:
+      break;  // "OK" reads them
+  }
+}
+
+void EditBeamSize(MemberSizeWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  if (window.sizeInProgress) return;
+  const Float64 width = ReadNumber(window.beam.b);
+  const Float64 depth = ReadNumber(window.beam.d);
+  if (width == 0 || depth == 0) return;
+  TakeBeamSection(window, session.Member, width, depth);
+  window.beam.size = kCustomSize;
+}
+
+}  // namespace lignara

@@ -1,0 +1,158 @@
+#include "wood/member_size.h"
+
+#include "app/fault.h"
+#include "app/number_text.h"
+#include "wood/custom_size.h"
+
+namespace lignara {
+namespace {
+
+constexpr const char* kTwoDecimals = "0.00";
+constexpr const char* kThreeDigits = "0.00E+00";
+
+/// A field of a member group and the box that shows it.
+struct GroupField {
+  Float32 TrussMemberGroup::*value;
+  std::string GroupPanel::*box;
+  const char* pattern;
+  bool endsSize = false;  ///< the last box of the size: filling it counts as a change of the size
+};
+
+constexpr GroupField kGroupFields[] = {
+    {&TrussMemberGroup::GroupFa, &GroupPanel::fa, kTwoDecimals},
+    {&TrussMemberGroup::GroupFt, &GroupPanel::ft, kTwoDecimals},
+    {&TrussMemberGroup::GroupE, &GroupPanel::e, kThreeDigits},
+    {&TrussMemberGroup::GroupB, &GroupPanel::b, kTwoDecimals},
+    {&TrussMemberGroup::GroupD, &GroupPanel::d, kTwoDecimals, true},
+    {&TrussMemberGroup::GroupArea, &GroupPanel::area, kTwoDecimals},
+};
+
+/// A field of the beam member and the box that shows it.
+struct BeamField {
+  Float32 MemberSelection::*value;
+  std::string BeamPanel::*box;
+  const char* pattern;
+  bool readBack = true;  ///< "OK" reads the box; the stresses are those of the data base
+};
+
+constexpr BeamField kBeamFields[] = {
+    {&MemberSelection::AllowFb, &BeamPanel::fb, kTwoDecimals, false},
+    {&MemberSelection::AllowFc, &BeamPanel::fa, kTwoDecimals, false},
+    {&MemberSelection::AllowFv, &BeamPanel::fv, kTwoDecimals, false},
+    {&MemberSelection::AllowFt, &BeamPanel::ft, kTwoDecimals, false},
+    {&MemberSelection::ModulusE, &BeamPanel::e, kThreeDigits},
+    {&MemberSelection::DressedB, &BeamPanel::b, kTwoDecimals},
+    {&MemberSelection::DressedD, &BeamPanel::d, kTwoDecimals},
+    {&MemberSelection::SectionArea, &BeamPanel::area, kTwoDecimals},
+    {&MemberSelection::SectionIx, &BeamPanel::ix, kTwoDecimals},
+    {&MemberSelection::SectionIy, &BeamPanel::iy, kTwoDecimals},
+    {&MemberSelection::SectionSx, &BeamPanel::sx, kTwoDecimals},
+    {&MemberSelection::SectionSy, &BeamPanel::sy, kTwoDecimals},
+};
+
+std::string GradeLabel(const MemberSelection& member) {
+  return member.GradeText + ", " + member.WoodTypeText;
+}
+
+void ShowBeam(BeamPanel& panel, const MemberSelection& member) {
+  for (const BeamField& field : kBeamFields) {
+    panel.*field.box = FormatNumber(member.*field.value, field.pattern);
+  }
+  panel.size = member.SizeName;
+  panel.gradeLabel = GradeLabel(member);
+}
+
+void ReadBeam(const MemberSizeWindow& window, MemberSelection& member) {
+  for (const BeamField& field : kBeamFields) {
+    if (field.readBack) member.*field.value = ReadNumber(window.beam.*field.box);
+  }
+  member.SizeName = window.selection.size;
+  member.BeamGradeLabel = window.beam.gradeLabel;
+}
+
+/// Hands the stresses of the data base to the ticked groups.
+void TakeDataBaseStresses(const MemberSizeWindow& window, MemberSelection& member) {
+  for (std::size_t i = 0; i < member.Groups.size(); ++i) {
+    if (!window.groups[i].ticked) continue;
+    TrussMemberGroup& group = member.Groups[i];
+    group.GroupFt = member.AllowFt;
+    group.GroupFa = member.AllowFc;
+    group.GroupE = member.ModulusE;
+    group.GroupGradeLabel = GradeLabel(member);
+  }
+}
+
+void ShowGroup(MemberSizeWindow& window, SessionState& session, MemberGroup group) {
+  const TrussMemberGroup& member = session.Member.Group(group);
+  GroupPanel& panel = window.Group(group);
+  for (const GroupField& field : kGroupFields) {
+    panel.*field.box = FormatNumber(member.*field.value, field.pattern);
+    if (field.endsSize) FollowGroupSize(window, session, group);
+  }
+  panel.size = member.GroupSizeName;
+  panel.gradeLabel = member.GroupGradeLabel;
+}
+
+void ReadGroups(const MemberSizeWindow& window, MemberSelection& member) {
+  for (std::size_t i = 0; i < member.Groups.size(); ++i) {
+    const GroupPanel& panel = window.groups[i];
+    TrussMemberGroup& group = member.Groups[i];
+    for (const GroupField& field : kGroupFields) {
+      group.*field.value = ReadNumber(panel.*field.box);
+    }
+    group.GroupGradeLabel = panel.gradeLabel;
+  }
+}
+
+/// Fills all boxes from the current member.
+void ShowMember(MemberSizeWindow& window, SessionState& session) {
+  if (session.DesignMode == "BEAM") ShowBeam(window.beam, session.Member);
+  if (session.DesignMode != "TRUSS") return;
+  if (session.Member.DataBaseReturn == -1) TakeDataBaseStresses(window, session.Member);
+  for (const MemberGroup group :
+       {MemberGroup::Top, MemberGroup::Bottom, MemberGroup::Diagonal, MemberGroup::Vertical}) {
+    ShowGroup(window, session, group);
+  }
+}
+
+}  // namespace
+
+void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  window = MemberSizeWindow();
+  window.groupsShown = session.DesignMode == "TRUSS";
+  window.beamShown = session.DesignMode == "BEAM";
+  // "OK" without "Accept" keeps the beam's size, so it has to stand there.
+  if (window.beamShown) window.selection.size = session.Member.SizeName;
+  ShowMember(window, session);
+}
+
+void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  ShowMember(window, session);
+}
+
+void VisitWoodDataBase(SessionState& session, Platform& platform) {
+  session.Member.DataBaseReturn = -1;
+  platform.OpenWindow("wdb");
+}
+
+void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  MemberSelection& member = session.Member;
+  member.MemberSource = 1;
+  member.DataBaseE = ReadNumber(window.Group(MemberGroup::Bottom).fa);
+  if (session.DesignMode == "BEAM") ReadBeam(window, member);
+  if (session.DesignMode == "TRUSS") ReadGroups(window, member);
+  member.DataBaseReturn = 0;
+  platform.CloseWindow("WTYPETR");
+}
+
+void CancelMemberSize(SessionState& session, Platform& platform) {
+  session.Member.DataBaseReturn = 0;
+  platform.CloseWindow("WTYPETR");
+}
+
+void ExitMemberSize(Platform& platform) { platform.CloseWindow("WTYPETR"); }
+
+}  // namespace lignara
