@@ -1,0 +1,124 @@
+#include "desktop/binding.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include "desktop/picture.h"
+#include "desktop/text.h"
+
+namespace lignara {
+
+void Binding::Field(QLineEdit* field, std::string* text, Command typed) {
+  QObject::connect(field, &QLineEdit::textEdited, [this, text, typed](const QString& now) {
+    Run([&] {
+      *text = FromQt(now);
+      if (typed) typed();
+    });
+  });
+  Text(field, text);
+}
+
+void Binding::Text(QLineEdit* field, const std::string* text) {
+  Follow([field, text] {
+    if (field->text() != ToQt(*text)) field->setText(ToQt(*text));
+  });
+}
+
+void Binding::Text(QLabel* label, const std::string* text) {
+  Follow([label, text] {
+    if (label->text() != ToQt(*text)) label->setText(ToQt(*text));
+  });
+}
+
+void Binding::List(QListWidget* list, const std::vector<std::string>* rows, const int* row,
+                   RowCommand chosen) {
+  list->setUniformItemSizes(true);
+  Follow([list, rows, row, shown = std::vector<std::string>()]() mutable {
+    const QSignalBlocker silent(list);
+    if (shown != *rows || list->count() != static_cast<int>(rows->size())) {
+      const int scrolled = list->verticalScrollBar()->value();
+      list->clear();
+      for (const std::string& text : *rows) list->addItem(ToQt(text));
+      list->verticalScrollBar()->setValue(scrolled);
+      shown = *rows;
+    }
+    if (row != nullptr && list->currentRow() != *row) list->setCurrentRow(*row);
+  });
+  if (!chosen) return;
+  const auto choose = [this, chosen](int at) {
+    if (at >= 0) Run([&] { chosen(at); });
+  };
+  // A mouse press moves the current row first and is a click only when released.
+  QObject::connect(list, &QListWidget::currentRowChanged, [choose](int at) {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) choose(at);
+  });
+  QObject::connect(list, &QListWidget::itemClicked,
+                   [list, choose](QListWidgetItem* item) { choose(list->row(item)); });
+}
+
+void Binding::Press(QAbstractButton* button, Command command) {
+  QObject::connect(button, &QAbstractButton::clicked, [this, command] { Run(command); });
+}
+
+void Binding::Menu(QAction* action, Command command) {
+  QObject::connect(action, &QAction::triggered, [this, command] { Run(command); });
+}
+
+void Binding::Check(QAbstractButton* button, bool* checked, Command changed) {
+  button->setCheckable(true);
+  QObject::connect(button, &QAbstractButton::clicked, [this, checked, changed](bool now) {
+    Run([&] {
+      *checked = now;
+      if (changed) changed();
+    });
+  });
+  Follow([button, checked] { button->setChecked(*checked); });
+}
+
+void Binding::Shown(QWidget* panel, const bool* shown) {
+  Shown(panel, [shown] { return *shown; });
+}
+
+void Binding::Shown(QWidget* panel, Condition shown) {
+  Follow([panel, shown] {
+    const bool was = !panel->isHidden();
+    if (was != shown()) panel->setVisible(!was);
+  });
+}
+
+void Binding::Enabled(QWidget* widget, Condition enabled) {
+  Follow([widget, enabled] { widget->setEnabled(enabled()); });
+}
+
+void Binding::Enabled(QAction* action, Condition enabled) {
+  Follow([action, enabled] { action->setEnabled(enabled()); });
+}
+
+void Binding::Show(Picture* picture, const Drawing* drawing) {
+  Follow([picture, drawing] { picture->SetDrawing(*drawing); });
+}
+
+void Binding::Scroll(QScrollBar* bar, RowCommand moved) {
+  QObject::connect(bar, &QScrollBar::valueChanged,
+                   [this, moved](int value) { Run([&] { moved(value); }); });
+}
+
+void Binding::Follow(Command refresh) { refreshers_.push_back(std::move(refresh)); }
+
+void Binding::Refresh() {
+  for (const Command& refresh : refreshers_) refresh();
+}
+
+void Binding::Run(const Command& command) {
+  if (released_) return;
+  command();
+  afterCommand_();
+}
+
+}  // namespace lignara

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/drawing.h"
+
+class QAbstractButton;
+class QAction;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QScrollBar;
+class QWidget;
+
+namespace lignara {
+
+class Picture;
+
+/// Ties the widgets of a window to the members of its record, once each. A user's action writes the
+/// record and calls the command; after every command all windows show their records again.
+///
+/// The record has to live as long as the window.
+class Binding {
+ public:
+  using Command = std::function<void()>;
+  using RowCommand = std::function<void(int row)>;
+  using Condition = std::function<bool()>;
+
+  /// `afterCommand` makes all open windows show their records.
+  explicit Binding(Command afterCommand) : afterCommand_(std::move(afterCommand)) {}
+
+  /// A text that the user types. `typed`, if any, runs after each change by the user.
+  void Field(QLineEdit* field, std::string* text, Command typed = {});
+  /// A text that the window only shows.
+  void Text(QLabel* label, const std::string* text);
+  void Text(QLineEdit* field, const std::string* text);
+  /// A list and its chosen row (-1 none). `chosen` runs after a click or a move by keyboard; a list
+  /// that is only read has none.
+  void List(QListWidget* list, const std::vector<std::string>* rows, const int* row = nullptr,
+            RowCommand chosen = {});
+  void Press(QAbstractButton* button, Command command);
+  void Menu(QAction* action, Command command);
+  /// A check box or one option of a group.
+  void Check(QAbstractButton* button, bool* checked, Command changed = {});
+  void Shown(QWidget* panel, const bool* shown);
+  void Shown(QWidget* panel, Condition shown);
+  void Enabled(QWidget* widget, Condition enabled);
+  void Enabled(QAction* action, Condition enabled);
+  void Show(Picture* picture, const Drawing* drawing);
+  void Scroll(QScrollBar* bar, RowCommand moved);
+  /// Anything else that has to follow the record.
+  void Follow(Command refresh);
+
+  /// Shows the record in all widgets.
+  void Refresh();
+  /// Runs a command as if a widget had called it.
+  void Run(const Command& command);
+  /// From now on nothing that the widgets say reaches the record: the window is gone.
+  void Release() { released_ = true; }
+
+ private:
+  Command afterCommand_;
+  bool released_ = false;
+  std::vector<Command> refreshers_;
+};
+
+}  // namespace lignara

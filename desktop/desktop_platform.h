@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "app/platform.h"
+#include "app/session_state.h"
+
+namespace lignara {
+
+class ToolWindow;
+
+/// The program's surroundings on a desktop: real windows, dialogs, printer and help.
+class DesktopPlatform : public Platform {
+ public:
+  explicit DesktopPlatform(SessionState& session) : session_(session) {}
+  ~DesktopPlatform() override;
+
+  void ShowMessage(const Message& message) override;
+  bool AskYesNo(const std::string& title, const std::string& text) override;
+  std::optional<std::string> PromptText(const std::string& title, const std::string& text,
+                                        const std::string& initial) override;
+  std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
+  void OpenWindow(const std::string& name) override;
+  void CloseWindow(const std::string& name) override;
+  bool HasWindow(const std::string& name) const override;
+  void PrintReport(const Report& report) override;
+  void ShowHelp(const std::string& path, const std::string& section) override;
+  void SetBusyPointer(bool busy) override;
+
+  /// The open window of a name; null where there is none.
+  ToolWindow* FindWindow(const QString& name) const;
+  /// The names of the open windows, the newest last.
+  QStringList OpenWindows() const;
+  /// True while a modal window that was opened later keeps the user out of this one.
+  bool IsBlocked(const ToolWindow* window) const;
+  /// All open windows show their records again.
+  void RefreshWindows();
+
+ private:
+  /// The modal window that was opened last; null where there is none.
+  ToolWindow* NewestModal() const;
+  void Place(ToolWindow* window);
+  /// Windows that belong to one that closes live on with its own parent.
+  void AdoptChildren(ToolWindow* closing);
+
+  SessionState& session_;
+  std::vector<ToolWindow*> windows_;  // in the order of opening
+};
+
+}  // namespace lignara

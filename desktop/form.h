@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+namespace lignara {
+
+/// Adds a row "caption | field" to a grid. The caption carries the mnemonic; the field is known by
+/// the plain caption. Returns the field.
+QLineEdit* AddField(QGridLayout* grid, const QString& caption, int width = 96);
+
+/// The same for a value that is only shown.
+QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width = 96);
+
+/// A field without a caption of its own, known by a name.
+QLineEdit* MakeField(const QString& name, int width = 96);
+
+/// A list in the font of figures, known by a name.
+QListWidget* MakeList(const QString& name, int rows = 8);
+
+/// A label in bold letters.
+QLabel* MakeHeading(const QString& text);
+
+}  // namespace lignara

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace lignara {
+
+class ToolWindow;
+
+/// Shows a help document in the help window, at a section. Without the document the window says so.
+void ShowHelpDocument(ToolWindow* helpWindow, const QString& path, const QString& section);
+
+}  // namespace lignara

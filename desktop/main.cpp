@@ -1,0 +1,18 @@
+#include <QApplication>
+#include <QDir>
+
+#include "app/fault.h"
+#include "app/launcher.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/text.h"
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(lignara::kProgramName);
+  lignara::SessionState session;
+  lignara::DesktopPlatform platform(session);
+  lignara::FaultScope faults(platform);
+  lignara::StartSession(session, lignara::FromQt(QDir::currentPath()));
+  platform.OpenWindow("main");
+  return QApplication::exec();
+}

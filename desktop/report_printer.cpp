@@ -1,0 +1,81 @@
+#include "desktop/report_printer.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "app/report.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/picture.h"
+#include "desktop/text.h"
+
+namespace lignara {
+namespace {
+
+/// Puts the items of a report on the pages of a printer, one below the other.
+class PagePainter {
+ public:
+  PagePainter(QPrinter& printer, const Report& report)
+      : printer_(printer),
+        painter_(&printer),
+        page_(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size()) {
+    QFont font(ToQt(report.fontName), report.fontSize);
+    font.setStyleHint(QFont::Serif);
+    painter_.setFont(font);
+    const QFontMetricsF metrics(font, &printer);
+    lineHeight_ = metrics.lineSpacing();
+    ascent_ = metrics.ascent();
+    // Letters differ in width; digits do not, and a zone has to hold the numbers of a column.
+    zoneWidth_ = metrics.horizontalAdvance('0') * static_cast<double>(kPrintZone);
+  }
+
+  void operator()(const ReportLine& line) {
+    if (y_ + lineHeight_ > page_.height()) operator()(NewPage{});
+    double x = zoneWidth_ * static_cast<double>(line.emptyZones);
+    for (const std::string& item : line.items) {
+      painter_.drawText(QPointF(x, y_ + ascent_), ToQt(item));
+      x += zoneWidth_ * static_cast<double>(item.size() / kPrintZone + 1);
+    }
+    y_ += lineHeight_;
+  }
+
+  void operator()(const NewPage&) {
+    printer_.newPage();
+    y_ = 0;
+  }
+
+  void operator()(const Drawing& drawing) {
+    const double height = page_.width() * drawing.height / drawing.width;
+    if (y_ > 0 && y_ + height > page_.height()) operator()(NewPage{});
+    PaintDrawing(painter_, QRectF(0, y_, page_.width(), height), drawing, QPalette(Qt::white));
+    y_ += height;
+  }
+
+ private:
+  QPrinter& printer_;
+  QPainter painter_;
+  const QRectF page_;
+  double lineHeight_ = 0;
+  double ascent_ = 0;
+  double zoneWidth_ = 0;
+  double y_ = 0;
+};
+
+}  // namespace
+
+void PrintOnPaper(const Report& report, DesktopPlatform& platform) {
+  QPrinter printer(QPrinter::HighResolution);
+  if (QPrinterInfo::defaultPrinter().isNull()) {
+    const auto path = platform.ChooseSaveFile("PDF(*.pdf)|*.pdf|");
+    if (!path) return;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(ToQt(*path));
+  }
+  printer.setPageSize(QPageSize(QPageSize::Letter));
+  printer.setPageMargins(QMarginsF(0.75, 0.75, 0.75, 0.75), QPageLayout::Inch);
+  PagePainter page(printer, report);
+  for (const Report::Item& item : report.items()) std::visit(page, item);
+}
+
+}  // namespace lignara

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "desktop/tool_window.h"
+
+namespace lignara {
+
+// One maker a window; each stands in the file of its window.
+ToolWindow* MakeLauncherWindow(WindowContext context);
+ToolWindow* MakeQuestionWindow(WindowContext context);
+ToolWindow* MakeAboutWindow(WindowContext context);
+ToolWindow* MakeHelpWindow(WindowContext context);
+ToolWindow* MakeTrussInputWindow(WindowContext context);
+ToolWindow* MakeTrussWindow(WindowContext context);
+ToolWindow* MakeMemberSizeWindow(WindowContext context);
+ToolWindow* MakeWoodDataBaseWindow(WindowContext context);
+
+}  // namespace lignara

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+class QAction;
+class QMainWindow;
+class QWidget;
+
+namespace lignara {
+
+/// The caption by which a script names a widget; empty for one without.
+QString CaptionOf(const QWidget* widget);
+
+/// A choice among widgets, such as "lists".
+using WidgetFilter = std::function<bool(const QWidget*)>;
+
+/// The control that a path of captions names: its own caption last, before it, where needed, those
+/// of panels around it. `tiers` are tried in order; the first in which something is named decides.
+/// Among several, one that the captions name in full wins over those deeper inside panels. Throws
+/// ScriptError when there is none, or more than one.
+QWidget* FindControl(QMainWindow* window, const QStringList& path,
+                     const std::vector<WidgetFilter>& tiers);
+
+/// The menu item that a path of captions names, from the menu bar on. Null when there is none.
+QAction* FindMenuItem(QMainWindow* window, const QStringList& path);
+
+}  // namespace lignara

@@ -1,0 +1,117 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <fstream>
+#include <iostream>
+#include <optional>
+
+#include "app/fault.h"
+#include "app/launcher.h"
+#include "desktop/text.h"
+#include "script/script_error.h"
+#include "script/script_platform.h"
+#include "script/script_player.h"
+
+namespace lignara {
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kStopped = 1;
+constexpr int kWrongUsage = 2;
+
+void Print(const QString& line) { std::cout << FromQt(line) << std::endl; }
+
+/// Standard error belongs to the script: of the toolkit's own remarks (the screenless platform has
+/// many) only a fatal one is worth a line.
+void DropRemarks(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtFatalMsg) std::cerr << FromQt(text) << std::endl;
+}
+
+/// What the command line asks for.
+struct Options {
+  QString data;
+  bool show = false;
+  QString file;  ///< empty: standard input
+};
+
+/// Reads the command line; an exit status where the program has to end at once.
+std::optional<int> ReadOptions(const QStringList& arguments, Options& options) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Drives Lignara from a plain list of user actions.");
+  const QCommandLineOption help = parser.addHelpOption();
+  const QCommandLineOption data("data", "Start in this directory.", "DIR");
+  const QCommandLineOption show("show", "Show the windows on the screen.");
+  parser.addOptions({data, show});
+  parser.addPositionalArgument("FILE", "The script; standard input without it.", "[FILE]");
+  if (!parser.parse(arguments) || parser.positionalArguments().size() > 1) {
+    const QString reason = parser.errorText();
+    std::cerr << FromQt(reason.isEmpty() ? "more than one file" : reason) << "\n";
+    return kWrongUsage;
+  }
+  if (parser.isSet(help)) {
+    std::cout << FromQt(parser.helpText());
+    return kDone;
+  }
+  options.data = parser.value(data);
+  options.show = parser.isSet(show);
+  options.file = parser.positionalArguments().value(0);
+  return std::nullopt;
+}
+
+/// Plays the lines of a script, answer by answer. Returns the exit status.
+int PlayScript(std::istream& lines, const QString& name, ScriptPlayer& player) {
+  std::string line;
+  for (int number = 1; std::getline(lines, line); ++number) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    try {
+      player.Play(ToQt(line));
+    } catch (const ScriptError& error) {
+      std::cerr << FromQt(name) << ":" << number << ": " << FromQt(error.reason) << std::endl;
+      return kStopped;
+    }
+  }
+  return kDone;
+}
+
+int Run(std::istream& lines, const QString& name) {
+  SessionState session;
+  ScriptPlatform platform(session, Print);
+  const FaultScope faults(platform);
+  StartSession(session, FromQt(QDir::currentPath()));
+  platform.OpenWindow("main");
+  QApplication::processEvents();
+  ScriptPlayer player(platform, Print);
+  return PlayScript(lines, name, player);
+}
+
+}  // namespace
+
+int Main(int argc, char* argv[]) {
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  Options options;
+  if (const auto status = ReadOptions(arguments, options)) return *status;
+  qInstallMessageHandler(DropRemarks);
+  if (!options.show) qputenv("QT_QPA_PLATFORM", "offscreen");
+  int none = 1;
+  QApplication application(none, argv);
+  QApplication::setApplicationName(kProgramName);
+  QApplication::setQuitOnLastWindowClosed(false);
+  std::ifstream file;
+  if (!options.file.isEmpty()) {
+    file.open(FromQt(options.file));
+    if (!file || QDir(options.file).exists()) {
+      std::cerr << "cannot read " << FromQt(options.file) << "\n";
+      return kWrongUsage;
+    }
+  }
+  if (!options.data.isEmpty() && !QDir::setCurrent(options.data)) {
+    std::cerr << "there is no directory " << FromQt(options.data) << "\n";
+    return kWrongUsage;
+  }
+  return options.file.isEmpty() ? Run(std::cin, "-") : Run(file, options.file);
+}
+
+}  // namespace lignara
+
+int main(int argc, char* argv[]) { return lignara::Main(argc, argv); }

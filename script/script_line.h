@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+namespace lignara {
+
+/// A word of a script line. A row given in quotes is the row's text, a bare one its index.
+struct ScriptWord {
+  QString text;
+  bool quoted = false;
+};
+
+/// Splits a line into words: bare, or in double quotes with \" and \\ inside. Empty lines and lines
+/// that begin with # have none. Throws ScriptError for a quote that is not closed.
+std::vector<ScriptWord> SplitScriptLine(const QString& line);
+
+/// A text in double quotes as the tool prints it: \" and \\ inside, a line break as \n.
+QString Quoted(const QString& text);
+
+}  // namespace lignara

@@ -1,0 +1,80 @@
+#include "script/script_platform.h"
+
+#include <algorithm>
+
+#include "app/report.h"
+#include "desktop/text.h"
+#include "script/script_line.h"
+
+namespace lignara {
+namespace {
+
+using Kind = ScriptAnswer::Kind;
+
+QString QuotedText(const std::string& text) { return Quoted(ToQt(text)); }
+
+/// Prints a report page by page.
+class PagePrinter {
+ public:
+  explicit PagePrinter(const ScriptOutput& output) : output_(output) { operator()(NewPage{}); }
+
+  void operator()(const ReportLine& line) { output_("printed " + QuotedText(line.Text())); }
+  void operator()(const NewPage&) { output_(QString("page %1").arg(++page_)); }
+  void operator()(const Drawing& drawing) { PrintShapes(drawing, output_); }
+
+ private:
+  const ScriptOutput& output_;
+  int page_ = 0;
+};
+
+}  // namespace
+
+void ScriptPlatform::ShowMessage(const Message& message) {
+  output_("message " + QuotedText(message.title) + " " + QuotedText(message.text));
+}
+
+bool ScriptPlatform::AskYesNo(const std::string& title, const std::string& text) {
+  output_("ask " + QuotedText(title) + " " + QuotedText(text));
+  const auto answer = TakeAnswer("question", {Kind::Yes, Kind::No, Kind::Ok, Kind::Cancel});
+  return answer && (answer->kind == Kind::Yes || answer->kind == Kind::Ok);
+}
+
+std::optional<std::string> ScriptPlatform::PromptText(const std::string& title,
+                                                      const std::string& text,
+                                                      const std::string& initial) {
+  output_("prompt " + QuotedText(title) + " " + QuotedText(text) + " " + QuotedText(initial));
+  const auto answer = TakeAnswer("prompt", {Kind::Text, Kind::Ok, Kind::Cancel});
+  if (!answer || answer->kind == Kind::Cancel) return std::nullopt;
+  return answer->kind == Kind::Text ? FromQt(answer->text) : initial;
+}
+
+std::optional<std::string> ScriptPlatform::ChooseSaveFile(const std::string& filter) {
+  output_("dialog save " + QuotedText(filter));
+  const auto answer = TakeAnswer("save dialog", {Kind::File, Kind::Cancel});
+  if (!answer || answer->kind == Kind::Cancel) return std::nullopt;
+  return FromQt(answer->text);
+}
+
+void ScriptPlatform::PrintReport(const Report& report) {
+  PagePrinter printer(output_);
+  for (const Report::Item& item : report.items()) std::visit(printer, item);
+}
+
+QString ScriptPlatform::TakeFailure() { return std::exchange(failure_, QString()); }
+
+std::optional<ScriptAnswer> ScriptPlatform::TakeAnswer(const QString& dialog,
+                                                       std::initializer_list<Kind> fitting) {
+  if (answers_.empty()) {
+    failure_ = "there is no answer for the " + dialog;
+    return std::nullopt;
+  }
+  const ScriptAnswer answer = answers_.front();
+  answers_.pop_front();
+  if (std::find(fitting.begin(), fitting.end(), answer.kind) == fitting.end()) {
+    failure_ = "the answer does not fit the " + dialog;
+    return std::nullopt;
+  }
+  return answer;
+}
+
+}  // namespace lignara

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <deque>
+#include <optional>
+
+#include "desktop/desktop_platform.h"
+#include "script/script_output.h"
+
+namespace lignara {
+
+/// An answer that a script keeps for a dialog.
+struct ScriptAnswer {
+  enum class Kind { Ok, Yes, No, Cancel, Text, File };
+  Kind kind = Kind::Ok;
+  QString text;  ///< of Text and File
+};
+
+/// The desktop with a script in the user's place: windows are real, dialogs are printed and take
+/// the kept answers, and a print job is printed as text.
+class ScriptPlatform : public DesktopPlatform {
+ public:
+  ScriptPlatform(SessionState& session, ScriptOutput output)
+      : DesktopPlatform(session), output_(std::move(output)) {}
+
+  void ShowMessage(const Message& message) override;
+  bool AskYesNo(const std::string& title, const std::string& text) override;
+  std::optional<std::string> PromptText(const std::string& title, const std::string& text,
+                                        const std::string& initial) override;
+  std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
+  void PrintReport(const Report& report) override;
+
+  void KeepAnswer(ScriptAnswer answer) { answers_.push_back(std::move(answer)); }
+
+  /// Why a dialog could not be answered since the last call; empty when all could.
+  QString TakeFailure();
+
+ private:
+  /// The next kept answer, if it is one that the dialog can take; notes a failure otherwise.
+  std::optional<ScriptAnswer> TakeAnswer(const QString& dialog,
+                                         std::initializer_list<ScriptAnswer::Kind> fitting);
+
+  ScriptOutput output_;
+  std::deque<ScriptAnswer> answers_;
+  QString failure_;
+};
+
+}  // namespace lignara

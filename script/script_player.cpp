@@ -1,0 +1,326 @@
+#include "script/script_player.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <algorithm>
+
+#include "desktop/picture.h"
+#include "desktop/tool_window.h"
+#include "script/script_error.h"
+#include "script/script_platform.h"
+
+namespace lignara {
+namespace {
+
+template <typename... Widgets>
+bool IsAny(const QWidget* widget) {
+  return ((dynamic_cast<const Widgets*>(widget) != nullptr) || ...);
+}
+
+WidgetFilter Visible(WidgetFilter kind) {
+  return [kind](const QWidget* widget) { return widget->isVisible() && kind(widget); };
+}
+
+/// Lists and pictures have scroll bars and viewports of their own inside; those have no names.
+bool IsControl(const QWidget* widget) {
+  return IsAny<QAbstractButton, QLineEdit, QListWidget, QTableWidget, Picture, QScrollBar>(widget);
+}
+
+bool IsPanel(const QWidget* widget) { return IsAny<QGroupBox>(widget); }
+bool IsLabel(const QWidget* widget) { return IsAny<QLabel>(widget); }
+
+QStringList PathOf(const std::vector<ScriptWord>& words, std::size_t count) {
+  QStringList path;
+  for (std::size_t i = 0; i < count; ++i) path << words[i].text;
+  return path;
+}
+
+double ToFigure(const ScriptWord& word) {
+  bool ok = false;
+  const double value = word.text.toDouble(&ok);
+  if (!ok) throw ScriptError{Quoted(word.text) + " is not a number"};
+  return value;
+}
+
+int ToWhole(const ScriptWord& word) {
+  bool ok = false;
+  const int value = word.text.toInt(&ok);
+  if (!ok) throw ScriptError{Quoted(word.text) + " is not a whole number"};
+  return value;
+}
+
+/// The row that a word names: its index, or in quotes its text.
+int RowOf(const QListWidget* list, const ScriptWord& word) {
+  if (!word.quoted) {
+    const int row = ToWhole(word);
+    if (row < 0 || row >= list->count()) throw ScriptError{"the list has no row " + word.text};
+    return row;
+  }
+  for (int row = 0; row < list->count(); ++row) {
+    if (list->item(row)->text() == word.text) return row;
+  }
+  throw ScriptError{"the list has no row " + Quoted(word.text)};
+}
+
+void PrintTableRows(const QTableWidget* table, const ScriptOutput& output) {
+  for (int row = 0; row < table->rowCount(); ++row) {
+    QString line = QString("row %1").arg(row);
+    for (int column = 0; column < table->columnCount(); ++column) {
+      const QTableWidgetItem* item = table->item(row, column);
+      line += " " + Quoted(item == nullptr ? QString() : item->text());
+    }
+    output(line);
+  }
+}
+
+QString StateOf(const QWidget* widget) {
+  QString state = widget->isVisible() ? "state visible" : "state hidden";
+  state += widget->isEnabled() ? " enabled" : " disabled";
+  if (const auto* button = qobject_cast<const QAbstractButton*>(widget);
+      button != nullptr && button->isCheckable()) {
+    state += button->isChecked() ? " checked" : " unchecked";
+  }
+  if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
+    state += QString(" selected %1").arg(list->currentRow());
+  }
+  return state;
+}
+
+}  // namespace
+
+const std::vector<ScriptPlayer::Action>& ScriptPlayer::Actions() {
+  constexpr std::size_t kMany = 16;
+  static const std::vector<Action> actions = {
+      {"window", 1, 1, &ScriptPlayer::Window},
+      {"press", 1, kMany, &ScriptPlayer::Press},
+      {"menu", 2, kMany, &ScriptPlayer::Menu},
+      {"enter", 2, kMany, &ScriptPlayer::Enter},
+      {"key", 2, kMany, &ScriptPlayer::Key},
+      {"select", 2, kMany, &ScriptPlayer::Select},
+      {"click", 3, kMany, &ScriptPlayer::Click},
+      {"scroll", 2, kMany, &ScriptPlayer::Scroll},
+      {"close", 0, 0, &ScriptPlayer::Close},
+      {"answer", 1, 2, &ScriptPlayer::Answer},
+      {"read", 1, kMany, &ScriptPlayer::Read},
+      {"rows", 1, kMany, &ScriptPlayer::Rows},
+      {"state", 1, kMany, &ScriptPlayer::State},
+      {"shapes", 1, kMany, &ScriptPlayer::Shapes},
+      {"windows", 0, 0, &ScriptPlayer::Windows},
+      {"picture", 2, kMany, &ScriptPlayer::SavePicture},
+      {"screenshot", 1, 1, &ScriptPlayer::Screenshot},
+  };
+  return actions;
+}
+
+void ScriptPlayer::Play(const QString& line) {
+  Words words = SplitScriptLine(line);
+  if (words.empty()) return;
+  const QString verb = words.front().text;
+  words.erase(words.begin());
+  const auto action = std::find_if(Actions().begin(), Actions().end(),
+                                   [&](const Action& a) { return verb == a.verb; });
+  if (action == Actions().end()) throw ScriptError{"there is no action " + Quoted(verb)};
+  if (words.size() < action->leastWords || words.size() > action->mostWords) {
+    throw ScriptError{"wrong number of words for " + Quoted(verb)};
+  }
+  (this->*action->carryOut)(words);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  if (const QString failure = platform_.TakeFailure(); !failure.isEmpty()) {
+    throw ScriptError{failure};
+  }
+}
+
+ToolWindow* ScriptPlayer::Current() const {
+  ToolWindow* window = platform_.FindWindow(window_);
+  if (window == nullptr) throw ScriptError{"the window " + window_ + " is not open"};
+  if (platform_.IsBlocked(window)) {
+    throw ScriptError{"the window " + window_ + " waits for a modal one"};
+  }
+  return window;
+}
+
+QWidget* ScriptPlayer::Control(const Words& words, std::size_t count,
+                               const WidgetFilter& kind) const {
+  return FindControl(Current(), PathOf(words, count), {Visible(kind)});
+}
+
+QWidget* ScriptPlayer::ActiveControl(const Words& words, std::size_t count,
+                                     const WidgetFilter& kind) const {
+  QWidget* control = Control(words, count, kind);
+  if (!control->isEnabled()) {
+    throw ScriptError{"the control " + Quoted(words[count - 1].text) + " is disabled"};
+  }
+  return control;
+}
+
+void ScriptPlayer::Window(const Words& words) {
+  const QString before = window_;
+  window_ = words[0].text;
+  try {
+    ToolWindow* window = Current();
+    window->raise();
+    window->activateWindow();
+  } catch (const ScriptError&) {
+    window_ = before;
+    throw;
+  }
+}
+
+void ScriptPlayer::Press(const Words& words) {
+  auto* button =
+      static_cast<QAbstractButton*>(ActiveControl(words, words.size(), IsAny<QAbstractButton>));
+  button->setFocus();
+  button->click();
+}
+
+void ScriptPlayer::Menu(const Words& words) {
+  QAction* item = FindMenuItem(Current(), PathOf(words, words.size()));
+  if (item == nullptr) throw ScriptError{"there is no such menu item"};
+  if (!item->isEnabled()) throw ScriptError{"the menu item is disabled"};
+  item->trigger();
+}
+
+void ScriptPlayer::Enter(const Words& words) {
+  const std::size_t count = words.size() - 1;
+  auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, [](const QWidget* widget) {
+    const auto* edit = qobject_cast<const QLineEdit*>(widget);
+    return edit != nullptr && !edit->isReadOnly();
+  }));
+  field->setFocus();
+  field->setText(words.back().text);
+  emit field->textEdited(words.back().text);
+}
+
+void ScriptPlayer::Key(const Words& words) {
+  QWidget* control = ActiveControl(words, words.size() - 1, IsControl);
+  const QKeySequence sequence = QKeySequence::fromString(words.back().text);
+  if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
+    throw ScriptError{"there is no key " + Quoted(words.back().text)};
+  }
+  control->setFocus();
+  const QKeyCombination key = sequence[0];
+  QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers());
+  QKeyEvent up(QEvent::KeyRelease, key.key(), key.keyboardModifiers());
+  QApplication::sendEvent(control, &down);
+  QApplication::sendEvent(control, &up);
+}
+
+void ScriptPlayer::Select(const Words& words) {
+  auto* list =
+      static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, IsAny<QListWidget>));
+  const int row = RowOf(list, words.back());
+  list->setFocus();
+  if (row != list->currentRow()) {
+    list->setCurrentRow(row);
+  } else {
+    emit list->itemClicked(list->item(row));
+  }
+}
+
+void ScriptPlayer::Click(const Words& words) {
+  const std::size_t count = words.size() - 2;
+  auto* picture = static_cast<Picture*>(ActiveControl(words, count, IsAny<Picture>));
+  picture->PressAt(ToFigure(words[count]), ToFigure(words[count + 1]));
+}
+
+void ScriptPlayer::Scroll(const Words& words) {
+  auto* bar = static_cast<QScrollBar*>(ActiveControl(words, words.size() - 1, IsAny<QScrollBar>));
+  const int value = ToWhole(words.back());
+  if (value < bar->minimum() || value > bar->maximum()) {
+    throw ScriptError{"the scroll bar has no value " + words.back().text};
+  }
+  if (value != bar->value()) {
+    bar->setValue(value);
+  } else {
+    emit bar->valueChanged(value);
+  }
+}
+
+void ScriptPlayer::Close(const Words&) { Current()->close(); }
+
+void ScriptPlayer::Answer(const Words& words) {
+  using Kind = ScriptAnswer::Kind;
+  static const std::vector<std::pair<QString, Kind>> kinds = {
+      {"ok", Kind::Ok},         {"yes", Kind::Yes},   {"no", Kind::No},
+      {"cancel", Kind::Cancel}, {"text", Kind::Text}, {"file", Kind::File}};
+  const auto found = std::find_if(kinds.begin(), kinds.end(),
+                                  [&](const auto& kind) { return kind.first == words[0].text; });
+  if (found == kinds.end()) throw ScriptError{"there is no answer " + Quoted(words[0].text)};
+  const bool needsText = found->second == Kind::Text || found->second == Kind::File;
+  if (needsText != (words.size() == 2)) throw ScriptError{"wrong number of words for \"answer\""};
+  platform_.KeepAnswer({found->second, needsText ? words[1].text : QString()});
+}
+
+void ScriptPlayer::Read(const Words& words) {
+  ToolWindow* window = Current();
+  if (words.size() == 1 && words[0].text == "title") {
+    output_("value " + Quoted(window->windowTitle()));
+    return;
+  }
+  const QWidget* control =
+      FindControl(window, PathOf(words, words.size()),
+                  {Visible(IsAny<QLineEdit>), Visible([](const QWidget* widget) {
+                     return IsLabel(widget) && !widget->accessibleName().isEmpty();
+                   }),
+                   Visible(IsLabel)});
+  const auto* field = qobject_cast<const QLineEdit*>(control);
+  output_("value " +
+          Quoted(field != nullptr ? field->text() : static_cast<const QLabel*>(control)->text()));
+}
+
+void ScriptPlayer::Rows(const Words& words) {
+  const QWidget* control = Control(words, words.size(), IsAny<QListWidget, QTableWidget>);
+  if (const auto* table = qobject_cast<const QTableWidget*>(control)) {
+    PrintTableRows(table, output_);
+    return;
+  }
+  const auto* list = static_cast<const QListWidget*>(control);
+  for (int row = 0; row < list->count(); ++row) {
+    output_(QString("row %1 %2").arg(row).arg(Quoted(list->item(row)->text())));
+  }
+}
+
+void ScriptPlayer::State(const Words& words) {
+  const QStringList path = PathOf(words, words.size());
+  if (const QAction* item = FindMenuItem(Current(), path); item != nullptr && path.size() > 1) {
+    output_(QString("state visible %1").arg(item->isEnabled() ? "enabled" : "disabled"));
+    return;
+  }
+  output_(StateOf(FindControl(
+      Current(), path,
+      {Visible(IsControl), Visible(IsPanel), Visible(IsLabel), IsControl, IsPanel, IsLabel})));
+}
+
+void ScriptPlayer::Shapes(const Words& words) {
+  const QWidget* control = Control(words, words.size(), IsAny<Picture>);
+  PrintShapes(static_cast<const Picture*>(control)->drawing(), output_);
+}
+
+void ScriptPlayer::Windows(const Words&) {
+  for (const QString& name : platform_.OpenWindows()) output_("window " + name);
+}
+
+void ScriptPlayer::SavePicture(const Words& words) {
+  QWidget* control = Control(words, words.size() - 1, IsAny<Picture>);
+  if (!static_cast<Picture*>(control)->SavePng(words.back().text)) {
+    throw ScriptError{"cannot write " + words.back().text};
+  }
+}
+
+void ScriptPlayer::Screenshot(const Words& words) {
+  QApplication::processEvents();
+  if (!Current()->grab().save(words[0].text, "PNG")) {
+    throw ScriptError{"cannot write " + words[0].text};
+  }
+}
+
+}  // namespace lignara

@@ -1,0 +1,188 @@
+// Presses and types at random in every window: no crash, no hang, no message or text that names an
+// internal. The seeds are fixed, so that a failure comes back.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <random>
+
+#include "app/fault.h"
+#include "app/launcher.h"
+#include "desktop/picture.h"
+#include "desktop/text.h"
+#include "desktop/tool_window.h"
+#include "script/script_platform.h"
+
+namespace lignara {
+namespace {
+
+/// What a hand without a plan types. Counts stay small enough for a run to end soon.
+const std::vector<QString> kTexts = {
+    "",   "0",    "1",   "2",     "3",     "4",     "6",      "8",      "12",    "20",
+    "30", "7.5",  "100", "-5",    "1e38",  "-1e39", "1e-40",  "abc",    "1,000", " 16 ",
+    ".5", "0.01", "3.5", "99.99", "1e400", "5 ft",  "000",    "-0.001", "2.5e1", "+7",
+    "24", "1.15", "--3", "1e",    ".",     "250",   "1600000"};
+
+class Monkey {
+ public:
+  explicit Monkey(unsigned seed)
+      : random_(seed),
+        platform_(session_, [this](const QString& line) { Heard(line); }),
+        faults_(platform_) {
+    EXPECT_TRUE(directory_.isValid());
+    StartSession(session_, LIGNARA_DATA_DIRECTORY);
+    platform_.OpenWindow("main");
+  }
+
+  void Play(int actions) {
+    for (int i = 0; i < actions && !testing::Test::HasFailure(); ++i) {
+      if (platform_.OpenWindows().isEmpty()) platform_.OpenWindow("main");
+      Act();
+      platform_.TakeFailure();
+      QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      QApplication::processEvents();
+      LookAround();
+    }
+  }
+
+  int heard() const { return heard_; }
+
+ private:
+  int Pick(std::size_t count) {
+    return std::uniform_int_distribution<int>(0, static_cast<int>(count) - 1)(random_);
+  }
+
+  /// A dialog may come up or not: an answer for each kind that the next action can meet.
+  void PrepareAnswer() {
+    using Kind = ScriptAnswer::Kind;
+    if (Pick(2) == 0) {
+      platform_.KeepAnswer({Kind::File, directory_.filePath("saved")});
+    } else {
+      platform_.KeepAnswer({Kind::Cancel, ""});
+    }
+  }
+
+  ToolWindow* AnyWindow() {
+    std::vector<ToolWindow*> free;
+    for (const QString& name : platform_.OpenWindows()) {
+      ToolWindow* window = platform_.FindWindow(name);
+      if (!platform_.IsBlocked(window)) free.push_back(window);
+    }
+    // The newest window is the one that a user looks at.
+    return Pick(4) == 0 ? free[static_cast<std::size_t>(Pick(free.size()))] : free.back();
+  }
+
+  void Act() {
+    ToolWindow* window = AnyWindow();
+    const int kind = Pick(40);
+    if (kind == 0) {
+      if (window->name() != "main") window->close();
+    } else if (kind < 3) {
+      UseMenu(window);
+    } else {
+      UseControl(window);
+    }
+  }
+
+  void UseMenu(ToolWindow* window) {
+    std::vector<QAction*> items;
+    for (const QAction* menu : window->menuBar()->actions()) {
+      for (QAction* item : menu->menu()->actions()) {
+        if (item->isEnabled() && !item->isSeparator() && item->text() != "E&xit") {
+          items.push_back(item);
+        }
+      }
+    }
+    if (items.empty()) return;
+    PrepareAnswer();
+    items[static_cast<std::size_t>(Pick(items.size()))]->trigger();
+  }
+
+  void UseControl(ToolWindow* window) {
+    std::vector<QWidget*> controls;
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+      const bool used =
+          widget->isVisible() && widget->isEnabled() && !widget->accessibleName().isEmpty();
+      const bool button = qobject_cast<QAbstractButton*>(widget) != nullptr;
+      if ((used || (button && widget->isEnabled() && widget->isVisible())) &&
+          widget->window() == window) {
+        controls.push_back(widget);
+      }
+    }
+    if (controls.empty()) return;
+    PrepareAnswer();
+    Use(controls[static_cast<std::size_t>(Pick(controls.size()))]);
+  }
+
+  void Use(QWidget* widget) {
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+      button->click();
+    } else if (auto* field = qobject_cast<QLineEdit*>(widget); field && !field->isReadOnly()) {
+      const QString text = kTexts[static_cast<std::size_t>(Pick(kTexts.size()))];
+      field->setText(text);
+      emit field->textEdited(text);
+    } else if (auto* list = qobject_cast<QListWidget*>(widget); list && list->count() > 0) {
+      list->setCurrentRow(Pick(static_cast<std::size_t>(list->count())));
+    } else if (auto* bar = qobject_cast<QScrollBar*>(widget)) {
+      bar->setValue(bar->minimum() +
+                    Pick(static_cast<std::size_t>(bar->maximum() - bar->minimum() + 1)));
+    } else if (auto* picture = dynamic_cast<Picture*>(widget)) {
+      picture->PressAt(Pick(5000), Pick(3200));
+    }
+  }
+
+  void Heard(const QString& line) {
+    ++heard_;
+    CheckText(line);
+  }
+
+  /// Nothing on the screen may show what is no number, or a name from inside the program.
+  void LookAround() {
+    for (const QString& name : platform_.OpenWindows()) {
+      for (const QLineEdit* field : platform_.FindWindow(name)->findChildren<QLineEdit*>()) {
+        if (field->isReadOnly()) CheckText(field->text());
+      }
+      for (const QListWidget* list : platform_.FindWindow(name)->findChildren<QListWidget*>()) {
+        for (int row = 0; row < list->count(); ++row) CheckText(list->item(row)->text());
+      }
+    }
+  }
+
+  static void CheckText(const QString& text) {
+    static const QRegularExpression internal(
+        "\\b(nan|inf|null|nullptr|std|exception|assert|lignara::)\\b",
+        QRegularExpression::CaseInsensitiveOption);
+    EXPECT_FALSE(internal.match(text).hasMatch()) << FromQt(text);
+  }
+
+  std::mt19937 random_;
+  QTemporaryDir directory_;
+  SessionState session_;
+  int heard_ = 0;
+  ScriptPlatform platform_;
+  FaultScope faults_;
+};
+
+class MonkeyTest : public testing::TestWithParam<unsigned> {};
+
+TEST_P(MonkeyTest, FindsNoCrashAndNoInternal) {
+  Monkey monkey(GetParam());
+  monkey.Play(1500);
+  EXPECT_GT(monkey.heard(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Range(1u, 9u));
+
+}  // namespace
+}  // namespace lignara
