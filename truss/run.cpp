@@ -1,0 +1,34 @@
+#include "truss/canvas.h"
+#include "truss/member_signs.h"
+#include "truss/results.h"
+#include "truss/stress_check.h"
+#include "truss/truss_types.h"
+
+namespace lignara {
+
+void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
+  const FaultScope faults(platform);
+  const BusyPointer busy(platform);
+  ActiveModel& model = window.model;
+  TrussJob job{model, session, platform};
+  model.ErrorFlag = 0;
+  model.RunState = 1;
+
+  AnalyseTruss(job);
+  SHOW_REACTIONS(window);
+  SHOW_AXIAL(window, session);
+
+  const DeflectionStep deflections = TrussTypeOf(session.TrussType).deflections;
+  if (deflections != nullptr) deflections(job, window.deflectionRows);
+  if (HasAreas(session.Member)) {
+    CheckStresses(job, window.stressRows);
+  } else {
+    platform.ShowMessage({"NO STRESS WILL BE CALCULATED, NEED WOOD TYPE & SIZE"});
+  }
+
+  model.RunState = model.ErrorFlag.value() != 0 ? 0 : 1;
+  window.view.resultsShown = true;
+  RedrawTruss(window, session, platform);
+}
+
+}  // namespace lignara
