@@ -48,12 +48,12 @@ void ToolWindow::CloseForGood() {
   close();
 }
 
-void ToolWindow::SetReturnButton(QWidget* area, QPushButton* button) {
+void SetReturnButton(QWidget* area, QPushButton* button) {
   SetKeyButton(area, kReturnButton, button);
-  if (area == centralWidget()) button->setDefault(true);
+  if (qobject_cast<QMainWindow*>(area->parentWidget()) != nullptr) button->setDefault(true);
 }
 
-void ToolWindow::SetEscapeButton(QWidget* area, QPushButton* button) {
+void SetEscapeButton(QWidget* area, QPushButton* button) {
   SetKeyButton(area, kEscapeButton, button);
 }
 

@@ -41,10 +41,6 @@ class ToolWindow : public QMainWindow {
   DesktopPlatform& platform();
   Binding& binding() { return binding_; }
 
-  /// The button that Return presses while the focus is inside `area`.
-  void SetReturnButton(QWidget* area, QPushButton* button);
-  /// The button that Escape presses while the focus is inside `area`.
-  void SetEscapeButton(QWidget* area, QPushButton* button);
   /// The "&Help" menu with its item "Help", the same in all windows.
   QMenu* AddHelpMenu();
 
@@ -57,6 +53,11 @@ class ToolWindow : public QMainWindow {
   Binding binding_;
   bool closingForGood_ = false;
 };
+
+/// The button that Return presses while the focus is inside `area`.
+void SetReturnButton(QWidget* area, QPushButton* button);
+/// The button that Escape presses while the focus is inside `area`.
+void SetEscapeButton(QWidget* area, QPushButton* button);
 
 /// A panel: a framed part of a window with a caption.
 QGroupBox* MakePanel(const QString& caption);

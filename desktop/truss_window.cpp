@@ -15,7 +15,9 @@
 #include "desktop/form.h"
 #include "desktop/picture.h"
 #include "desktop/text.h"
+#include "desktop/truss_report_panels.h"
 #include "desktop/windows.h"
+#include "truss/report.h"
 
 namespace lignara {
 namespace {
@@ -80,9 +82,15 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow("TRUSS", context) {
 
 void TrussForm::AddMenus() {
   QMenu* files = menuBar()->addMenu("&Files");
-  for (const char* item : {"&Headings...", "&Fonts...", "&Print", "&Save Output to Text File..."}) {
-    files->addAction(item)->setEnabled(false);
-  }
+  binding().Menu(files->addAction("&Headings..."), [this] { OpenHeadings(record_); });
+  binding().Menu(files->addAction("F&onts..."), [this] { OpenFonts(record_); });
+  files->addSeparator();
+  QAction* print = files->addAction("&Print");
+  print->setShortcut(QKeySequence::Print);
+  binding().Menu(print, [this] { PrintTruss(record_, session(), platform()); });
+  QAction* save = files->addAction("&Save Output to Text File...");
+  save->setShortcut(QKeySequence::Save);
+  binding().Menu(save, [this] { SaveTrussReport(record_, session(), platform()); });
   AddHelpMenu();
 }
 
@@ -198,6 +206,8 @@ QLayout* TrussForm::SideColumn() {
   rows->addWidget(ResultsPanel(), 1);
   rows->addWidget(LineLoadPanel());
   rows->addWidget(AreaLoadPanel());
+  rows->addWidget(MakeHeadingsPanel(record_, binding(), session()));
+  rows->addWidget(MakeFontsPanel(record_, binding(), session()));
   return rows;
 }
 
