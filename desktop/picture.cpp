@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -54,8 +55,8 @@ QColor OnScreen(Colour colour, bool dark) {
 /// Paints one shape after the other.
 class ShapePainter {
  public:
-  ShapePainter(QPainter& painter, const Drawing& drawing, const Fit& fit, bool dark)
-      : painter_(painter), fit_(fit), dark_(dark) {
+  ShapePainter(QPainter& painter, const Drawing& drawing, const Fit& fit, const QColor& ground)
+      : painter_(painter), fit_(fit), ground_(ground), dark_(ground.lightness() < 128) {
     QFont font = painter.font();
     font.setPixelSize(std::max(7, static_cast<int>(std::lround(drawing.textHeight * fit.scale))));
     painter.setFont(font);
@@ -70,11 +71,15 @@ class ShapePainter {
     const double radius = circle.radius * fit_.scale;
     painter_.drawEllipse(Place(circle.x, circle.y), radius, radius);
   }
+  /// A rim in the colour of the ground keeps a text legible where lines run behind it.
   void operator()(const TextShape& text) {
-    painter_.setPen(OnScreen(text.colour, dark_));
     const QPointF corner = Place(text.x, text.y);
-    painter_.drawText(QPointF(corner.x(), corner.y() + QFontMetricsF(painter_.font()).ascent()),
-                      ToQt(text.text));
+    const QPointF base(corner.x(), corner.y() + QFontMetricsF(painter_.font()).ascent());
+    QPainterPath outline;
+    outline.addText(base, painter_.font(), ToQt(text.text));
+    painter_.strokePath(outline, QPen(ground_, painter_.font().pixelSize() / 4.0));
+    painter_.setPen(OnScreen(text.colour, dark_));
+    painter_.drawText(base, ToQt(text.text));
   }
 
  private:
@@ -88,6 +93,7 @@ class ShapePainter {
 
   QPainter& painter_;
   const Fit fit_;
+  const QColor ground_;
   const bool dark_;
 };
 
@@ -98,8 +104,7 @@ void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawin
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
-  const bool dark = palette.color(QPalette::Base).lightness() < 128;
-  ShapePainter shapes(painter, drawing, FitInto(target, drawing), dark);
+  ShapePainter shapes(painter, drawing, FitInto(target, drawing), palette.color(QPalette::Base));
   for (const Shape& shape : drawing.shapes) std::visit(shapes, shape);
   painter.restore();
 }

@@ -7,8 +7,8 @@
 
 namespace lignara {
 
-/// Paints a drawing into a rectangle, as large as fits, true to shape. `foreground` is the colour
-/// that the drawing calls black: on a dark palette it is light.
+/// Paints a drawing into a rectangle, as large as fits, true to shape. On a dark palette what the
+/// drawing calls black is light.
 void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,
                   const QPalette& palette);
 

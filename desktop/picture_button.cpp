@@ -20,7 +20,9 @@ void PictureButton::paintEvent(QPaintEvent*) {
   painter.drawControl(QStyle::CE_PushButtonBevel, option);
   const QRect inside = rect().adjusted(12, 10, -12, -8);
   const int captionHeight = fontMetrics().height() + 2;
-  PaintDrawing(painter, inside.adjusted(0, 0, 0, -captionHeight), drawing_, palette());
+  QPalette face = palette();
+  face.setColor(QPalette::Base, palette().color(QPalette::Button));
+  PaintDrawing(painter, inside.adjusted(0, 0, 0, -captionHeight), drawing_, face);
   painter.setPen(palette().color(QPalette::ButtonText));
   painter.drawText(inside, Qt::AlignHCenter | Qt::AlignBottom, caption_);
   if (!hasFocus()) return;

@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
 
 #include "app/report.h"
 #include "desktop/desktop_platform.h"
@@ -13,12 +14,15 @@
 namespace lignara {
 namespace {
 
+/// A drawing takes no more of a page's height than this, so that the figures stand below it.
+constexpr double kDrawingShare = 0.36;
+
 /// Puts the items of a report on the pages of a printer, one below the other.
 class PagePainter {
  public:
-  PagePainter(QPrinter& printer, const Report& report)
+  PagePainter(QPrinter& printer, QPainter& painter, const Report& report)
       : printer_(printer),
-        painter_(&printer),
+        painter_(painter),
         page_(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size()) {
     QFont font(ToQt(report.fontName), report.fontSize);
     font.setStyleHint(QFont::Serif);
@@ -46,7 +50,8 @@ class PagePainter {
   }
 
   void operator()(const Drawing& drawing) {
-    const double height = page_.width() * drawing.height / drawing.width;
+    const double height =
+        std::min(page_.width() * drawing.height / drawing.width, page_.height() * kDrawingShare);
     if (y_ > 0 && y_ + height > page_.height()) operator()(NewPage{});
     PaintDrawing(painter_, QRectF(0, y_, page_.width(), height), drawing, QPalette(Qt::white));
     y_ += height;
@@ -54,7 +59,7 @@ class PagePainter {
 
  private:
   QPrinter& printer_;
-  QPainter painter_;
+  QPainter& painter_;
   const QRectF page_;
   double lineHeight_ = 0;
   double ascent_ = 0;
@@ -74,7 +79,12 @@ void PrintOnPaper(const Report& report, DesktopPlatform& platform) {
   }
   printer.setPageSize(QPageSize(QPageSize::Letter));
   printer.setPageMargins(QMarginsF(0.75, 0.75, 0.75, 0.75), QPageLayout::Inch);
-  PagePainter page(printer, report);
+  QPainter painter;
+  if (!painter.begin(&printer)) {
+    platform.ShowMessage({"The report could not be printed."});
+    return;
+  }
+  PagePainter page(printer, painter, report);
   for (const Report::Item& item : report.items()) std::visit(page, item);
 }
 
