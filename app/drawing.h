@@ -15,11 +15,15 @@ const char* ColourName(Colour colour);
 struct LineShape {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
   Colour colour = Colour::Black;
+
+  bool operator==(const LineShape&) const = default;
 };
 
 struct CircleShape {
   double x = 0, y = 0, radius = 0;
   Colour colour = Colour::Black;
+
+  bool operator==(const CircleShape&) const = default;
 };
 
 /// A text whose top left corner is at (x, y).
@@ -27,6 +31,8 @@ struct TextShape {
   double x = 0, y = 0;
   std::string text;
   Colour colour = Colour::Black;
+
+  bool operator==(const TextShape&) const = default;
 };
 
 using Shape = std::variant<LineShape, CircleShape, TextShape>;
@@ -38,6 +44,8 @@ struct Drawing {
   double height = 0;
   double textHeight = 0;  ///< of all its texts, in the picture's units
   std::vector<Shape> shapes;
+
+  bool operator==(const Drawing&) const = default;
 };
 
 }  // namespace lignara

@@ -52,11 +52,18 @@ QColor OnScreen(Colour colour, bool dark) {
   return dark ? Qt::white : Qt::black;
 }
 
+/// Among so many shapes no text can be read, and rims would only cost time.
+constexpr std::size_t kCrowd = 2000;
+
 /// Paints one shape after the other.
 class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const Drawing& drawing, const Fit& fit, const QColor& ground)
-      : painter_(painter), fit_(fit), ground_(ground), dark_(ground.lightness() < 128) {
+      : painter_(painter),
+        fit_(fit),
+        ground_(ground),
+        dark_(ground.lightness() < 128),
+        rims_(drawing.shapes.size() < kCrowd) {
     QFont font = painter.font();
     font.setPixelSize(std::max(7, static_cast<int>(std::lround(drawing.textHeight * fit.scale))));
     painter.setFont(font);
@@ -75,9 +82,11 @@ class ShapePainter {
   void operator()(const TextShape& text) {
     const QPointF corner = Place(text.x, text.y);
     const QPointF base(corner.x(), corner.y() + QFontMetricsF(painter_.font()).ascent());
-    QPainterPath outline;
-    outline.addText(base, painter_.font(), ToQt(text.text));
-    painter_.strokePath(outline, QPen(ground_, painter_.font().pixelSize() / 4.0));
+    if (rims_) {
+      QPainterPath outline;
+      outline.addText(base, painter_.font(), ToQt(text.text));
+      painter_.strokePath(outline, QPen(ground_, painter_.font().pixelSize() / 4.0));
+    }
     painter_.setPen(OnScreen(text.colour, dark_));
     painter_.drawText(base, ToQt(text.text));
   }
@@ -95,6 +104,7 @@ class ShapePainter {
   const Fit fit_;
   const QColor ground_;
   const bool dark_;
+  const bool rims_;
 };
 
 }  // namespace
@@ -115,6 +125,7 @@ Picture::Picture(QWidget* parent) : QWidget(parent) {
 }
 
 void Picture::SetDrawing(const Drawing& drawing) {
+  if (drawing == drawing_) return;
   drawing_ = drawing;
   update();
 }
