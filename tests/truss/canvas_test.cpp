@@ -1,0 +1,363 @@
+#include "truss/canvas.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "tests/support/drawn_members.h"
+#include "tests/support/opened_truss.h"
+
+namespace lignara {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+const char* const kTypes[] = {"PRATT1", "FINK",   "ENGLISH", "KINGPOST",
+                              "SCI",    "PRATT2", "HOWE",    "WARREN"};
+
+/// 30 ft by 7.5 ft: 144 units a foot across, 280 up, origin (144, 2580).
+OpenedTruss Example(const std::string& type = "PRATT1") {
+  const bool fixed = type == "KINGPOST" || type == "SCI";
+  return OpenedTruss(type, fixed ? 4 : 6, 30, 7.5, 3);
+}
+
+void ExpectView(const OpenedTruss& truss, int scaleX, int scaleY, int originX, int originY) {
+  const TrussView& view = truss.window.view;
+  EXPECT_EQ(view.PixelsPerFootX.value(), scaleX);
+  EXPECT_EQ(view.PixelsPerFootY.value(), scaleY);
+  EXPECT_EQ(view.CanvasOriginX.value(), originX);
+  EXPECT_EQ(view.CanvasOriginY.value(), originY);
+}
+
+void Enlarge(OpenedTruss& truss) { EnlargeTruss(truss.window, truss.session, truss.platform); }
+void Reduce(OpenedTruss& truss) { ReduceTruss(truss.window, truss.session, truss.platform); }
+void Pan(OpenedTruss& truss, int bar) {
+  PanTruss(truss.window, truss.session, truss.platform, bar);
+}
+void Select(OpenedTruss& truss, int row) {
+  SelectNode(truss.window, truss.session, truss.platform, row);
+}
+
+/// The blue lines of the picture.
+std::vector<LineShape> Arrow(const OpenedTruss& truss) {
+  std::vector<LineShape> lines;
+  for (const Shape& shape : truss.window.view.drawing.shapes) {
+    const auto* line = std::get_if<LineShape>(&shape);
+    if (line != nullptr && line->colour == Colour::Blue) lines.push_back(*line);
+  }
+  return lines;
+}
+
+TEST(Canvas, ScalesFitTheTrussAtOpening) {
+  // 0.9 x 4800 / 30 = 144; 0.7 x 3000 / 7.5 = 280; 3000 - 280 x 0.2 x 7.5 = 2580.
+  ExpectView(Example(), 144, 280, 144, 2580);
+  EXPECT_EQ(Example().window.view.ZoomFactor.value(), 1.0f);
+}
+
+TEST(Canvas, ScalesRoundTiesToTheEvenNumber) {
+  // 4320 / 64 = 67.5 becomes 68, 2100 / 40 = 52.5 becomes 52; 3000 - 52 x 0.2 x 40 = 2584.
+  ExpectView(OpenedTruss("PRATT1", 4, 64, 40), 68, 52, 68, 2584);
+}
+
+TEST(Canvas, AxesScaleSeparately) {
+  // A truss as high as long fills the canvas all the same: 216 across, 105 up.
+  ExpectView(OpenedTruss("PRATT1", 4, 20, 20), 216, 105, 216, 2580);
+}
+
+TEST(Canvas, PictureHasTheCanvasesUnits) {
+  const Drawing drawing = Example().window.view.drawing;
+  EXPECT_EQ(drawing.width, 4800);
+  EXPECT_EQ(drawing.height, 3000);
+  EXPECT_GT(drawing.textHeight, 0);
+}
+
+TEST(Canvas, EveryMemberHasARedCircleAtItsMidpoint) {
+  for (const char* type : kTypes) {
+    const OpenedTruss truss = Example(type);
+    const auto members = DrawnMembers(truss.window.view.drawing);
+    EXPECT_EQ(members.size() * 3, truss.window.view.drawing.shapes.size()) << type;
+    EXPECT_EQ(members.size(), truss.window.view.MemberMark.size()) << type;
+    for (const DrawnMember& member : members) {
+      EXPECT_NEAR(member.circle.x, (member.line.x1 + member.line.x2) / 2, 0.5);
+      EXPECT_NEAR(member.circle.y, (member.line.y1 + member.line.y2) / 2, 0.5);
+      EXPECT_EQ(member.circle.radius, 50);
+      EXPECT_EQ(member.circle.colour, Colour::Red);
+    }
+  }
+}
+
+// VL 1 runs from (864, 2580) to (864, 1880).
+TEST(Canvas, MarksHoldTheMidpoints) {
+  const OpenedTruss truss = Example();
+  const MarkPoint& mark = truss.window.view.MemberMark.at({Family::VL, 1});
+  EXPECT_EQ(mark.x.value(), 864);
+  EXPECT_EQ(mark.y.value(), 2230);
+  const MarkPoint& centre = truss.window.view.MemberMark.at({Family::CV, 1});
+  EXPECT_EQ(centre.x.value(), 2304);
+  EXPECT_EQ(centre.y.value(), 1530);
+}
+
+TEST(Canvas, NamesOfTheBottomChordStand50UnitsBelow) {
+  for (const char* type : kTypes) {
+    for (const DrawnMember& member : DrawnMembers(Example(type).window.view.drawing)) {
+      if (member.name.text[0] != 'C' || member.name.text == "CV") continue;
+      EXPECT_EQ(member.name.y, member.circle.y + 50) << type << member.name.text;
+    }
+  }
+}
+
+/// Distance of a point from the box of a name, whose letters are at most 60 units wide.
+double DistanceFromName(const TextShape& name, double textHeight, double x, double y) {
+  const double width = 60.0 * static_cast<double>(name.text.size());
+  const double dx = std::max({name.x - x, 0.0, x - name.x - width});
+  const double dy = std::max({name.y - y, 0.0, y - name.y - textHeight});
+  return std::hypot(dx, dy);
+}
+
+TEST(Canvas, NamesStandBesideTheirCirclesAndOffTheirLines) {
+  for (const char* type : kTypes) {
+    const Drawing drawing = Example(type).window.view.drawing;
+    for (const DrawnMember& member : DrawnMembers(drawing)) {
+      const auto distance = [&](double x, double y) {
+        return DistanceFromName(member.name, drawing.textHeight, x, y);
+      };
+      const double fromCircle = distance(member.circle.x, member.circle.y);
+      EXPECT_GE(fromCircle, 50) << type << member.name.text;
+      EXPECT_LE(fromCircle, 75) << type << member.name.text;
+      for (int step = 0; step <= 100; ++step) {
+        const double at = step / 100.0;
+        EXPECT_GT(distance(member.line.x1 + at * (member.line.x2 - member.line.x1),
+                           member.line.y1 + at * (member.line.y2 - member.line.y1)),
+                  5)
+            << type << member.name.text;
+      }
+    }
+  }
+}
+
+TEST(Canvas, NamesOfSixPanelsDoNotLieOnOneAnother) {
+  for (const char* type : kTypes) {
+    const Drawing drawing = Example(type).window.view.drawing;
+    const auto members = DrawnMembers(drawing);
+    for (const DrawnMember& a : members) {
+      for (const DrawnMember& b : members) {
+        if (a.name.text == b.name.text) continue;
+        const bool apart = std::fabs(a.name.y - b.name.y) >= drawing.textHeight ||
+                           std::fabs(a.name.x - b.name.x) >= 240;
+        EXPECT_TRUE(apart) << type << " " << a.name.text << " and " << b.name.text;
+      }
+    }
+  }
+}
+
+TEST(Canvas, MembersAreBlackBeforeARun) {
+  for (const DrawnMember& member : DrawnMembers(Example().window.view.drawing)) {
+    EXPECT_EQ(member.line.colour, Colour::Black);
+    EXPECT_EQ(member.name.colour, Colour::Black);
+  }
+}
+
+TEST(Canvas, MembersShowTensionAndCompressionAfterARun) {
+  OpenedTruss truss = Example("KINGPOST");
+  for (const Family family : {Family::TL, Family::TR, Family::CL, Family::CR, Family::CV}) {
+    AxialOf(truss.model(), family).Allocate(4);
+  }
+  truss.model().AX_TL[1] = -1000;
+  truss.model().AX_TR[1] = -0.5;
+  truss.model().AX_CL[1] = 800;
+  truss.window.view.resultsShown = true;
+  RedrawTruss(truss.window, truss.session, truss.platform);
+  const auto members = DrawnByName(truss.window.view.drawing);
+  EXPECT_EQ(members.at("TL 1").line.colour, Colour::DarkOrange);
+  EXPECT_EQ(members.at("TR 1").line.colour, Colour::DarkOrange);
+  EXPECT_EQ(members.at("CL 1").line.colour, Colour::RoyalBlue);
+  EXPECT_EQ(members.at("CR 1").line.colour, Colour::Gray);
+  EXPECT_EQ(members.at("CV").line.colour, Colour::Gray);
+  EXPECT_EQ(members.at("TL 1").circle.colour, Colour::Red);
+}
+
+TEST(Canvas, NothingIsDrawnForAKeywordThatIsNoType) {
+  OpenedTruss truss("", 6, 30, 7.5);
+  EXPECT_TRUE(truss.window.view.drawing.shapes.empty());
+}
+
+TEST(Zoom, EnlargesByATenthUntilTheFirstValueAbove2Point5) {
+  OpenedTruss truss = Example();
+  const double factors[] = {1.1, 1.21, 1.331};
+  for (const double factor : factors) {
+    Enlarge(truss);
+    EXPECT_NEAR(truss.window.view.ZoomFactor.value(), factor, 1e-6);
+  }
+  for (int step = 4; step <= 9; ++step) Enlarge(truss);
+  EXPECT_LT(truss.window.view.ZoomFactor.value(), 2.5f);
+  Enlarge(truss);  // the tenth: 1.1^10 = 2.5937
+  EXPECT_NEAR(truss.window.view.ZoomFactor.value(), 2.5937425, 1e-5);
+  const float last = truss.window.view.ZoomFactor.value();
+  Enlarge(truss);
+  EXPECT_EQ(truss.window.view.ZoomFactor.value(), last);
+}
+
+TEST(Zoom, AtTheLimitItselfNothingHappens) {
+  OpenedTruss truss = Example();
+  truss.window.view.ZoomFactor = 2.5;
+  Select(truss, 1);
+  Enlarge(truss);
+  EXPECT_EQ(truss.window.view.ZoomFactor.value(), 2.5f);
+  EXPECT_EQ(Arrow(truss).size(), 3u) << "no redraw";
+}
+
+TEST(Zoom, TakesEffectAtOnceAndKeepsTheOrigin) {
+  OpenedTruss truss = Example();
+  Enlarge(truss);
+  ExpectView(truss, 158, 308, 144, 2580);  // 158.4 and 308
+  // A panel is 5 x 158 = 790 units, a third of the height 2.5 x 308 = 770.
+  const LineShape line = DrawnByName(truss.window.view.drawing).at("TL 1").line;
+  EXPECT_EQ(line.x2, 934);
+  EXPECT_EQ(line.y2, 1810);
+}
+
+TEST(Zoom, ReducesByATenth) {
+  OpenedTruss truss = Example();
+  Reduce(truss);
+  EXPECT_NEAR(truss.window.view.ZoomFactor.value(), 0.9, 1e-6);
+  ExpectView(truss, 130, 252, 144, 2580);  // 129.6 and 252
+  Enlarge(truss);
+  EXPECT_NEAR(truss.window.view.ZoomFactor.value(), 0.99, 1e-6);
+}
+
+// 0.9^80 x 280 = 0.06.
+TEST(Zoom, TrussCollapsesToAPointAfterMuchReducing) {
+  OpenedTruss truss = Example();
+  for (int step = 0; step < 80; ++step) Reduce(truss);
+  ExpectView(truss, 0, 0, 144, 2580);
+  EXPECT_TRUE(truss.platform.messages.empty());
+  for (const DrawnMember& member : DrawnMembers(truss.window.view.drawing)) {
+    EXPECT_EQ(member.circle.x, 144);
+    EXPECT_EQ(member.circle.y, 2580);
+  }
+}
+
+TEST(Pan, SetsTheOriginInStepsOf600) {
+  OpenedTruss truss = Example();
+  for (const auto& [bar, origin] : {std::pair{2, 1200}, std::pair{-3, -1800}, std::pair{0, 0}}) {
+    Pan(truss, bar);
+    ExpectView(truss, 144, 280, origin, 2580);
+    EXPECT_EQ(DrawnByName(truss.window.view.drawing).at("CL 1").line.x1, origin);
+  }
+}
+
+TEST(Pan, IsKeptByZoom) {
+  OpenedTruss truss = Example();
+  Pan(truss, 2);
+  Enlarge(truss);
+  Reduce(truss);
+  EXPECT_EQ(truss.window.view.CanvasOriginX.value(), 1200);
+}
+
+TEST(Pan, BeyondTheCanvasesNumbersIsAFaultAndKeepsTheOrigin) {
+  OpenedTruss truss = Example();
+  Pan(truss, 55);  // 33000
+  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
+  EXPECT_EQ(truss.window.view.CanvasOriginX.value(), 144);
+}
+
+// Origin 32400: what lies further right than 32767 cannot be drawn.
+TEST(Pan, MembersBeyondTheCanvasesNumbersAreLeftOutWithOneBox) {
+  OpenedTruss truss = Example();
+  Pan(truss, 54);
+  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
+  EXPECT_TRUE(truss.window.view.drawing.shapes.empty()) << "the first panel is 720 units long";
+  EXPECT_TRUE(truss.window.view.MemberMark.empty());
+  Pan(truss, 53);  // 31800 + 720 = 32520 fits
+  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
+  EXPECT_EQ(DrawnNames(truss.window.view.drawing), (Texts{"TL 1", "CL 1", "VL 1"}));
+}
+
+// 0.1 ft would need 43200 units a foot.
+TEST(Scale, TooLargeForTheCanvasIsOneFaultADrawingAndStaysAsItWas) {
+  OpenedTruss truss("PRATT1", 6, 0.1, 7.5);
+  truss.platform.messages.clear();
+  RedrawTruss(truss.window, truss.session, truss.platform);
+  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
+  ExpectView(truss, 0, 280, 0, 2580);
+}
+
+TEST(NodeMarker, BlueArrowPointsDownAtTheNode) {
+  OpenedTruss truss = Example();
+  Select(truss, 1);  // PL 1 at (864, 1880)
+  const auto arrow = Arrow(truss);
+  ASSERT_EQ(arrow.size(), 3u);
+  EXPECT_EQ(arrow[0].x1, 864);
+  EXPECT_EQ(arrow[0].y1, 1380);
+  EXPECT_EQ(arrow[0].x2, 864);
+  EXPECT_EQ(arrow[0].y2, 1580);
+  for (const std::size_t stroke : {1u, 2u}) {
+    EXPECT_EQ(arrow[stroke].x2, 864);
+    EXPECT_EQ(arrow[stroke].y2, 1580);
+    EXPECT_LT(arrow[stroke].y1, 1580);
+    EXPECT_GT(arrow[stroke].y1, 1380);
+  }
+  EXPECT_LT(arrow[1].x1, 864);
+  EXPECT_GT(arrow[2].x1, 864);
+}
+
+struct Tip {
+  const char* type;
+  int spans;
+  int row;
+  double x, nodeY;
+};
+
+TEST(NodeMarker, StandsOverTheNodeOfEachRow) {
+  const Tip tips[] = {
+      {"PRATT1", 6, 2, 1584, 1180},  {"PRATT1", 6, 3, 2304, 480}, {"PRATT1", 6, 5, 3024, 1180},
+      {"ENGLISH", 6, 4, 3744, 1880}, {"FINK", 6, 1, 720, 2020},   {"FINK", 6, 5, 3312, 1460},
+      {"KINGPOST", 4, 1, 2304, 480}, {"SCI", 4, 1, 1378, 1380},   {"SCI", 4, 2, 2304, 480},
+      {"SCI", 4, 3, 3230, 1380},     {"PRATT2", 6, 1, 144, 480},  {"PRATT2", 6, 4, 2304, 480},
+      {"HOWE", 6, 7, 3024, 480},     {"WARREN", 6, 2, 1584, 480}, {"WARREN", 6, 3, 4464, 480},
+      {"WARREN", 8, 3, 2304, 480},   {"WARREN", 8, 5, 3384, 480},
+  };
+  for (const Tip& tip : tips) {
+    OpenedTruss truss(tip.type, tip.spans, 30, 7.5, 3);
+    Select(truss, tip.row);
+    const auto arrow = Arrow(truss);
+    ASSERT_EQ(arrow.size(), 3u) << tip.type << tip.row;
+    EXPECT_EQ(arrow[0].x2, tip.x) << tip.type << tip.row;
+    EXPECT_EQ(arrow[0].y2, tip.nodeY - 300) << tip.type << tip.row;
+  }
+}
+
+TEST(NodeMarker, MovesWithTheSelection) {
+  OpenedTruss truss = Example();
+  Select(truss, 1);
+  Select(truss, 2);
+  const auto arrow = Arrow(truss);
+  ASSERT_EQ(arrow.size(), 3u);
+  EXPECT_EQ(arrow[0].x2, 1584);
+}
+
+TEST(NodeMarker, BlankRowHasNoNode) {
+  OpenedTruss truss = Example();
+  Select(truss, 1);
+  Select(truss, 0);
+  EXPECT_TRUE(Arrow(truss).empty());
+}
+
+TEST(NodeMarker, StaysOverARedrawButNotOverZoomAndPan) {
+  OpenedTruss truss = Example();
+  Select(truss, 1);
+  RedrawTruss(truss.window, truss.session, truss.platform);
+  EXPECT_EQ(Arrow(truss).size(), 3u);
+  Enlarge(truss);
+  EXPECT_TRUE(Arrow(truss).empty());
+  Select(truss, 1);
+  Reduce(truss);
+  EXPECT_TRUE(Arrow(truss).empty());
+  Select(truss, 1);
+  Pan(truss, 1);
+  EXPECT_TRUE(Arrow(truss).empty());
+}
+
+}  // namespace
+}  // namespace lignara
