@@ -87,8 +87,11 @@ void DesktopPlatform::OpenWindow(const std::string& name) {
 }
 
 void DesktopPlatform::Place(ToolWindow* window) {
-  window->adjustSize();
   const QRect screen = window->screen()->geometry();
+  // A window may name a size of its own; any other gets what it wants, up to the whole screen.
+  const bool named = window->testAttribute(Qt::WA_Resized);
+  const QSize wish = named ? window->size() : window->sizeHint();
+  window->resize(wish.boundedTo(screen.size()));
   window->move(screen.x() + (screen.width() - window->width()) / 2,
                screen.y() + (screen.height() - window->height()) / 2);
 }

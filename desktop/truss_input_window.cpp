@@ -33,6 +33,7 @@ class TrussInputForm : public ToolWindow {
     left->addWidget(SlopePanel());
     left->addStretch();
     columns->addLayout(Sketch(), 1);
+    resize(780, 500);
   }
 
   void CloseControl() override { CancelTrussInput(session(), platform()); }
@@ -72,7 +73,7 @@ class TrussInputForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Slope Calculator");
     auto* rows = new QVBoxLayout(panel);
     auto* triangle = Named("Slope", new Picture);
-    triangle->setMinimumHeight(110);
+    triangle->setFixedHeight(120);
     binding().Show(triangle, &record_.slopeSketch);
     rows->addWidget(triangle);
     auto* grid = new QGridLayout;

@@ -26,6 +26,14 @@ namespace {
 /// either side reach all of a truss enlarged to the full.
 constexpr int kPanSteps = 30;
 
+/// A list of the side column: it takes its height from the window and leaves the width to the
+/// drawing.
+QListWidget* SideList(const char* name) {
+  QListWidget* list = MakeList(name, 8);
+  list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+  return list;
+}
+
 /// A coloured dash and what the colour of a member means.
 QLabel* LegendEntry(const char* colour, const char* meaning) {
   auto* label =
@@ -238,7 +246,7 @@ QLayout* TrussForm::NodeLoads() {
   auto* rows = new QVBoxLayout;
   rows->addWidget(MakeHeading("Top Node Loads (lbs)"));
   rows->addWidget(new QLabel("Click on list item to select"));
-  QListWidget* list = MakeList("Top Node Loads (lbs)", 8);
+  QListWidget* list = SideList("Top Node Loads (lbs)");
   binding().List(list, &record_.nodeRows, &record_.nodeRow,
                  [this](int row) { SelectNode(record_, session(), platform(), row); });
   rows->addWidget(list, 1);
@@ -273,7 +281,7 @@ QLayout* TrussForm::NodeField() {
 QLayout* TrussForm::Forces() {
   auto* rows = new QVBoxLayout;
   rows->addWidget(MakeHeading("Axial Load (lbs)"));
-  QListWidget* list = MakeList("Axial Load (lbs)", 8);
+  QListWidget* list = SideList("Axial Load (lbs)");
   binding().List(list, &record_.axialRows);
   rows->addWidget(list, 1);
   auto* hit = new QGridLayout;
