@@ -15,9 +15,11 @@
 namespace lignara {
 namespace {
 
-/// The captions around a widget and its own, from the window inward.
+/// The captions around a widget and its own, from the window inward. Empty for a widget without a
+/// caption, such as the scroll bars inside a list: the panel around it is not its name.
 QStringList FullPath(const QWidget* widget) {
   QStringList path;
+  if (CaptionOf(widget).isEmpty()) return path;
   for (const QWidget* at = widget; at != nullptr && !at->isWindow(); at = at->parentWidget()) {
     const bool names = at == widget || qobject_cast<const QGroupBox*>(at) != nullptr;
     if (names && !CaptionOf(at).isEmpty()) path.prepend(CaptionOf(at));
