@@ -6,7 +6,7 @@ set -euo pipefail
 purpose=${1:-run}
 packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
 if [ "$purpose" = test ]; then
-  packages+=(libgtest-dev libgmock-dev libbenchmark-dev clang-format gcovr locales)
+  packages+=(git libgtest-dev libgmock-dev libbenchmark-dev clang-format gcovr locales)
 fi
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
