@@ -34,6 +34,13 @@ bool IsControl(const QWidget* widget) {
   return IsAny<QAbstractButton, QLineEdit, QListWidget, QTableWidget, Picture, QScrollBar>(widget);
 }
 
+bool IsList(const QWidget* widget) { return IsAny<QListWidget, QTableWidget>(widget); }
+
+bool IsTypedInto(const QWidget* widget) {
+  const auto* field = qobject_cast<const QLineEdit*>(widget);
+  return field != nullptr && !field->isReadOnly();
+}
+
 bool IsPanel(const QWidget* widget) { return IsAny<QGroupBox>(widget); }
 bool IsLabel(const QWidget* widget) { return IsAny<QLabel>(widget); }
 
@@ -148,14 +155,15 @@ ToolWindow* ScriptPlayer::Current() const {
   return window;
 }
 
-QWidget* ScriptPlayer::Control(const Words& words, std::size_t count,
-                               const WidgetFilter& kind) const {
-  return FindControl(Current(), PathOf(words, count), {Visible(kind)});
+QWidget* ScriptPlayer::Control(const Words& words, std::size_t count, const Kinds& kinds) const {
+  Kinds visible;
+  for (const WidgetFilter& kind : kinds) visible.push_back(Visible(kind));
+  return FindControl(Current(), PathOf(words, count), visible);
 }
 
 QWidget* ScriptPlayer::ActiveControl(const Words& words, std::size_t count,
-                                     const WidgetFilter& kind) const {
-  QWidget* control = Control(words, count, kind);
+                                     const Kinds& kinds) const {
+  QWidget* control = Control(words, count, kinds);
   if (!control->isEnabled()) {
     throw ScriptError{"the control " + Quoted(words[count - 1].text) + " is disabled"};
   }
@@ -177,7 +185,7 @@ void ScriptPlayer::Window(const Words& words) {
 
 void ScriptPlayer::Press(const Words& words) {
   auto* button =
-      static_cast<QAbstractButton*>(ActiveControl(words, words.size(), IsAny<QAbstractButton>));
+      static_cast<QAbstractButton*>(ActiveControl(words, words.size(), {IsAny<QAbstractButton>}));
   button->setFocus();
   button->click();
 }
@@ -191,17 +199,15 @@ void ScriptPlayer::Menu(const Words& words) {
 
 void ScriptPlayer::Enter(const Words& words) {
   const std::size_t count = words.size() - 1;
-  auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, [](const QWidget* widget) {
-    const auto* edit = qobject_cast<const QLineEdit*>(widget);
-    return edit != nullptr && !edit->isReadOnly();
-  }));
+  auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, {IsTypedInto}));
   field->setFocus();
   field->setText(words.back().text);
   emit field->textEdited(words.back().text);
 }
 
 void ScriptPlayer::Key(const Words& words) {
-  QWidget* control = ActiveControl(words, words.size() - 1, IsControl);
+  // Where a field and a list bear the same name, keys go to the field.
+  QWidget* control = ActiveControl(words, words.size() - 1, {IsTypedInto, IsList, IsControl});
   const QKeySequence sequence = QKeySequence::fromString(words.back().text);
   if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
     throw ScriptError{"there is no key " + Quoted(words.back().text)};
@@ -216,7 +222,7 @@ void ScriptPlayer::Key(const Words& words) {
 
 void ScriptPlayer::Select(const Words& words) {
   auto* list =
-      static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, IsAny<QListWidget>));
+      static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, {IsAny<QListWidget>}));
   const int row = RowOf(list, words.back());
   list->setFocus();
   if (row != list->currentRow()) {
@@ -228,12 +234,12 @@ void ScriptPlayer::Select(const Words& words) {
 
 void ScriptPlayer::Click(const Words& words) {
   const std::size_t count = words.size() - 2;
-  auto* picture = static_cast<Picture*>(ActiveControl(words, count, IsAny<Picture>));
+  auto* picture = static_cast<Picture*>(ActiveControl(words, count, {IsAny<Picture>}));
   picture->PressAt(ToFigure(words[count]), ToFigure(words[count + 1]));
 }
 
 void ScriptPlayer::Scroll(const Words& words) {
-  auto* bar = static_cast<QScrollBar*>(ActiveControl(words, words.size() - 1, IsAny<QScrollBar>));
+  auto* bar = static_cast<QScrollBar*>(ActiveControl(words, words.size() - 1, {IsAny<QScrollBar>}));
   const int value = ToWhole(words.back());
   if (value < bar->minimum() || value > bar->maximum()) {
     throw ScriptError{"the scroll bar has no value " + words.back().text};
@@ -278,7 +284,7 @@ void ScriptPlayer::Read(const Words& words) {
 }
 
 void ScriptPlayer::Rows(const Words& words) {
-  const QWidget* control = Control(words, words.size(), IsAny<QListWidget, QTableWidget>);
+  const QWidget* control = Control(words, words.size(), {IsList});
   if (const auto* table = qobject_cast<const QTableWidget*>(control)) {
     PrintTableRows(table, output_);
     return;
@@ -295,13 +301,14 @@ void ScriptPlayer::State(const Words& words) {
     output_(QString("state visible %1").arg(item->isEnabled() ? "enabled" : "disabled"));
     return;
   }
-  output_(StateOf(FindControl(
-      Current(), path,
-      {Visible(IsControl), Visible(IsPanel), Visible(IsLabel), IsControl, IsPanel, IsLabel})));
+  // Where a list and a field bear the same name, the chosen row is what one asks for.
+  output_(StateOf(FindControl(Current(), path,
+                              {Visible(IsList), Visible(IsControl), Visible(IsPanel),
+                               Visible(IsLabel), IsList, IsControl, IsPanel, IsLabel})));
 }
 
 void ScriptPlayer::Shapes(const Words& words) {
-  const QWidget* control = Control(words, words.size(), IsAny<Picture>);
+  const QWidget* control = Control(words, words.size(), {IsAny<Picture>});
   PrintShapes(static_cast<const Picture*>(control)->drawing(), output_);
 }
 
@@ -310,7 +317,7 @@ void ScriptPlayer::Windows(const Words&) {
 }
 
 void ScriptPlayer::SavePicture(const Words& words) {
-  QWidget* control = Control(words, words.size() - 1, IsAny<Picture>);
+  QWidget* control = Control(words, words.size() - 1, {IsAny<Picture>});
   if (!static_cast<Picture*>(control)->SavePng(words.back().text)) {
     throw ScriptError{"cannot write " + words.back().text};
   }

@@ -52,10 +52,12 @@ class ScriptPlayer {
 
   /// The window that the lines act in. Throws when it is closed, or kept by a modal one.
   ToolWindow* Current() const;
-  /// The control of the first `count` words, visible and of the kind that a filter tells.
-  QWidget* Control(const Words& words, std::size_t count, const WidgetFilter& kind) const;
+  using Kinds = std::vector<WidgetFilter>;
+  /// The control of the first `count` words: visible, and of the first of the kinds of which there
+  /// is one.
+  QWidget* Control(const Words& words, std::size_t count, const Kinds& kinds) const;
   /// The same, and enabled.
-  QWidget* ActiveControl(const Words& words, std::size_t count, const WidgetFilter& kind) const;
+  QWidget* ActiveControl(const Words& words, std::size_t count, const Kinds& kinds) const;
 
   ScriptPlatform& platform_;
   ScriptOutput output_;
