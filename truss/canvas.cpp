@@ -30,12 +30,6 @@ Colour MemberColour(const TrussWindow& window, const Member& member) {
   return StressColour(AxialOf(window.model, member.family)[member.index]);
 }
 
-void DrawMembers(const TrussWindow& window, const TrussShape& shape, TrussPainter& painter) {
-  for (const MemberLine& line : LayoutOf(shape)) {
-    painter.DrawMember(line, MemberColour(window, line.member));
-  }
-}
-
 void DrawArrow(const TrussWindow& window, const SessionState& session, const TrussShape& shape,
                TrussPainter& painter) {
   const int row = window.view.markedRow;
@@ -70,7 +64,8 @@ void RedrawTruss(TrussWindow& window, const SessionState& session, Platform& pla
   SetScales(window.view, session);
   const TrussShape shape = ShapeOf(window.model, session);
   TrussPainter painter(window.view);
-  DrawMembers(window, shape, painter);
+  painter.DrawMembers(LayoutOf(shape),
+                      [&](const Member& member) { return MemberColour(window, member); });
   DrawArrow(window, session, shape, painter);
   window.view.MemberMark = painter.TakeMarks();
   window.view.drawing = painter.TakeDrawing();
@@ -81,7 +76,7 @@ Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
   TrussPainter painter(window.view);
   // Builders of Howe trusses number the centre post as the one of its family.
   painter.centreName = shape.type == "HOWE" ? "CV1" : "CV";
-  for (const MemberLine& line : LayoutOf(shape)) painter.DrawMember(line, Colour::Black);
+  painter.DrawMembers(LayoutOf(shape), [](const Member&) { return Colour::Black; });
   const bool level = HasLevelTop(shape.type);
   for (const TopNode& node : TopNodesInRows(TopNodesOf(window.model, session))) {
     painter.DrawNodeName(TopNodePoint(shape, node), node.side, level, NodeLabel(node, shape.type));

@@ -8,91 +8,62 @@
 namespace lignara {
 namespace {
 
-constexpr double kTextHeight = 110;
-constexpr double kLetterWidth = 60;  // enough for the widest names
-/// From a circle's centre to the corner of a name that stands aslant of it.
+/// From a node to its name.
 constexpr double kAslant = 40;
-/// From a circle's centre to a name right above or beside it.
 constexpr double kBeside = 60;
-constexpr double kBelow = 50;
 
 constexpr double kArrowTop = 500;
 constexpr double kArrowTip = 300;
 constexpr double kHeadWidth = 60;
 constexpr double kHeadHeight = 90;
 
-double Width(const std::string& text) { return kLetterWidth * static_cast<double>(text.size()); }
-
-bool IsTop(Family family) { return family == Family::TL || family == Family::TR; }
-bool IsBottom(Family family) { return family == Family::CL || family == Family::CR; }
-
-/// How a line runs across the canvas, read from left to right.
-enum class Run { Level, Upright, Rising, Falling };
-
-Run RunOf(CanvasPoint from, CanvasPoint to) {
-  if (from.x == to.x) return Run::Upright;
-  if (from.y == to.y) return Run::Level;
-  return (to.x > from.x) == (to.y < from.y) ? Run::Rising : Run::Falling;
-}
-
-/// The top left corner of a name, counted from the midpoint of its member.
+/// A place, counted from another one.
 struct Offset {
   double x, y;
 };
-
-/// Beside the circle, on the side from which the line leads away: above a top chord, below a bottom
-/// chord, to the right of a web.
-Offset NameOffset(Family family, Run run, double width) {
-  constexpr double above = -kAslant - kTextHeight;
-  if (IsBottom(family)) return {run == Run::Falling ? -width : 0.0, kBelow};
-  switch (run) {
-    case Run::Upright:
-      return {kBeside, -kTextHeight / 2};
-    case Run::Level:
-      return {-width / 2, -kBeside - kTextHeight};
-    case Run::Rising:
-      return IsTop(family) ? Offset{-kAslant - width, above} : Offset{kAslant, kAslant};
-    case Run::Falling:
-      return {kAslant, above};
-  }
-  return {};
-}
 
 /// The top left corner of a node's name, counted from the node. Over a level chord it stands one
 /// line above the chord's names and inward of the node, so that it stays on the page; over a rafter
 /// it stands outward, where the rafter falls away.
 Offset NodeNameOffset(NodeSide side, bool level, double width) {
-  const double above = -kBeside - (level ? 2 : 1) * kTextHeight;
+  const double above = -kBeside - (level ? 2 : 1) * kNameHeight;
   if (side == NodeSide::Peak) return {-width / 2, above};
   const bool toTheRight = (side == NodeSide::Left) == level;
   if (level) return {toTheRight ? 0.0 : -width, above};
-  return {toTheRight ? kAslant : -kAslant - width, -kAslant - kTextHeight};
+  return {toTheRight ? kAslant : -kAslant - width, -kAslant - kNameHeight};
 }
-
-/// The middle of two places, to whole units with ties to the even one.
-int Middle(int a, int b) { return static_cast<int>(RoundHalfEven((Number(a) + b) / 2).value()); }
 
 }  // namespace
 
 TrussPainter::TrussPainter(const TrussView& view) : view_(view) {
   drawing_.width = kCanvasWidth;
   drawing_.height = kCanvasHeight;
-  drawing_.textHeight = kTextHeight;
+  drawing_.textHeight = kNameHeight;
 }
 
-void TrussPainter::DrawMember(const MemberLine& line, Colour colour) {
-  const auto from = Place(line.from);
-  const auto to = Place(line.to);
-  if (!from || !to) return;
-  const CanvasPoint mark{Middle(from->x, to->x), Middle(from->y, to->y)};
-  Line(*from, *to, colour);
+void TrussPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colourOf) {
+  std::vector<CanvasLine> lines;
+  for (const MemberLine& line : layout) {
+    const auto from = Place(line.from);
+    const auto to = Place(line.to);
+    if (from && to) lines.push_back({line.member, *from, *to});
+  }
+  NamePlacer names(lines);
+  for (const CanvasLine& line : lines) DrawMember(line, colourOf(line.member), names);
+}
+
+void TrussPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer& names) {
+  const CanvasPoint mark = line.Middle();
+  drawing_.shapes.emplace_back(
+      LineShape{static_cast<double>(line.from.x), static_cast<double>(line.from.y),
+                static_cast<double>(line.to.x), static_cast<double>(line.to.y), colour});
   drawing_.shapes.emplace_back(CircleShape{static_cast<double>(mark.x), static_cast<double>(mark.y),
                                            kMarkRadius, Colour::Red});
-  const Family family = line.member.family;
-  const std::string name = family == Family::CV ? centreName : MemberLabel(line.member);
-  const Offset offset = NameOffset(family, RunOf(*from, *to), Width(name));
-  Text(mark.x + offset.x, mark.y + offset.y, name);
-  marks_[{family, line.member.index}] = {mark.x, mark.y};
+  const Member& member = line.member;
+  const std::string name = member.family == Family::CV ? centreName : MemberLabel(member);
+  const NameBox box = names.PlaceMember(line, name);
+  Text(box.x, box.y, name);
+  marks_[{member.family, member.index}] = {mark.x, mark.y};
 }
 
 void TrussPainter::DrawArrow(const FootPoint& node) {
@@ -112,7 +83,7 @@ void TrussPainter::DrawNodeName(const FootPoint& node, NodeSide side, bool level
                                 const std::string& name) {
   const auto place = Place(node);
   if (!place) return;
-  const Offset offset = NodeNameOffset(side, level, Width(name));
+  const Offset offset = NodeNameOffset(side, level, NameWidth(name));
   Text(place->x + offset.x, place->y + offset.y, name);
 }
 
@@ -133,12 +104,6 @@ std::optional<int> TrussPainter::Whole(const Number& coordinate) {
     faultShown_ = true;
   }
   return std::nullopt;
-}
-
-void TrussPainter::Line(const CanvasPoint& from, const CanvasPoint& to, Colour colour) {
-  drawing_.shapes.emplace_back(LineShape{static_cast<double>(from.x), static_cast<double>(from.y),
-                                         static_cast<double>(to.x), static_cast<double>(to.y),
-                                         colour});
 }
 
 void TrussPainter::Text(double x, double y, const std::string& text) {

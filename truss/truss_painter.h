@@ -1,19 +1,17 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "truss/layout.h"
+#include "truss/name_placer.h"
 #include "truss/truss_window.h"
 
 namespace lignara {
-
-/// A place on the canvas, in whole canvas units.
-struct CanvasPoint {
-  int x, y;
-};
 
 /// Turns members and nodes into shapes, at the scales and the origin of a view.
 ///
@@ -22,11 +20,12 @@ struct CanvasPoint {
 class TrussPainter {
  public:
   using Marks = std::map<std::pair<Family, int>, MarkPoint>;
+  using ColourOf = std::function<Colour(const Member&)>;
 
   explicit TrussPainter(const TrussView& view);
 
-  /// The line, the circle at its midpoint and the name beside it.
-  void DrawMember(const MemberLine& line, Colour colour);
+  /// Of each member the line, the circle at its midpoint and the name beside it.
+  void DrawMembers(const TrussLayout& layout, const ColourOf& colourOf);
   /// The arrow that points down at a node.
   void DrawArrow(const FootPoint& node);
   /// The name of a top node, away from the members that meet there. `level`: on a level chord.
@@ -38,9 +37,9 @@ class TrussPainter {
   std::string centreName = "CV";  ///< what the centre vertical is called
 
  private:
+  void DrawMember(const CanvasLine& line, Colour colour, NamePlacer& names);
   std::optional<CanvasPoint> Place(const FootPoint& point);
   std::optional<int> Whole(const Number& coordinate);
-  void Line(const CanvasPoint& from, const CanvasPoint& to, Colour colour);
   void Text(double x, double y, const std::string& text);
 
   const TrussView& view_;

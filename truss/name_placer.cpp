@@ -1,0 +1,152 @@
+#include "truss/name_placer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "truss/canvas.h"
+
+namespace lignara {
+namespace {
+
+constexpr double kLetterWidth = 60;
+/// From a circle's centre to the corner of a name that stands aslant of it.
+constexpr double kAslant = 40;
+/// From a circle's centre to a name right above, below or beside it.
+constexpr double kBeside = 55;
+constexpr double kBelow = 50;
+/// Of a name from lines.
+constexpr double kClear = 10;
+/// Where more members are drawn the circles themselves run together, and a search would take long.
+constexpr std::size_t kMostMembers = 150;
+
+/// The corners aslant of a circle, in which a name is nearest to it.
+NameBox Aslant(CanvasPoint mark, bool right, bool above, double width) {
+  return {right ? mark.x + kAslant : mark.x - kAslant - width,
+          above ? mark.y - kAslant - kNameHeight : mark.y + kAslant, width, kNameHeight};
+}
+
+/// Right or left of a circle; `part` of the name's height lies above the circle's centre.
+NameBox Beside(CanvasPoint mark, bool right, double part, double width) {
+  return {right ? mark.x + kBeside : mark.x - kBeside - width, mark.y - part * kNameHeight, width,
+          kNameHeight};
+}
+
+/// Above or below a circle; `part` of the name's width lies left of the circle's centre.
+NameBox OverOrUnder(CanvasPoint mark, bool over, double part, double width) {
+  return {mark.x - part * width, over ? mark.y - kBeside - kNameHeight : mark.y + kBeside, width,
+          kNameHeight};
+}
+
+/// All places around a circle, the nearer ones first.
+std::vector<NameBox> PlacesAround(CanvasPoint mark, double width) {
+  std::vector<NameBox> places;
+  for (const bool right : {true, false}) {
+    for (const bool above : {false, true}) places.push_back(Aslant(mark, right, above, width));
+  }
+  for (const double part : {0.5, 0.25, 0.75, 0.0, 1.0}) {
+    for (const bool first : {true, false}) {
+      places.push_back(Beside(mark, first, part, width));
+      places.push_back(OverOrUnder(mark, first, part, width));
+    }
+  }
+  return places;
+}
+
+/// How a line runs across the canvas, read from left to right.
+enum class Run { Level, Upright, Rising, Falling };
+
+Run RunOf(const CanvasLine& line) {
+  if (line.from.x == line.to.x) return Run::Upright;
+  if (line.from.y == line.to.y) return Run::Level;
+  return (line.to.x > line.from.x) == (line.to.y < line.from.y) ? Run::Rising : Run::Falling;
+}
+
+/// The place from which the line leads away: outside of a top chord, to the right of a web.
+NameBox Preferred(Family family, Run run, CanvasPoint mark, double width) {
+  const bool top = family == Family::TL || family == Family::TR;
+  if (run == Run::Upright) return Beside(mark, true, 0.5, width);
+  if (run == Run::Level) return OverOrUnder(mark, true, 0.5, width);
+  if (run == Run::Falling) return Aslant(mark, true, true, width);
+  return Aslant(mark, !top, top, width);
+}
+
+NameBox BottomBox(const CanvasLine& line, double width) {
+  const CanvasPoint mark = line.Middle();
+  const double shift = RunOf(line) == Run::Falling ? -width : 0.0;
+  return {mark.x + shift, mark.y + kBelow, width, kNameHeight};
+}
+
+/// Narrows the part [from, to] of a line to where a coordinate lies between two bounds; false where
+/// nothing is left.
+bool Clip(double start, double delta, double low, double high, double& from, double& to) {
+  if (delta == 0) return start >= low && start <= high;
+  const double a = (low - start) / delta, b = (high - start) / delta;
+  from = std::max(from, std::min(a, b));
+  to = std::min(to, std::max(a, b));
+  return from <= to;
+}
+
+/// True where the line comes nearer to the box than its own thickness.
+bool Crosses(const CanvasLine& line, const NameBox& box) {
+  double from = 0, to = 1;
+  return Clip(line.from.x, line.to.x - line.from.x, box.x - kClear, box.x + box.width + kClear,
+              from, to) &&
+         Clip(line.from.y, line.to.y - line.from.y, box.y - kClear, box.y + box.height + kClear,
+              from, to);
+}
+
+bool Covers(const NameBox& box, CanvasPoint mark) {
+  const double dx = std::max({box.x - mark.x, 0.0, mark.x - box.x - box.width});
+  const double dy = std::max({box.y - mark.y, 0.0, mark.y - box.y - box.height});
+  return std::hypot(dx, dy) < kMarkRadius;
+}
+
+bool Overlap(const NameBox& a, const NameBox& b) {
+  return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
+}
+
+int Halfway(int a, int b) { return static_cast<int>(RoundHalfEven((Number(a) + b) / 2).value()); }
+
+bool IsBottom(Family family) { return family == Family::CL || family == Family::CR; }
+
+}  // namespace
+
+CanvasPoint CanvasLine::Middle() const { return {Halfway(from.x, to.x), Halfway(from.y, to.y)}; }
+
+double NameWidth(const std::string& name) {
+  return kLetterWidth * static_cast<double>(name.size());
+}
+
+NamePlacer::NamePlacer(const std::vector<CanvasLine>& lines) : lines_(lines) {
+  // The names of the bottom chord have no choice, so the others have to heed them.
+  for (const CanvasLine& line : lines_) {
+    if (!IsBottom(line.member.family)) continue;
+    taken_.push_back(BottomBox(line, NameWidth(MemberLabel(line.member))));
+  }
+}
+
+NameBox NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name) {
+  const double width = NameWidth(name);
+  if (IsBottom(line.member.family)) return BottomBox(line, width);
+  const CanvasPoint mark = line.Middle();
+  NameBox best = Preferred(line.member.family, RunOf(line), mark, width);
+  if (lines_.size() <= kMostMembers && !IsFree(best)) {
+    const std::vector<NameBox> places = PlacesAround(mark, width);
+    const auto free =
+        std::find_if(places.begin(), places.end(), [&](const NameBox& box) { return IsFree(box); });
+    if (free != places.end()) best = *free;
+  }
+  taken_.push_back(best);
+  return best;
+}
+
+bool NamePlacer::IsFree(const NameBox& box) const {
+  const auto blocks = [&](const CanvasLine& line) {
+    return Crosses(line, box) || Covers(box, line.Middle());
+  };
+  const auto overlaps = [&](const NameBox& other) { return Overlap(box, other); };
+  return std::none_of(lines_.begin(), lines_.end(), blocks) &&
+         std::none_of(taken_.begin(), taken_.end(), overlaps);
+}
+
+}  // namespace lignara

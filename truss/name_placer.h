@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "truss/members.h"
+
+namespace lignara {
+
+/// A place on the canvas, in whole canvas units.
+struct CanvasPoint {
+  int x, y;
+};
+
+/// A member on the canvas.
+struct CanvasLine {
+  Member member;
+  CanvasPoint from, to;
+
+  /// The midpoint, to whole units with ties to the even one.
+  CanvasPoint Middle() const;
+};
+
+/// The room of a name: its top left corner and its size, in canvas units.
+struct NameBox {
+  double x, y, width, height;
+};
+
+/// Finds the places of the names on a drawing: each beside the circle of its member, and clear of
+/// lines, circles and the names before it where there is such a place.
+class NamePlacer {
+ public:
+  explicit NamePlacer(const std::vector<CanvasLine>& lines);
+
+  /// The place of a member's name. Names of the bottom chord stand 50 units below the midpoint,
+  /// always.
+  NameBox PlaceMember(const CanvasLine& line, const std::string& name);
+
+ private:
+  bool IsFree(const NameBox& box) const;
+
+  const std::vector<CanvasLine>& lines_;
+  std::vector<NameBox> taken_;
+};
+
+/// Height of the names, in canvas units.
+inline constexpr double kNameHeight = 110;
+
+/// The room that a name takes at most.
+double NameWidth(const std::string& name);
+
+}  // namespace lignara
