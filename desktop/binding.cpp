@@ -14,6 +14,11 @@
 
 namespace lignara {
 
+int ChosenRow(const QListWidget* list) {
+  const QListWidgetItem* item = list->currentItem();
+  return item != nullptr && item->isSelected() ? list->currentRow() : -1;
+}
+
 void Binding::Field(QLineEdit* field, std::string* text, Command typed) {
   QObject::connect(field, &QLineEdit::textEdited, [this, text, typed](const QString& now) {
     Run([&] {
@@ -48,15 +53,16 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
       list->verticalScrollBar()->setValue(scrolled);
       shown = *rows;
     }
-    if (row != nullptr && list->currentRow() != *row) list->setCurrentRow(*row);
+    if (row != nullptr && ChosenRow(list) != *row) list->setCurrentRow(*row);
   });
   if (!chosen) return;
   const auto choose = [this, chosen](int at) {
     if (at >= 0) Run([&] { chosen(at); });
   };
-  // A mouse press moves the current row first and is a click only when released.
-  QObject::connect(list, &QListWidget::currentRowChanged, [choose](int at) {
-    if (QGuiApplication::mouseButtons() == Qt::NoButton) choose(at);
+  // A mouse press moves the current row first and is a click only when released. A list that only
+  // gets the focus moves its current row too, but chooses none.
+  QObject::connect(list, &QListWidget::currentRowChanged, [list, choose](int at) {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton && ChosenRow(list) == at) choose(at);
   });
   QObject::connect(list, &QListWidget::itemClicked,
                    [list, choose](QListWidgetItem* item) { choose(list->row(item)); });

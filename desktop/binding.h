@@ -18,6 +18,9 @@ namespace lignara {
 
 class Picture;
 
+/// The row of a list that is chosen, as the screen shows it; -1 where none is.
+int ChosenRow(const QListWidget* list);
+
 /// Ties the widgets of a window to the members of its record, once each. A user's action writes the
 /// record and calls the command; after every command all windows show their records again.
 ///

@@ -12,6 +12,7 @@
 #include <QTableWidget>
 #include <algorithm>
 
+#include "desktop/binding.h"
 #include "desktop/picture.h"
 #include "desktop/tool_window.h"
 #include "script/script_error.h"
@@ -96,7 +97,7 @@ QString StateOf(const QWidget* widget) {
     state += button->isChecked() ? " checked" : " unchecked";
   }
   if (const auto* list = qobject_cast<const QListWidget*>(widget)) {
-    state += QString(" selected %1").arg(list->currentRow());
+    state += QString(" selected %1").arg(ChosenRow(list));
   }
   return state;
 }
