@@ -8,9 +8,11 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/choice_button.h"
 #include "desktop/form.h"
+#include "desktop/text.h"
 #include "desktop/tool_window.h"
 #include "wood/wood_data_base.h"
 
@@ -22,15 +24,39 @@ struct FactorBox {
   std::string FactorPanel::*text;
 };
 
+// "Wet Use Factor" and "Size Factor" are worked out; these four may be typed over.
 constexpr FactorBox kFactorBoxes[] = {
-    {"Repetative Use Factor", &FactorPanel::repetitive},
-    {"Load Duration Factor", &FactorPanel::loadDuration},
-    {"Shear Condition Factor", &FactorPanel::shearCondition},
-    {"Flat Use Factor", &FactorPanel::flatUse},
+    {"&Repetative Use Factor", &FactorPanel::repetitive},
+    {"Load &Duration Factor", &FactorPanel::loadDuration},
+    {"Shear Condi&tion Factor", &FactorPanel::shearCondition},
+    {"Flat &Use Factor", &FactorPanel::flatUse},
 };
 
-/// Conditions of use first, then the factors that follow from
-/// them, then the multipliers.
+/// A list with its caption above it, wide enough for a text and high enough for its rows.
+QListWidget* AddList(QVBoxLayout* column, const char* caption, std::size_t rows,
+                     const QString& widest) {
+  constexpr int kFrame = 16;
+  auto* label = new QLabel(caption);
+  QListWidget* list = MakeList(caption, static_cast<int>(rows));
+  list->setMinimumWidth(std::max(list->fontMetrics().horizontalAdvance(widest),
+                                 list->fontMetrics().horizontalAdvance(label->text())) +
+                        kFrame);
+  list->setFixedHeight(list->minimumHeight());
+  column->addWidget(label);
+  column->addWidget(list);
+  return list;
+}
+
+template <typename Rows>
+QString WidestRow(const Rows& rows) {
+  const auto widest = std::max_element(rows.begin(), rows.end(), [](auto* a, auto* b) {
+    return std::string_view(a).size() < std::string_view(b).size();
+  });
+  return *widest;
+}
+
+/// Conditions of use first, then the factors that follow from them, then the multipliers and what
+/// to do with them.
 class FactorPanelForm : public QGroupBox {
  public:
   FactorPanelForm(WoodDataBaseWindow& window, Binding& binding, SessionState& session,
@@ -40,67 +66,76 @@ class FactorPanelForm : public QGroupBox {
         binding_(binding),
         session_(session),
         platform_(platform) {
+    setAccessibleName(title());
     auto* rows = new QVBoxLayout(this);
-    rows->addLayout(Lists());
-    auto* middle = new QHBoxLayout;
-    middle->addLayout(Pairs());
-    middle->addLayout(Boxes(), 1);
-    rows->addLayout(middle);
-    rows->addLayout(FollowingFactors());
-    rows->addWidget(Multipliers());
-    rows->addLayout(Commands());
+    rows->addLayout(Conditions());
+    rows->addLayout(Factors());
+    rows->addLayout(Results());
+    rows->addStretch();
     binding_.Shown(this, &window_.panel.open);
+    EnterWhenOpened();
   }
+
+  QPushButton* calculate() const { return calculate_; }
+  QPushButton* cancel() const { return cancel_; }
 
  private:
-  QLayout* Lists() {
-    auto* grid = new QGridLayout;
-    for (int i = 0; i < kFactorLists; ++i) {
-      const auto list = static_cast<FactorList>(i);
-      const char* caption = kFactorListCaptions[static_cast<std::size_t>(i)];
-      auto* column = new QVBoxLayout;
-      column->addWidget(new QLabel(caption));
-      QListWidget* rows = MakeList(caption, 7);
-      rows->setMinimumWidth(150);
-      rows->setMaximumHeight(150);
-      binding_.List(rows, &window_.panel.List(list).rows, &window_.panel.List(list).row,
-                    [this, list](int row) { ChooseFactorRow(window_, platform_, list, row); });
-      column->addWidget(rows);
-      grid->addLayout(column, i / 3, i % 3);
+  /// The five lists side by side. A pair stands below the list that it goes with: flat use follows
+  /// width and thickness.
+  QLayout* Conditions() {
+    auto* columns = new QHBoxLayout;
+    AddChoice(columns, FactorList::Width, kWidthRows);
+    AddChoice(columns, FactorList::Thickness, kThicknessRows)->addWidget(Pair(FactorPair::FlatUse));
+    AddChoice(columns, FactorList::Grade, kGradeRows);
+    AddChoice(columns, FactorList::LoadDuration, kLoadDurationRows);
+    AddChoice(columns, FactorList::ShearCondition, kShearConditionRows)
+        ->addWidget(Pair(FactorPair::RepetitiveUse));
+    for (int i = 0; i < columns->count(); ++i) {
+      static_cast<QVBoxLayout*>(columns->itemAt(i)->layout())->addStretch();
     }
-    grid->addLayout(WetList(), 1, 2);
-    return grid;
+    return columns;
   }
 
-  QLayout* WetList() { return ShownList("Wet Use Factor", &window_.panel.wetRows); }
-
-  QLayout* ShownList(const char* caption, const std::vector<std::string>* rows) {
+  template <typename Rows>
+  QVBoxLayout* AddChoice(QHBoxLayout* columns, FactorList list, const Rows& rows) {
     auto* column = new QVBoxLayout;
-    column->addWidget(new QLabel(caption));
-    QListWidget* list = MakeList(caption, 4);
-    list->setMinimumWidth(150);
-    list->setMaximumHeight(150);
-    binding_.List(list, rows);
-    column->addWidget(list);
+    columns->addLayout(column);
+    QListWidget* shown = AddList(column, kFactorListCaptions[static_cast<std::size_t>(list)],
+                                 rows.size(), WidestRow(rows));
+    binding_.List(shown, &window_.panel.List(list).rows, &window_.panel.List(list).row,
+                  [this, list](int row) { ChooseFactorRow(window_, platform_, list, row); });
+    if (first_ == nullptr) first_ = shown;
     return column;
   }
 
-  QLayout* Pairs() {
-    auto* rows = new QVBoxLayout;
-    for (int i = 0; i < kFactorPairs; ++i) {
-      const auto pair = static_cast<FactorPair>(i);
-      QGroupBox* frame = MakePanel(kFactorPairCaptions[static_cast<std::size_t>(i)]);
-      auto* row = new QHBoxLayout(frame);
-      row->setContentsMargins(6, 2, 6, 4);
-      for (const bool yes : {true, false}) {
-        row->addWidget(MakeChoiceButton(
-            binding_, yes ? "Yes" : "No",
-            [this, pair, yes] { return window_.panel.Yes(pair) == yes; },
-            [this, pair, yes] { AnswerFactorPair(window_, platform_, pair, yes); }));
-      }
-      rows->addWidget(frame);
+  QGroupBox* Pair(FactorPair pair) {
+    QGroupBox* frame = MakePanel(kFactorPairCaptions[static_cast<std::size_t>(pair)]);
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(6, 2, 6, 4);
+    std::vector<QPushButton*> buttons;
+    for (const bool yes : {true, false}) {
+      buttons.push_back(MakeChoiceButton(
+          binding_, yes ? "Yes" : "No",
+          [this, pair, yes] { return window_.panel.Yes(pair) == yes; },
+          [this, pair, yes] { AnswerFactorPair(window_, platform_, pair, yes); }));
+      row->addWidget(buttons.back());
     }
-    return rows;
+    MakeOneTabStop(binding_, buttons);
+    return frame;
+  }
+
+  QLayout* Factors() {
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(Boxes());
+    columns->addSpacing(12);
+    columns->addLayout(FactorRows("Size Factor", 4, &window_.panel.sizeRows));
+    columns->addSpacing(12);
+    auto* moisture = new QVBoxLayout;
+    moisture->addWidget(Pair(FactorPair::Moisture));
+    moisture->addStretch();
+    columns->addLayout(moisture);
+    columns->addLayout(FactorRows("Wet Use Factor", 7, &window_.panel.wetRows));
+    return columns;
   }
 
   QLayout* Boxes() {
@@ -114,13 +149,27 @@ class FactorPanelForm : public QGroupBox {
     return rows;
   }
 
-  QLayout* FollowingFactors() {
+  QLayout* FactorRows(const char* caption, std::size_t count,
+                      const std::vector<std::string>* rows) {
+    auto* column = new QVBoxLayout;
+    binding_.List(AddList(column, caption, count, "Fc perp = 0.00"), rows);
+    column->addStretch();
+    return column;
+  }
+
+  /// "Calculate Factors", what comes of it, and the way out.
+  QLayout* Results() {
     auto* row = new QHBoxLayout;
-    row->addLayout(ShownList("Size Factor", &window_.panel.sizeRows));
-    auto* calculate = new QPushButton("Calculate &Factors");
-    binding_.Press(calculate, [this] { CalculateFactors(window_, platform_); });
-    row->addWidget(calculate, 0, Qt::AlignBottom);
-    row->addStretch();
+    calculate_ = new QPushButton("Ca&lculate Factors");
+    binding_.Press(calculate_, [this] { CalculateFactors(window_, platform_); });
+    row->addWidget(calculate_, 0, Qt::AlignBottom);
+    row->addWidget(Multipliers(), 1);
+    auto* ok = new QPushButton("OK");
+    binding_.Press(ok, [this] { AcceptFactors(window_, session_, platform_); });
+    cancel_ = new QPushButton("Cancel");
+    binding_.Press(cancel_, [this] { CancelFactors(window_); });
+    row->addWidget(ok, 0, Qt::AlignBottom);
+    row->addWidget(cancel_, 0, Qt::AlignBottom);
     return row;
   }
 
@@ -130,37 +179,37 @@ class FactorPanelForm : public QGroupBox {
     for (int i = 0; i < kStressKinds; ++i) {
       const char* caption = kMultiplierCaptions[static_cast<std::size_t>(i)];
       grid->addWidget(new QLabel(caption), 0, i);
-      QLineEdit* box = MakeField(caption, 60);
-      box->setReadOnly(true);
+      QLineEdit* box = MakeField(caption, 48);
+      ShowOnly(box);
       binding_.Text(box, &window_.panel.multipliers[static_cast<std::size_t>(i)]);
       grid->addWidget(box, 1, i);
     }
     return panel;
   }
 
-  QLayout* Commands() {
-    auto* row = new QHBoxLayout;
-    auto* ok = new QPushButton("OK");
-    binding_.Press(ok, [this] { AcceptFactors(window_, session_, platform_); });
-    auto* cancel = new QPushButton("Cancel");
-    binding_.Press(cancel, [this] { CancelFactors(window_); });
-    row->addStretch();
-    row->addWidget(ok);
-    row->addWidget(cancel);
-    return row;
+  /// The work goes on in the panel as soon as it opens.
+  void EnterWhenOpened() {
+    binding_.Follow([this, was = false]() mutable {
+      if (window_.panel.open && !was) first_->setFocus();
+      was = window_.panel.open;
+    });
   }
 
   WoodDataBaseWindow& window_;
   Binding& binding_;
   SessionState& session_;
   Platform& platform_;
+  QListWidget* first_ = nullptr;
+  QPushButton* calculate_ = nullptr;
+  QPushButton* cancel_ = nullptr;
 };
 
 }  // namespace
 
-QGroupBox* MakeFactorPanel(WoodDataBaseWindow& window, Binding& binding, SessionState& session,
-                           Platform& platform) {
-  return new FactorPanelForm(window, binding, session, platform);
+FactorPanelParts MakeFactorPanel(WoodDataBaseWindow& window, Binding& binding,
+                                 SessionState& session, Platform& platform) {
+  auto* panel = new FactorPanelForm(window, binding, session, platform);
+  return {panel, panel->calculate(), panel->cancel()};
 }
 
 }  // namespace lignara

@@ -5,13 +5,21 @@
 #include "desktop/binding.h"
 
 class QGroupBox;
+class QPushButton;
 
 namespace lignara {
 
 struct WoodDataBaseWindow;
 
+/// The panel, and the buttons that Return and Escape press in it.
+struct FactorPanelParts {
+  QGroupBox* panel = nullptr;
+  QPushButton* calculate = nullptr;
+  QPushButton* cancel = nullptr;
+};
+
 /// The panel "Stress Adjustment Factors" of the wood data base, tied to the window's record.
-QGroupBox* MakeFactorPanel(WoodDataBaseWindow& window, Binding& binding, SessionState& session,
-                           Platform& platform);
+FactorPanelParts MakeFactorPanel(WoodDataBaseWindow& window, Binding& binding,
+                                 SessionState& session, Platform& platform);
 
 }  // namespace lignara

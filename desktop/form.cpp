@@ -17,29 +17,42 @@ QLineEdit* MakeField(const QString& name, int width) {
   return field;
 }
 
-QLineEdit* AddField(QGridLayout* grid, const QString& caption, int width) {
+QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& caption, int width) {
   QLineEdit* field = MakeField(caption, width);
   auto* label = new QLabel(caption);
   label->setBuddy(field);
-  const int row = grid->rowCount();
-  grid->addWidget(label, row, 0);
-  grid->addWidget(field, row, 1);
+  grid->addWidget(label, row, column);
+  grid->addWidget(field, row, column + 1);
   return field;
 }
 
-QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width) {
-  QLineEdit* field = AddField(grid, caption, width);
+void ShowOnly(QLineEdit* field) {
   field->setReadOnly(true);
   QPalette palette = field->palette();
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   field->setPalette(palette);
+}
+
+QLineEdit* AddField(QGridLayout* grid, const QString& caption, int width) {
+  return PutField(grid, grid->rowCount(), 0, caption, width);
+}
+
+QLineEdit* PutValue(QGridLayout* grid, int row, int column, const QString& caption, int width) {
+  QLineEdit* field = PutField(grid, row, column, caption, width);
+  ShowOnly(field);
   return field;
+}
+
+QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width) {
+  return PutValue(grid, grid->rowCount(), 0, caption, width);
 }
 
 QListWidget* MakeList(const QString& name, int rows) {
   auto* list = new QListWidget;
   list->setAccessibleName(PlainCaption(name));
-  list->setMinimumHeight(list->fontMetrics().height() * rows + 8);
+  list->addItem("0");  // for its height in the style at hand
+  list->setMinimumHeight(list->sizeHintForRow(0) * rows + 2 * list->frameWidth());
+  list->clear();
   list->setMinimumWidth(160);
   return list;
 }

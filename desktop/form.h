@@ -14,13 +14,20 @@ namespace lignara {
 /// the plain caption. Returns the field.
 QLineEdit* AddField(QGridLayout* grid, const QString& caption, int width = 96);
 
+/// The same at a row of a grid, from a column on: the caption, then the field.
+QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& caption, int width = 96);
+
 /// The same for a value that is only shown.
 QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width = 96);
+QLineEdit* PutValue(QGridLayout* grid, int row, int column, const QString& caption, int width = 96);
+
+/// Makes a field one that is only shown.
+void ShowOnly(QLineEdit* field);
 
 /// A field without a caption of its own, known by a name.
 QLineEdit* MakeField(const QString& name, int width = 96);
 
-/// A list in the font of figures, known by a name.
+/// A list known by a name, high enough to show `rows` rows whole.
 QListWidget* MakeList(const QString& name, int rows = 8);
 
 /// A label in bold letters.

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <span>
+#include <vector>
 
 #include "desktop/choice_button.h"
 #include "desktop/desktop_platform.h"
@@ -64,9 +65,12 @@ class MemberSizeForm : public ToolWindow {
     rows->setSpacing(10);
     auto* upper = new QHBoxLayout;
     upper->addWidget(SizePanel());
-    upper->addWidget(record_.groupsShown ? Groups() : BeamPanelBox(), 1);
+    upper->addWidget(Groups(), 1);
+    upper->addWidget(BeamPanelBox(), 1);
     rows->addLayout(upper, 1);
     rows->addLayout(Foot(area));
+    // Hides the panels of the other client before the window is measured.
+    binding().Refresh();
   }
 
   void CloseControl() override { ExitMemberSize(platform()); }
@@ -112,13 +116,16 @@ class MemberSizeForm : public ToolWindow {
     auto* grid = new QGridLayout(panel);
     grid->setSpacing(4);
     constexpr int kHalf = static_cast<int>(kNominalSizes.size()) / 2;
+    std::vector<QPushButton*> buttons;
     for (int i = 0; i < static_cast<int>(kNominalSizes.size()); ++i) {
       QPushButton* button = MakeChoiceButton(
           binding(), QString::number(kNominalSizes[static_cast<std::size_t>(i)]),
           [&pick, i] { return pick == i; }, [this, choose, i] { choose(record_, i); });
-      button->setMinimumWidth(40);
+      button->setFixedWidth(48);
       grid->addWidget(button, i % kHalf, i / kHalf);
+      buttons.push_back(button);
     }
+    MakeOneTabStop(binding(), buttons);
     return panel;
   }
 
@@ -129,6 +136,7 @@ class MemberSizeForm : public ToolWindow {
     for (int i = 0; i < kMemberGroups; ++i) {
       grid->addWidget(GroupPanelBox(static_cast<MemberGroup>(i)), i / 2, i % 2);
     }
+    binding().Shown(area, &record_.groupsShown);
     return area;
   }
 
@@ -145,23 +153,29 @@ class MemberSizeForm : public ToolWindow {
     head->addWidget(select);
     rows->addLayout(head);
     rows->addWidget(GradeLabel(&record.gradeLabel));
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(16);
-    columns->addLayout(GroupColumn(group, kGroupStressRows));
-    columns->addLayout(GroupColumn(group, kGroupSectionRows));
-    rows->addLayout(columns);
+    QGridLayout* grid = BoxGrid();
+    AddGroupBoxes(grid, 0, group, kGroupSectionRows);
+    AddGroupBoxes(grid, kSecondColumn, group, kGroupStressRows);
+    rows->addLayout(grid);
     rows->addStretch();
     return panel;
   }
 
-  QLayout* GroupColumn(MemberGroup group, std::span<const GroupRow> table) {
-    auto* grid = new QGridLayout;
+  void AddGroupBoxes(QGridLayout* grid, int column, MemberGroup group,
+                     std::span<const GroupRow> table) {
+    int at = 0;
     for (const GroupRow& row : table) {
       const GroupBox box = row.box;
       binding().Field(
-          AddField(grid, row.caption, 84), &(record_.Group(group).*row.text),
+          PutField(grid, at++, column, row.caption, 84), &(record_.Group(group).*row.text),
           [this, group, box] { EditGroupBox(record_, session(), platform(), group, box); });
     }
+  }
+
+  /// Two columns of boxes with a gap between, rows aligned.
+  static QGridLayout* BoxGrid() {
+    auto* grid = new QGridLayout;
+    grid->setColumnMinimumWidth(kSecondColumn - 1, 12);
     return grid;
   }
 
@@ -174,7 +188,8 @@ class MemberSizeForm : public ToolWindow {
   QLabel* GradeLabel(const std::string* text) {
     auto* label = Named("Grade", new QLabel);
     label->setWordWrap(true);
-    label->setMinimumHeight(label->fontMetrics().height() * 2);
+    // Room for the types of most files, so that the boxes below stay where they are.
+    label->setMinimumHeight(label->fontMetrics().lineSpacing() * 3);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     binding().Text(label, text);
     return label;
@@ -185,34 +200,30 @@ class MemberSizeForm : public ToolWindow {
     auto* rows = new QVBoxLayout(panel);
     rows->addWidget(SizeCaption(&record_.beam.size));
     rows->addWidget(GradeLabel(&record_.beam.gradeLabel));
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(20);
-    columns->addLayout(BeamColumn(kBeamStressRows));
-    columns->addLayout(BeamColumn(kBeamSectionRows));
-    rows->addLayout(columns);
+    QGridLayout* grid = BoxGrid();
+    AddBeamBoxes(grid, 0, kBeamSectionRows);
+    AddBeamBoxes(grid, kSecondColumn, kBeamStressRows);
+    rows->addLayout(grid);
     rows->addStretch();
+    binding().Shown(panel, &record_.beamShown);
     return panel;
   }
 
-  QLayout* BeamColumn(std::span<const BeamRow> table) {
-    auto* column = new QVBoxLayout;
-    auto* grid = new QGridLayout;
+  void AddBeamBoxes(QGridLayout* grid, int column, std::span<const BeamRow> table) {
+    int at = 0;
     for (const BeamRow& row : table) {
       Binding::Command typed;
       if (row.changesSize) typed = [this] { EditBeamSize(record_, session(), platform()); };
-      binding().Field(AddField(grid, row.caption, 96), &(record_.beam.*row.text), typed);
+      binding().Field(PutField(grid, at++, column, row.caption), &(record_.beam.*row.text), typed);
     }
-    column->addLayout(grid);
-    column->addStretch();
-    return column;
   }
 
   QLayout* Foot(QWidget* area) {
     auto* row = new QHBoxLayout;
     auto* wood = new QPushButton("&Wood Type Data Base");
     binding().Press(wood, [this] { VisitWoodDataBase(session(), platform()); });
+    row->addWidget(Ticks());
     row->addWidget(wood);
-    if (record_.groupsShown) row->addLayout(Ticks());
     row->addStretch();
     auto* ok = new QPushButton("&OK");
     binding().Press(ok, [this] { AcceptMemberSize(record_, session(), platform()); });
@@ -225,17 +236,21 @@ class MemberSizeForm : public ToolWindow {
     return row;
   }
 
-  QLayout* Ticks() {
-    auto* row = new QHBoxLayout;
-    row->addSpacing(8);
-    row->addWidget(new QLabel("stresses go to:"));
+  QWidget* Ticks() {
+    auto* area = new QWidget;
+    auto* row = new QHBoxLayout(area);
+    row->setContentsMargins(0, 0, 8, 0);
+    row->addWidget(new QLabel("Stresses go to"));
     for (int i = 0; i < kMemberGroups; ++i) {
-      auto* tick = new QCheckBox(kGroupCaptions[static_cast<std::size_t>(i)].check);
+      auto* tick = new QCheckBox(QString("&") + kGroupCaptions[static_cast<std::size_t>(i)].check);
       binding().Check(tick, &record_.Group(static_cast<MemberGroup>(i)).ticked);
       row->addWidget(tick);
     }
-    return row;
+    binding().Shown(area, &record_.groupsShown);
+    return area;
   }
+
+  static constexpr int kSecondColumn = 3;  ///< of a grid of boxes
 
   MemberSizeWindow record_;
 };

@@ -1,4 +1,5 @@
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -30,6 +31,15 @@ class QuestionForm : public ToolWindow {
       binding().Press(button, [this, mode] { ChooseDesignMode(mode, session(), platform()); });
       binding().Enabled(button, [this] { return platform().HasWindow("WTYPETR"); });
       choices->addWidget(button);
+    }
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape) {
+      close();
+    } else {
+      ToolWindow::keyPressEvent(event);
     }
   }
 };

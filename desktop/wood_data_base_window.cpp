@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <vector>
 
 #include "desktop/choice_button.h"
 #include "desktop/desktop_platform.h"
@@ -33,6 +34,14 @@ constexpr SelectionRow kSelectionRows[] = {
     {"Allowable Compressive Stress, Along Grain (psi)", &FinalSelection::fcPar},
     {"Youngs Modulus", &FinalSelection::e}};
 
+/// The steps of the work, as the window names them.
+constexpr const char* kOrderOfWork =
+    "1   Western Woods, Southern Pine or Machine Rated\n"
+    "2   Data Base File to Load\n"
+    "3   Grades\n"
+    "4   Stress Adjustment Factors, where the stresses are to be adjusted\n"
+    "5   OK";
+
 /// Species, grade and final stresses of sawn lumber.
 class WoodDataBaseForm : public ToolWindow {
  public:
@@ -45,8 +54,12 @@ class WoodDataBaseForm : public ToolWindow {
     auto* columns = new QHBoxLayout(area);
     columns->setSpacing(12);
     columns->addLayout(Choices(), 1);
-    columns->addWidget(SelectionPanel());
-    columns->addWidget(MakeFactorPanel(record_, binding(), session(), platform()));
+    auto* work = new QGridLayout;
+    work->addWidget(SelectionPanel(area), 0, 0);
+    work->addWidget(OrderOfWork(), 1, 0, Qt::AlignCenter);
+    work->addWidget(Factors(), 1, 0);
+    work->setRowStretch(1, 1);
+    columns->addLayout(work);
   }
 
   void CloseControl() override { CancelSelection(record_, platform()); }
@@ -60,70 +73,107 @@ class WoodDataBaseForm : public ToolWindow {
     AddHelpMenu();
   }
 
+  /// Family, species file and grade, from top to bottom in the order of work.
   QLayout* Choices() {
     auto* rows = new QVBoxLayout;
-    auto* families = new QHBoxLayout;
-    for (const WoodFamilyEntry& entry : kWoodFamilies) {
-      const WoodFamily family = entry.family;
-      families->addWidget(MakeChoiceButton(
-          binding(), QString("&") + entry.caption,
-          [this, family] { return record_.DataBaseFamily == family; },
-          [this, family] { ChooseFamily(record_, session(), platform(), family); }));
-    }
-    rows->addLayout(families);
+    rows->addLayout(Families());
     rows->addWidget(MakeHeading("Data Base File to Load"));
     QListWidget* files = MakeList("Data Base File to Load", 9);
-    files->setMinimumWidth(290);
     binding().List(files, &record_.files.rows, &record_.files.row,
                    [this](int row) { ChooseSpeciesFile(record_, session(), platform(), row); });
     rows->addWidget(files, 3);
     rows->addWidget(MakeHeading("Types of Wood covered by File"));
-    auto* types = Named("Types of Wood covered by File", new QLabel);
-    types->setWordWrap(true);
-    types->setMinimumHeight(types->fontMetrics().height() * 3);
-    types->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    binding().Text(types, &record_.woodTypes);
-    rows->addWidget(types);
+    rows->addWidget(WoodTypes());
     rows->addWidget(MakeHeading("Grades"));
-    QListWidget* grades = MakeList("Grades", 9);
-    binding().List(grades, &record_.grades.rows, &record_.grades.row,
+    grades_ = MakeList("Grades", 9);
+    binding().List(grades_, &record_.grades.rows, &record_.grades.row,
                    [this](int row) { ChooseGrade(record_, session(), platform(), row); });
-    rows->addWidget(grades, 3);
+    rows->addWidget(grades_, 2);
     return rows;
   }
 
-  QWidget* SelectionPanel() {
-    auto* column = new QWidget;
-    auto* rows = new QVBoxLayout(column);
-    rows->setContentsMargins(0, 0, 0, 0);
+  QLayout* Families() {
+    auto* row = new QHBoxLayout;
+    std::vector<QPushButton*> buttons;
+    for (const WoodFamilyEntry& entry : kWoodFamilies) {
+      const WoodFamily family = entry.family;
+      buttons.push_back(MakeChoiceButton(
+          binding(), QString("&") + entry.caption,
+          [this, family] { return record_.DataBaseFamily == family; },
+          [this, family] { ChooseFamily(record_, session(), platform(), family); }));
+      row->addWidget(buttons.back());
+    }
+    MakeOneTabStop(binding(), buttons);
+    return row;
+  }
+
+  QLabel* WoodTypes() {
+    auto* types = Named("Types of Wood covered by File", new QLabel);
+    types->setWordWrap(true);
+    types->setMinimumHeight(types->fontMetrics().lineSpacing() * 4);
+    types->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    binding().Text(types, &record_.woodTypes);
+    return types;
+  }
+
+  /// The grade at hand, the way to its factors, and "OK", which hands it to the calculator.
+  QGroupBox* SelectionPanel(QWidget* area) {
+    QGroupBox* panel = MakePanel("Final Selection");
+    auto* rows = new QVBoxLayout(panel);
+    auto* grid = new QGridLayout;
+    constexpr int kRowsOfColumn = 4;
+    constexpr int kSecondColumn = 3;
+    grid->setColumnMinimumWidth(kSecondColumn - 1, 12);
+    int at = 0;
+    for (const SelectionRow& row : kSelectionRows) {
+      QLineEdit* value =
+          PutValue(grid, at % kRowsOfColumn, at / kRowsOfColumn * kSecondColumn, row.caption, 140);
+      binding().Text(value, &(record_.selection.*row.text));
+      ++at;
+    }
+    rows->addLayout(grid);
+    rows->addLayout(Commands(area));
+    return panel;
+  }
+
+  QLayout* Commands(QWidget* area) {
+    auto* row = new QHBoxLayout;
     auto* factors = new QPushButton("Stress &Adjustment Factors");
     binding().Press(factors, [this] { OpenFactorPanel(record_, platform()); });
-    QGroupBox* panel = MakePanel("Final Selection");
-    auto* inside = new QVBoxLayout(panel);
-    auto* grid = new QGridLayout;
-    for (const SelectionRow& row : kSelectionRows) {
-      binding().Text(AddValue(grid, row.caption, 150), &(record_.selection.*row.text));
-    }
-    inside->addLayout(grid);
-    inside->addSpacing(8);
-    inside->addWidget(factors);
-    auto* pair = new QHBoxLayout;
     auto* ok = new QPushButton("&OK");
     binding().Press(ok, [this] { AcceptSelection(record_, session(), platform()); });
     auto* cancel = new QPushButton("&Cancel");
-    binding().Press(cancel, [this] { CancelSelection(record_, platform()); });
-    pair->addStretch();
-    pair->addWidget(ok);
-    pair->addWidget(cancel);
-    inside->addLayout(pair);
-    rows->addWidget(panel);
-    rows->addStretch();
-    SetReturnButton(column, ok);
-    SetEscapeButton(column, cancel);
-    return column;
+    binding().Press(cancel, [this] { CloseControl(); });
+    row->addWidget(factors);
+    row->addStretch();
+    row->addWidget(ok);
+    row->addWidget(cancel);
+    SetReturnButton(grades_, ok);
+    SetEscapeButton(area, cancel);
+    return row;
+  }
+
+  /// Stands where the factors open, until they do.
+  QLabel* OrderOfWork() {
+    auto* steps = new QLabel(kOrderOfWork);
+    steps->setForegroundRole(QPalette::PlaceholderText);
+    binding().Shown(steps, [this] { return !record_.panel.open; });
+    return steps;
+  }
+
+  QGroupBox* Factors() {
+    const FactorPanelParts factors = MakeFactorPanel(record_, binding(), session(), platform());
+    // Its room is kept, so that nothing moves when it opens.
+    QSizePolicy policy = factors.panel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    factors.panel->setSizePolicy(policy);
+    SetReturnButton(factors.panel, factors.calculate);
+    SetEscapeButton(factors.panel, factors.cancel);
+    return factors.panel;
   }
 
   WoodDataBaseWindow record_;
+  QListWidget* grades_ = nullptr;
 };
 
 }  // namespace
