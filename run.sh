@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the programs and starts Lignara among its data files. Without a
-# display an example script is played instead.
+# display an example truss is played instead, from the launcher to its report.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
@@ -16,4 +16,11 @@ fi
 
 example=docs/examples/first_truss.lig
 echo "There is no display here: playing $example instead."
-exec "$programs/lignara-script" --data data "$example"
+# In a copy of the data files, since the example saves its report beside them.
+folder=build/example
+rm -rf "$folder"
+mkdir -p "$folder"
+cp data/* "$folder"
+"$programs/lignara-script" --data "$folder" "$example"
+echo "The report that it saved:"
+cat "$folder/report.txt"
