@@ -29,7 +29,7 @@ constexpr int kPanSteps = 30;
 /// A list of the side column: it takes its height from the window and leaves the width to the
 /// drawing.
 QListWidget* SideList(const char* name) {
-  QListWidget* list = MakeList(name, 8);
+  QListWidget* list = MakeList(name, 6);
   list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
   return list;
 }
@@ -85,7 +85,7 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow("TRUSS", context) {
   columns->setSpacing(10);
   columns->addLayout(CanvasColumn(), 1);
   columns->addLayout(SideColumn());
-  resize(1180, 760);
+  resize(1200, 720);
 }
 
 void TrussForm::AddMenus() {
@@ -284,10 +284,14 @@ QLayout* TrussForm::Forces() {
   QListWidget* list = SideList("Axial Load (lbs)");
   binding().List(list, &record_.axialRows);
   rows->addWidget(list, 1);
-  auto* hit = new QGridLayout;
-  binding().Text(AddValue(hit, "Click in red circle on member!"), &record_.hitMember);
-  binding().Text(AddValue(hit, "Axial Load (lbs)"), &record_.hitLoad);
-  rows->addLayout(hit);
+  rows->addWidget(new QLabel("Click in red circle on member!"));
+  QLineEdit* member = MakeField("Click in red circle on member!");
+  ShowOnly(member);
+  binding().Text(member, &record_.hitMember);
+  rows->addWidget(member);
+  auto* load = new QGridLayout;
+  binding().Text(AddValue(load, "Axial Load (lbs)"), &record_.hitLoad);
+  rows->addLayout(load);
   QGroupBox* reactions = MakePanel("End Reactions (lbs)");
   auto* grid = new QGridLayout(reactions);
   binding().Text(AddValue(grid, "Left Side"), &record_.leftReaction);
