@@ -16,6 +16,8 @@ constexpr double kBeside = 55;
 constexpr double kBelow = 50;
 /// Of a name from lines.
 constexpr double kClear = 10;
+/// A name across a line can still be read; one on a circle, on another name or cut off cannot.
+constexpr int kUnreadable = 100;
 /// Where more members are drawn the circles themselves run together, and a search would take long.
 constexpr std::size_t kMostMembers = 150;
 
@@ -129,24 +131,35 @@ NameBox NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name)
   const double width = NameWidth(name);
   if (IsBottom(line.member.family)) return BottomBox(line, width);
   const CanvasPoint mark = line.Middle();
-  NameBox best = Preferred(line.member.family, RunOf(line), mark, width);
-  if (lines_.size() <= kMostMembers && !IsFree(best)) {
-    const std::vector<NameBox> places = PlacesAround(mark, width);
-    const auto free =
-        std::find_if(places.begin(), places.end(), [&](const NameBox& box) { return IsFree(box); });
-    if (free != places.end()) best = *free;
+  const NameBox first = Preferred(line.member.family, RunOf(line), mark, width);
+  taken_.push_back(Best(first, PlacesAround(mark, width)));
+  return taken_.back();
+}
+
+NameBox NamePlacer::Best(NameBox first, const std::vector<NameBox>& places) const {
+  if (lines_.size() > kMostMembers) return first;
+  NameBox best = first;
+  int least = Flaws(best);
+  for (const NameBox& place : places) {
+    if (least == 0) break;
+    const int flaws = Flaws(place);
+    if (flaws >= least) continue;
+    best = place;
+    least = flaws;
   }
-  taken_.push_back(best);
   return best;
 }
 
-bool NamePlacer::IsFree(const NameBox& box) const {
-  const auto blocks = [&](const CanvasLine& line) {
-    return Crosses(line, box) || Covers(box, line.Middle());
-  };
-  const auto overlaps = [&](const NameBox& other) { return Overlap(box, other); };
-  return std::none_of(lines_.begin(), lines_.end(), blocks) &&
-         std::none_of(taken_.begin(), taken_.end(), overlaps);
+int NamePlacer::Flaws(const NameBox& box) const {
+  int flaws = box.x < 0 || box.x + box.width > kCanvasWidth ? kUnreadable : 0;
+  for (const CanvasLine& line : lines_) {
+    if (Crosses(line, box)) ++flaws;
+    if (Covers(box, line.Middle())) flaws += kUnreadable;
+  }
+  for (const NameBox& other : taken_) {
+    if (Overlap(box, other)) flaws += kUnreadable;
+  }
+  return flaws;
 }
 
 }  // namespace lignara

@@ -37,7 +37,9 @@ class NamePlacer {
   NameBox PlaceMember(const CanvasLine& line, const std::string& name);
 
  private:
-  bool IsFree(const NameBox& box) const;
+  /// The place with the fewest flaws, the first one if it has none.
+  NameBox Best(NameBox first, const std::vector<NameBox>& places) const;
+  int Flaws(const NameBox& box) const;
 
   const std::vector<CanvasLine>& lines_;
   std::vector<NameBox> taken_;

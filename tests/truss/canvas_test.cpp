@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
 #include "tests/support/drawn_members.h"
 #include "tests/support/opened_truss.h"
 
@@ -96,78 +93,6 @@ TEST(Canvas, MarksHoldTheMidpoints) {
   const MarkPoint& centre = truss.window.view.MemberMark.at({Family::CV, 1});
   EXPECT_EQ(centre.x.value(), 2304);
   EXPECT_EQ(centre.y.value(), 1530);
-}
-
-TEST(Canvas, NamesOfTheBottomChordStand50UnitsBelow) {
-  for (const char* type : kTypes) {
-    for (const DrawnMember& member : DrawnMembers(Example(type).window.view.drawing)) {
-      if (member.name.text[0] != 'C' || member.name.text == "CV") continue;
-      EXPECT_EQ(member.name.y, member.circle.y + 50) << type << member.name.text;
-    }
-  }
-}
-
-/// Distance of a point from the box of a name, whose letters are at most 60 units wide.
-double DistanceFromName(const TextShape& name, double textHeight, double x, double y) {
-  const double width = 60.0 * static_cast<double>(name.text.size());
-  const double dx = std::max({name.x - x, 0.0, x - name.x - width});
-  const double dy = std::max({name.y - y, 0.0, y - name.y - textHeight});
-  return std::hypot(dx, dy);
-}
-
-TEST(Canvas, NamesStandBesideTheirCircles) {
-  for (const char* type : kTypes) {
-    const Drawing drawing = Example(type).window.view.drawing;
-    for (const DrawnMember& member : DrawnMembers(drawing)) {
-      const double fromCircle =
-          DistanceFromName(member.name, drawing.textHeight, member.circle.x, member.circle.y);
-      EXPECT_GE(fromCircle, 50) << type << member.name.text;
-      EXPECT_LE(fromCircle, 75) << type << member.name.text;
-    }
-  }
-}
-
-/// The shortest distance of a name from a line, taken at a thousand places.
-double DistanceFromLine(const TextShape& name, double textHeight, const LineShape& line) {
-  double least = 1e9;
-  for (int step = 0; step <= 1000; ++step) {
-    const double at = step / 1000.0;
-    const double x = line.x1 + at * (line.x2 - line.x1);
-    const double y = line.y1 + at * (line.y2 - line.y1);
-    least = std::min(least, DistanceFromName(name, textHeight, x, y));
-  }
-  return least;
-}
-
-TEST(Canvas, NamesOfSixPanelsAreClearOfAllLinesAndCircles) {
-  for (const char* type : kTypes) {
-    const Drawing drawing = Example(type).window.view.drawing;
-    const auto members = DrawnMembers(drawing);
-    for (const DrawnMember& named : members) {
-      for (const DrawnMember& other : members) {
-        EXPECT_GT(DistanceFromLine(named.name, drawing.textHeight, other.line), 7)
-            << type << " " << named.name.text << " on " << other.name.text;
-        EXPECT_GE(DistanceFromName(named.name, drawing.textHeight, other.circle.x, other.circle.y),
-                  50)
-            << type << " " << named.name.text << " on " << other.name.text;
-      }
-    }
-  }
-}
-
-TEST(Canvas, NamesOfSixPanelsDoNotLieOnOneAnother) {
-  for (const char* type : kTypes) {
-    const Drawing drawing = Example(type).window.view.drawing;
-    const auto members = DrawnMembers(drawing);
-    for (const DrawnMember& a : members) {
-      for (const DrawnMember& b : members) {
-        if (a.name.text == b.name.text) continue;
-        const bool apart = std::fabs(a.name.y - b.name.y) >= drawing.textHeight ||
-                           std::fabs(a.name.x - b.name.x) >= 240;
-        EXPECT_TRUE(apart) << type << " " << a.name.text << " and " << b.name.text;
-      }
-    }
-  }
 }
 
 TEST(Canvas, MembersAreBlackBeforeARun) {

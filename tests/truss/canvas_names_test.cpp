@@ -1,0 +1,118 @@
+// Where the names of members stand on the canvas.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "tests/support/drawn_members.h"
+#include "tests/support/opened_truss.h"
+
+namespace lignara {
+namespace {
+
+const char* const kTypes[] = {"PRATT1", "FINK",   "ENGLISH", "KINGPOST",
+                              "SCI",    "PRATT2", "HOWE",    "WARREN"};
+
+/// The picture of a truss of 30 ft by 7.5 ft.
+Drawing Picture(const std::string& type, int spans = 6) {
+  const bool fixed = type == "KINGPOST" || type == "SCI";
+  return OpenedTruss(type, fixed ? 4 : spans, 30, 7.5, 3).window.view.drawing;
+}
+
+/// Letters are at most 60 units wide and 110 high.
+double Width(const TextShape& name) { return 60.0 * static_cast<double>(name.text.size()); }
+constexpr double kHeight = 110;
+
+/// Distance of a point from the room of a name.
+double Distance(const TextShape& name, double x, double y) {
+  const double dx = std::max({name.x - x, 0.0, x - name.x - Width(name)});
+  const double dy = std::max({name.y - y, 0.0, y - name.y - kHeight});
+  return std::hypot(dx, dy);
+}
+
+/// The shortest distance of a name from a line, taken at a thousand places.
+double Distance(const TextShape& name, const LineShape& line) {
+  double least = 1e9;
+  for (int step = 0; step <= 1000; ++step) {
+    const double at = step / 1000.0;
+    least = std::min(least, Distance(name, line.x1 + at * (line.x2 - line.x1),
+                                     line.y1 + at * (line.y2 - line.y1)));
+  }
+  return least;
+}
+
+bool Overlap(const TextShape& a, const TextShape& b) {
+  return a.x < b.x + Width(b) && b.x < a.x + Width(a) && std::fabs(a.y - b.y) < kHeight;
+}
+
+/// What no name may do, however crowded the picture: lie on a circle or on another name, or leave
+/// the canvas.
+void ExpectReadable(const Drawing& drawing, const std::string& type) {
+  const auto members = DrawnMembers(drawing);
+  for (const DrawnMember& a : members) {
+    EXPECT_GE(a.name.x, 0) << type << a.name.text;
+    EXPECT_LE(a.name.x + Width(a.name), drawing.width) << type << a.name.text;
+    for (const DrawnMember& b : members) {
+      EXPECT_GE(Distance(a.name, b.circle.x, b.circle.y), 50)
+          << type << " " << a.name.text << " on the circle of " << b.name.text;
+      if (a.name.text == b.name.text) continue;
+      EXPECT_FALSE(Overlap(a.name, b.name)) << type << " " << a.name.text << " " << b.name.text;
+    }
+  }
+}
+
+TEST(CanvasNames, BottomChordNamesStand50UnitsBelowTheMidpoint) {
+  for (const char* type : kTypes) {
+    for (const DrawnMember& member : DrawnMembers(Picture(type))) {
+      if (member.name.text[0] != 'C' || member.name.text == "CV") continue;
+      EXPECT_EQ(member.name.y, member.circle.y + 50) << type << member.name.text;
+    }
+  }
+}
+
+TEST(CanvasNames, LevelBottomChordNamesStartAtTheMidpoint) {
+  const auto members = DrawnByName(Picture("PRATT1"));
+  EXPECT_EQ(members.at("CL 1").name.x, members.at("CL 1").circle.x);
+  EXPECT_EQ(members.at("CR 1").name.x, members.at("CR 1").circle.x);
+}
+
+TEST(CanvasNames, StandBesideTheirCircles) {
+  for (const char* type : kTypes) {
+    for (const DrawnMember& member : DrawnMembers(Picture(type))) {
+      EXPECT_LE(Distance(member.name, member.circle.x, member.circle.y), 75)
+          << type << member.name.text;
+    }
+  }
+}
+
+TEST(CanvasNames, OfSixPanelsAreClearOfAllLines) {
+  for (const char* type : kTypes) {
+    const Drawing drawing = Picture(type);
+    ExpectReadable(drawing, type);
+    const auto members = DrawnMembers(drawing);
+    for (const DrawnMember& named : members) {
+      for (const DrawnMember& other : members) {
+        EXPECT_GT(Distance(named.name, other.line), 7)
+            << type << " " << named.name.text << " on " << other.name.text;
+      }
+    }
+  }
+}
+
+TEST(CanvasNames, OfEightPanelsCanStillBeRead) {
+  for (const char* type : {"PRATT1", "FINK", "ENGLISH", "PRATT2", "HOWE", "WARREN"}) {
+    ExpectReadable(Picture(type, 8), type);
+  }
+}
+
+TEST(CanvasNames, OfVeryManyMembersStandWhereTheyAreWanted) {
+  const auto members = DrawnByName(Picture("PRATT2", 400));
+  ASSERT_EQ(members.size(), 1601u);  // eight families of 200, and the centre vertical
+  const DrawnMember& vertical = members.at("VL 100");
+  EXPECT_EQ(vertical.name.x, vertical.circle.x + 55);
+  EXPECT_EQ(vertical.name.y, vertical.circle.y - 55);
+}
+
+}  // namespace
+}  // namespace lignara
