@@ -88,11 +88,8 @@ int HalfSpans(const SessionState& session);
 /// What every calculation step of a truss works on, for the length of one command.
 class TrussJob {
  public:
-  TrussJob(ActiveModel& its_model, const SessionState& its_session, Platform& its_platform)
-      : model(its_model),
-        session(its_session),
-        platform(its_platform),
-        halfSpans_(lignara::HalfSpans(its_session)) {}
+  TrussJob(ActiveModel& m, const SessionState& s, Platform& p)
+      : model(m), session(s), platform(p), halfSpans_(lignara::HalfSpans(s)) {}
 
   /// Number of panels in a half. A fault in it is shown once a command.
   int HalfSpans() const { return halfSpans_; }

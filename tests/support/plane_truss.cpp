@@ -23,8 +23,8 @@ PlaneTruss::PlaneTruss(TestTruss& truss)
       inner_(truss.session.TrussInnerHeight.value()),
       leftReaction_(ReadNumber(truss.window.leftReaction).value()),
       rightReaction_(ReadNumber(truss.window.rightReaction).value()) {
-  if (type_ == "PRATT1") BuildPratt1();
-  if (type_ == "ENGLISH") BuildEnglish();
+  if (type_ == "PRATT1") BuildVerticalWebs(false);
+  if (type_ == "ENGLISH") BuildVerticalWebs(true);
   if (type_ == "FINK") BuildFink();
   if (type_ == "KINGPOST") BuildKingPost();
   if (type_ == "SCI") BuildScissors();
@@ -67,26 +67,17 @@ void PlaneTruss::BuildPeaked(bool chordsMeetAtMidspan) {
   }
 }
 
-void PlaneTruss::BuildPratt1() {
+void PlaneTruss::BuildVerticalWebs(bool diagonalsFall) {
   const double rise = height_ / n_;
   BuildPeaked(true);
   for (int i = 1; i <= n_; ++i) {
+    const double before = (i - 1) * panel_;
     const double x = i * panel_;
-    AddBoth(Family::TL, Family::TR, i, x - panel_, (i - 1) * rise, x, i * rise);
+    AddBoth(Family::TL, Family::TR, i, before, (i - 1) * rise, x, i * rise);
     if (i < n_) AddBoth(Family::VL, Family::VR, i, x, 0, x, i * rise);
-    if (i > 1) AddBoth(Family::DL, Family::DR, i, x - panel_, 0, x, i * rise);
-  }
-  AddBar(Family::CV, 1, length_ / 2, 0, length_ / 2, height_);
-}
-
-void PlaneTruss::BuildEnglish() {
-  const double rise = height_ / n_;
-  BuildPeaked(true);
-  for (int i = 1; i <= n_; ++i) {
-    const double x = i * panel_;
-    AddBoth(Family::TL, Family::TR, i, x - panel_, (i - 1) * rise, x, i * rise);
-    if (i < n_) AddBoth(Family::VL, Family::VR, i, x, 0, x, i * rise);
-    if (i > 1) AddBoth(Family::DL, Family::DR, i, x - panel_, (i - 1) * rise, x, 0);
+    if (i == 1) continue;
+    AddBoth(Family::DL, Family::DR, i, before, diagonalsFall ? (i - 1) * rise : 0, x,
+            diagonalsFall ? 0 : i * rise);
   }
   AddBar(Family::CV, 1, length_ / 2, 0, length_ / 2, height_);
 }

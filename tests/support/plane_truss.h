@@ -48,8 +48,7 @@ class PlaneTruss {
   void AddBoth(Family left, Family right, int index, double x1, double y1, double x2, double y2);
 
   void BuildPeaked(bool chordsMeetAtMidspan);
-  void BuildPratt1();
-  void BuildEnglish();
+  void BuildVerticalWebs(bool diagonalsFall);
   void BuildFink();
   void BuildKingPost();
   void BuildScissors();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/expect_forces.h"
 #include "tests/support/truss_fixture.h"
 #include "truss/axial_loads.h"
@@ -95,9 +96,7 @@ TEST(AxialFink, DiagonalsNeedAnArm) {
   TrussJob job = truss.Job();
   TRUSS_ALLOC(job);
   DIAG_LOADS_FINK(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "MOMENT ARM (MA) IS 0");
-  EXPECT_EQ(truss.platform.messages[0].title, "ERROR!");
+  ExpectSingleBox(truss.platform, "MOMENT ARM (MA) IS 0", "ERROR!");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
 }
 
@@ -108,9 +107,7 @@ TEST(AxialFink, WebsNeedAnArmFromTheSecondNodeOn) {
   truss.model().ARM_L[3] = 0;
   truss.model().AX_VL[1] = 77;
   VERT_LOADS_FINK(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "MOMENT ARM (ML) IS 0");
-  EXPECT_EQ(truss.platform.messages[0].title, "ERROR!");
+  ExpectSingleBox(truss.platform, "MOMENT ARM (ML) IS 0", "ERROR!");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
   EXPECT_EQ(truss.model().AX_VL[1].value(), 77);
 }
@@ -121,9 +118,7 @@ TEST(AxialFink, FirstNodeWithoutAnArmHasAMessageOfItsOwn) {
   FINK_AXIAL(job);
   truss.model().ARM_L[1] = 0;
   VERT_LOADS_FINK(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "ML(N)=0,ERROR");
-  EXPECT_EQ(truss.platform.messages[0].title, "Lignara");
+  ExpectSingleBox(truss.platform, "ML(N)=0,ERROR");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
 }
 

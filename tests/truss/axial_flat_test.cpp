@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/expect_forces.h"
 #include "tests/support/truss_fixture.h"
 #include "truss/axial_loads.h"
@@ -54,9 +55,7 @@ TEST(AxialPratt2, NoSlopeIsAnError) {
   TRUSS_ALLOC(job);
   truss.model().ANG_A = 0;
   PRATT2_LOADS(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "TAN(A)=0, ERROR");
-  EXPECT_EQ(truss.platform.messages[0].title, "Lignara");
+  ExpectSingleBox(truss.platform, "TAN(A)=0, ERROR");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
   EXPECT_EQ(truss.model().AX_CV[1].value(), 0);
 }
@@ -87,9 +86,7 @@ TEST(AxialHowe, NoPanelIsAnErrorAndEndsTheRoutine) {
   TrussJob job = truss.Job();
   TRUSS_ALLOC(job);
   HOWE_LOADS(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "ERROR L=0");
-  EXPECT_EQ(truss.platform.messages[0].title, "Lignara");
+  ExpectSingleBox(truss.platform, "ERROR L=0");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
   EXPECT_EQ(truss.model().AX_VL[1].value(), 0);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/expect_forces.h"
 #include "tests/support/truss_fixture.h"
 #include "truss/axial_loads.h"
@@ -79,9 +80,7 @@ TEST(AxialPratt1, NoMomentArmStopsTheDiagonalsAlone) {
   truss.model().ARM_D[3] = 0;
   truss.model().AX_DL[2] = 77;
   DIAG_LOADS(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "MOMENT ARM (MA) IS 0");
-  EXPECT_EQ(truss.platform.messages[0].title, "ERROR!");
+  ExpectSingleBox(truss.platform, "MOMENT ARM (MA) IS 0", "ERROR!");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
   EXPECT_EQ(truss.model().AX_DL[2].value(), 77);
 }
@@ -94,9 +93,7 @@ TEST(AxialPratt1, NoSlopeStopsTheHeelAlone) {
   truss.model().NODE_RL = 500;
   truss.model().ANG_A = 0;
   END_PANEL_LOADS(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "TAN SLOPE IS 0!");
-  EXPECT_EQ(truss.platform.messages[0].title, "ERROR!");
+  ExpectSingleBox(truss.platform, "TAN SLOPE IS 0!", "ERROR!");
   EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
   EXPECT_EQ(truss.model().TLV[1].value(), 0);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/expect_forces.h"
 #include "tests/support/truss_fixture.h"
 #include "truss/axial_loads.h"
@@ -67,9 +68,7 @@ TEST(AxialScissors, WebWithoutAnArmIsTheSameError) {
   SCI_AXIAL(job);
   truss.model().SCI_ARM = 0;
   SCI_LOADS(job);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "TEMP2 OR TOPARM=0, ERROR");
-  EXPECT_EQ(truss.platform.messages[0].title, "Lignara");
+  ExpectSingleBox(truss.platform, "TEMP2 OR TOPARM=0, ERROR");
 }
 
 TEST(AxialScissors, UprightBottomChordIsAnError) {

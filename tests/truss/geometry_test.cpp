@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/truss_fixture.h"
 #include "truss/arms.h"
 #include "truss/drawn_geometry.h"
@@ -101,9 +102,7 @@ TEST(Geometry, DetectedErrorsBearTheProgramsNameAsTitle) {
   TestTruss truss("HOWE", 4, 32, 6);
   truss.session.PanelLength = 0;
   Do(truss, SLOPE_FLAT);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].title, "Lignara");
-  EXPECT_EQ(truss.platform.messages[0].icon, MessageIcon::None);
+  ExpectSingleBox(truss.platform, "L=0, ERROR");
 }
 
 TEST(Geometry, LengthsOfPratt1) {

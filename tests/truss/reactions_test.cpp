@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/truss_fixture.h"
 
 namespace lignara {
@@ -131,10 +132,7 @@ TEST(Reactions, EachRoutineRefusesNoLength) {
     TrussJob job = truss.Job();
     TRUSS_ALLOC(job);
     reactions(job);
-    ASSERT_EQ(truss.platform.messages.size(), 1u);
-    EXPECT_EQ(truss.platform.messages[0].text, "TOTAL LENGTH (TL) IS 0!");
-    EXPECT_EQ(truss.platform.messages[0].title, "ERROR!");
-    EXPECT_EQ(truss.platform.messages[0].icon, MessageIcon::None);
+    ExpectSingleBox(truss.platform, "TOTAL LENGTH (TL) IS 0!", "ERROR!");
     EXPECT_EQ(truss.model().ErrorFlag.value(), 1);
     EXPECT_EQ(truss.model().NODE_RL.value(), 11);
   }

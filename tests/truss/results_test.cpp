@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/expect_box.h"
 #include "tests/support/truss_fixture.h"
 
 namespace lignara {
@@ -68,9 +69,7 @@ TEST(ShowAxial, ReplacesTheListOfTheRunBefore) {
 TEST(MemberLengths, NeedARunWithoutError) {
   TestTruss truss = StandardTruss("KINGPOST", 4);
   ShowMemberLengths(truss.window, truss.session, truss.platform);
-  ASSERT_EQ(truss.platform.messages.size(), 1u);
-  EXPECT_EQ(truss.platform.messages[0].text, "YOU MUST HIT RUN TO GET LENGTHS!");
-  EXPECT_EQ(truss.platform.messages[0].title, "Lignara");
+  ExpectSingleBox(truss.platform, "YOU MUST HIT RUN TO GET LENGTHS!");
   EXPECT_FALSE(truss.window.lengthsOpen);
   EXPECT_TRUE(truss.window.lengthRows.empty());
 }
