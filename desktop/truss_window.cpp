@@ -1,5 +1,6 @@
 #include "truss/truss_window.h"
 
+#include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -22,9 +23,9 @@
 namespace lignara {
 namespace {
 
-/// One step of the horizontal bar moves the picture by an eighth of its width; this many steps to
-/// either side reach all of a truss enlarged to the full.
-constexpr int kPanSteps = 30;
+/// One step of the horizontal bar moves the picture by an eighth of its width. So many steps to
+/// either side are what the canvas can count.
+constexpr int kPanSteps = 54;
 
 /// A list of the side column: it takes its height from the window and leaves the width to the
 /// drawing.
@@ -35,11 +36,15 @@ QListWidget* SideList(const char* name) {
 }
 
 /// A coloured dash and what the colour of a member means.
-QLabel* LegendEntry(const char* colour, const char* meaning) {
-  auto* label =
-      new QLabel(QString("<span style='color:%1'>\u2501\u2501</span> %2").arg(colour, meaning));
-  label->setAccessibleName(meaning);
-  return label;
+QLayout* LegendEntry(const char* colour, const char* meaning) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(5);
+  auto* dash = new QFrame;
+  dash->setFixedSize(24, 3);
+  dash->setStyleSheet(QString("background: %1").arg(colour));
+  row->addWidget(dash);
+  row->addWidget(new QLabel(meaning));
+  return row;
 }
 
 /// The truss at hand: loads, analysis, results and the drawing.
@@ -71,6 +76,7 @@ class TrussForm : public ToolWindow {
                       Binding::Command cancel);
 
   TrussWindow record_;
+  QListWidget* nodes_ = nullptr;
   QLineEdit* lineLoad_ = nullptr;
   QLineEdit* spacing_ = nullptr;
 };
@@ -86,6 +92,7 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow("TRUSS", context) {
   columns->addLayout(CanvasColumn(), 1);
   columns->addLayout(SideColumn());
   resize(1200, 720);
+  nodes_->setFocus();  // a truss starts with its loads
 }
 
 void TrussForm::AddMenus() {
@@ -170,9 +177,9 @@ QWidget* TrussForm::Legend() {
   auto* legend = new QWidget;
   auto* row = new QHBoxLayout(legend);
   row->setSpacing(16);
-  row->addWidget(LegendEntry("#2f5fd0", "Tension"));
-  row->addWidget(LegendEntry("#d96a00", "Compression"));
-  row->addWidget(LegendEntry("#808080", "No force"));
+  row->addLayout(LegendEntry("#2f5fd0", "Tension"));
+  row->addLayout(LegendEntry("#d96a00", "Compression"));
+  row->addLayout(LegendEntry("#808080", "No force"));
   binding().Shown(legend, &record_.view.resultsShown);
   return legend;
 }
@@ -246,10 +253,10 @@ QLayout* TrussForm::NodeLoads() {
   auto* rows = new QVBoxLayout;
   rows->addWidget(MakeHeading("Top Node Loads (lbs)"));
   rows->addWidget(new QLabel("Click on list item to select"));
-  QListWidget* list = SideList("Top Node Loads (lbs)");
-  binding().List(list, &record_.nodeRows, &record_.nodeRow,
+  nodes_ = SideList("Top Node Loads (lbs)");
+  binding().List(nodes_, &record_.nodeRows, &record_.nodeRow,
                  [this](int row) { SelectNode(record_, session(), platform(), row); });
-  rows->addWidget(list, 1);
+  rows->addWidget(nodes_, 1);
   rows->addLayout(NodeField());
   rows->addWidget(Button("&Unif. Load (lb/ft)", [this] {
     OpenLineLoad(record_);

@@ -1,0 +1,191 @@
+// What the keyboard alone can do: where the focus starts and goes, Return, Escape, mnemonics.
+
+#include <gtest/gtest.h>
+
+#include <QKeySequence>
+#include <QLabel>
+#include <QMap>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "desktop/text.h"
+#include "tests/desktop/open_desktop.h"
+
+namespace lignara {
+namespace {
+
+class KeyboardTest : public testing::Test {
+ protected:
+  /// The captions that the focus visits by `count` presses of Tab.
+  QStringList Walk(const char* window, int count) {
+    QStringList visited = {desktop.FocusIn(window)};
+    for (int i = 0; i < count; ++i) {
+      desktop.PressKey(window, Qt::Key_Tab);
+      visited << desktop.FocusIn(window);
+    }
+    return visited;
+  }
+
+  OpenDesktop desktop;
+};
+
+TEST_F(KeyboardTest, TrussInputStartsInItsFirstField) {
+  desktop.Play({"press \"PRATT1\""});
+  EXPECT_EQ(desktop.FocusIn("TR_INPUT"), "Number of Spans");
+}
+
+TEST_F(KeyboardTest, TrussInputStartsInTheFirstFieldThatCanBeTypedInto) {
+  desktop.Play({"press \"KINGPOST\""});
+  EXPECT_EQ(desktop.FocusIn("TR_INPUT"), "Total Length (ft)");
+}
+
+TEST_F(KeyboardTest, TabWalksTrussInputInTheOrderOfItsRows) {
+  desktop.Play({"press \"SCI\""});
+  EXPECT_EQ(Walk("TR_INPUT", 5), QStringList({"H1 (ft)", "Total Length (ft)", "H (ft)", "OK",
+                                              "Cancel", "Slope Calculator"}));
+}
+
+TEST_F(KeyboardTest, TabGoesOnIntoTheOpenSlopeCalculator) {
+  desktop.Play({"press \"SCI\"", "window TR_INPUT", "enter \"Total Length (ft)\" 30",
+                "press \"Slope Calculator\""});
+  EXPECT_EQ(Walk("TR_INPUT", 4), QStringList({"Slope Calculator", "Rise", "Run", "OK", "Cancel"}));
+}
+
+TEST_F(KeyboardTest, ReturnInAFieldOfTrussInputAccepts) {
+  desktop.Play({"press \"KINGPOST\"", "window TR_INPUT", "enter \"Total Length (ft)\" 24",
+                "enter \"H (ft)\" 5"});
+  desktop.PressKey("TR_INPUT", Qt::Key_Return);
+  EXPECT_EQ(desktop.platform.OpenWindows(), QStringList({"main", "TRUSS"}));
+}
+
+TEST_F(KeyboardTest, EscapeInTrussInputCancels) {
+  desktop.Play({"press \"KINGPOST\""});
+  EXPECT_EQ(desktop.session.TrussType, "KINGPOST");
+  desktop.PressKey("TR_INPUT", Qt::Key_Escape);
+  EXPECT_EQ(desktop.platform.OpenWindows(), QStringList({"main"}));
+  EXPECT_EQ(desktop.session.TrussType, "");
+}
+
+TEST_F(KeyboardTest, ReturnAndEscapeInTheSlopeCalculatorAreItsOwn) {
+  desktop.Play({"press \"KINGPOST\"", "window TR_INPUT", "enter \"Total Length (ft)\" 24",
+                "press \"Slope Calculator\"", "enter \"Run\" 12", "enter \"Rise\" 5"});
+  desktop.PressKey("TR_INPUT", Qt::Key_Return);
+  desktop.Play({"read \"H (ft)\"", "state \"Rise\""});
+  // 5 / 12 x 12 ft.
+  EXPECT_EQ(desktop.printed, QStringList({"value \"5.0\"", "state visible enabled"}));
+  desktop.PressKey("TR_INPUT", Qt::Key_Escape);
+  desktop.Play({"state \"Rise\""});
+  EXPECT_EQ(desktop.printed.last(), "state hidden enabled");
+  EXPECT_EQ(desktop.platform.OpenWindows(), QStringList({"main", "TR_INPUT"}));
+}
+
+TEST_F(KeyboardTest, ATrussStartsWithItsLoads) {
+  desktop.OpenKingPost();
+  EXPECT_EQ(Walk("TRUSS", 5), QStringList({"Top Node Loads (lbs)", "Top Node Loads (lbs)", "Enter",
+                                           "All", "Unif. Load (lb/ft)", "Area Load (lbs/sf)"}));
+  // The focus alone chooses no row.
+  desktop.Play({"state \"Top Node Loads (lbs)\""});
+  EXPECT_EQ(desktop.printed.last(), "state visible enabled selected -1");
+}
+
+TEST_F(KeyboardTest, ArrowsChooseARowOfTheNodeList) {
+  desktop.OpenKingPost();
+  desktop.PressKey("TRUSS", Qt::Key_Down);
+  desktop.Play({"state \"Top Node Loads (lbs)\"", "read \"Top Node Loads (lbs)\""});
+  EXPECT_EQ(desktop.printed, QStringList({"state visible enabled selected 1", "value \"0\""}));
+}
+
+TEST_F(KeyboardTest, ReturnInTheLoadFieldAndOnEnterEnters) {
+  desktop.OpenKingPost();
+  desktop.Play({"enter \"Top Node Loads (lbs)\" 100"});
+  desktop.PressKey("TRUSS", Qt::Key_Return);
+  desktop.Play({"rows \"Top Node Loads (lbs)\"", "enter \"Top Node Loads (lbs)\" 200"});
+  EXPECT_EQ(desktop.printed.last(), "row 1 \"PT = 100.00\"");
+  desktop.PressKey("TRUSS", Qt::Key_Tab);
+  ASSERT_EQ(desktop.FocusIn("TRUSS"), "Enter");
+  desktop.PressKey("TRUSS", Qt::Key_Return);
+  desktop.Play({"rows \"Top Node Loads (lbs)\""});
+  EXPECT_EQ(desktop.printed.last(), "row 1 \"PT = 200.00\"");
+}
+
+TEST_F(KeyboardTest, ALoadPanelTakesTheFocusIntoItsFirstField) {
+  desktop.OpenKingPost();
+  desktop.Play({"press \"Unif. Load (lb/ft)\""});
+  EXPECT_EQ(desktop.FocusIn("TRUSS"), "Load (lb / ft)");
+  desktop.Play({"press \"Area Load (lbs/sf)\""});
+  EXPECT_EQ(desktop.FocusIn("TRUSS"), "Truss Spacing (ft)");
+}
+
+TEST_F(KeyboardTest, EscapeClosesTheLoadPanelAndNotTheWindow) {
+  desktop.OpenKingPost();
+  desktop.Play({"press \"Unif. Load (lb/ft)\""});
+  desktop.PressKey("TRUSS", Qt::Key_Escape);
+  desktop.Play({"state \"Uniform Load (Line Load)\""});
+  EXPECT_EQ(desktop.printed.last(), "state hidden enabled");
+  EXPECT_EQ(desktop.platform.OpenWindows(), QStringList({"main", "TRUSS"}));
+}
+
+TEST_F(KeyboardTest, ReturnOnALauncherPictureStartsItsTruss) {
+  Walk("main", 0);
+  while (desktop.FocusIn("main") != "ENGLISH") desktop.PressKey("main", Qt::Key_Tab);
+  desktop.PressKey("main", Qt::Key_Return);
+  EXPECT_EQ(desktop.session.TrussType, "ENGLISH");
+}
+
+/// The letters under which Alt reaches the menus, buttons and fields of a window, each with the
+/// captions that have it.
+QMap<QString, QStringList> Mnemonics(ToolWindow* window) {
+  QStringList captions;
+  for (const QAction* menu : window->menuBar()->actions()) captions << menu->text();
+  for (const QWidget* widget : window->findChildren<QWidget*>()) {
+    if (widget->window() != window || !widget->isVisible()) continue;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+      captions << button->text();
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (label != nullptr && label->buddy() != nullptr) captions << label->text();
+  }
+  QMap<QString, QStringList> letters;
+  for (const QString& caption : captions) {
+    const QKeySequence key = QKeySequence::mnemonic(caption);
+    if (!key.isEmpty()) letters[key.toString()] << caption;
+  }
+  return letters;
+}
+
+class MnemonicTest : public testing::Test {
+ protected:
+  void ExpectDistinct(const char* window) {
+    const auto letters = Mnemonics(desktop.Window(window));
+    EXPECT_FALSE(letters.isEmpty()) << window;
+    for (const QStringList& captions : letters) {
+      EXPECT_EQ(captions.size(), 1) << window << ": " << FromQt(captions.join(", "));
+    }
+  }
+
+  OpenDesktop desktop;
+};
+
+TEST_F(MnemonicTest, AreDistinctInTheLauncher) { ExpectDistinct("main"); }
+
+TEST_F(MnemonicTest, AreDistinctInTheInputOfEachKindOfTruss) {
+  for (const char* type : {"press \"PRATT1\"", "press \"SCI\""}) {
+    desktop.Play({"window main", type, "window TR_INPUT", "enter \"Total Length (ft)\" 30",
+                  "press \"Slope Calculator\""});
+    ExpectDistinct("TR_INPUT");
+  }
+}
+
+TEST_F(MnemonicTest, AreDistinctInTheTrussWithAllItsPanels) {
+  desktop.OpenKingPost();
+  desktop.Play(kOpenAllTrussPanels);
+  ExpectDistinct("TRUSS");
+}
+
+TEST_F(MnemonicTest, AreDistinctInTheSmallWindows) {
+  desktop.Play({"press \"Pure Wood Data Base\"", "menu \"Help\" \"About...\""});
+  ExpectDistinct("QUESTION");
+  ExpectDistinct("ABOUT");
+}
+
+}  // namespace
+}  // namespace lignara

@@ -1,0 +1,93 @@
+#include "tests/desktop/open_desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <stdexcept>
+
+#include "desktop/picture.h"
+
+namespace lignara {
+namespace {
+
+bool IsControl(const QWidget* widget) {
+  return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+         qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QListWidget*>(widget) != nullptr ||
+         qobject_cast<const QScrollBar*>(widget) != nullptr ||
+         dynamic_cast<const Picture*>(widget) != nullptr;
+}
+
+/// Bars and corner buttons that a list makes for itself.
+bool IsPartOfAList(const QWidget* widget) {
+  for (const QWidget* at = widget->parentWidget(); at != nullptr; at = at->parentWidget()) {
+    if (qobject_cast<const QAbstractScrollArea*>(at) != nullptr) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+const std::initializer_list<const char*> kOpenAllTrussPanels = {"window TRUSS",
+                                                                "press \"Deflections\"",
+                                                                "press \"Code Stress\"",
+                                                                "menu \"Files\" \"Headings...\"",
+                                                                "menu \"Files\" \"Fonts...\"",
+                                                                "press \"Area Load (lbs/sf)\""};
+
+OpenDesktop::OpenDesktop()
+    : platform(session, [this](const QString& line) { printed << line; }),
+      faults_(platform),
+      player_(platform, [this](const QString& line) { printed << line; }) {
+  StartSession(session, LIGNARA_DATA_DIRECTORY);
+  platform.OpenWindow("main");
+  QApplication::processEvents();
+}
+
+void OpenDesktop::Play(std::initializer_list<const char*> lines) {
+  for (const char* line : lines) player_.Play(line);
+}
+
+void OpenDesktop::OpenKingPost() {
+  Play({"window main", "press \"KINGPOST\"", "window TR_INPUT", "enter \"Total Length (ft)\" 24",
+        "enter \"H (ft)\" 5", "press \"OK\"", "window TRUSS"});
+}
+
+ToolWindow* OpenDesktop::Window(const char* name) {
+  ToolWindow* window = platform.FindWindow(name);
+  if (window == nullptr) throw std::runtime_error(std::string("not open: ") + name);
+  return window;
+}
+
+QString OpenDesktop::FocusIn(const char* window) {
+  const QWidget* focus = Window(window)->focusWidget();
+  return focus == nullptr ? QString() : CaptionOf(focus);
+}
+
+void OpenDesktop::PressKey(const char* window, Qt::Key key) {
+  ToolWindow* at = Window(window);
+  QWidget* target = at->focusWidget() != nullptr ? at->focusWidget() : at;
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+  }
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+}
+
+std::vector<QWidget*> VisibleControls(ToolWindow* window) {
+  std::vector<QWidget*> controls;
+  for (QWidget* widget : window->findChildren<QWidget*>()) {
+    if (widget->window() != window || !widget->isVisible()) continue;
+    if (IsControl(widget) && !IsPartOfAList(widget)) controls.push_back(widget);
+  }
+  return controls;
+}
+
+}  // namespace lignara

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QStringList>
+#include <initializer_list>
+#include <string>
+
+#include "app/fault.h"
+#include "app/launcher.h"
+#include "desktop/tool_window.h"
+#include "script/control_finder.h"
+#include "script/script_platform.h"
+#include "script/script_player.h"
+
+namespace lignara {
+
+/// The program with its launcher open, driven by script lines; what it prints is kept.
+class OpenDesktop {
+ public:
+  OpenDesktop();
+
+  /// Plays lines of a script. Throws ScriptError as the script tool does.
+  void Play(std::initializer_list<const char*> lines);
+
+  /// Opens the truss window of a king post truss of 24 ft by 5 ft.
+  void OpenKingPost();
+
+  /// The open window of a name; fails the test and throws where there is none.
+  ToolWindow* Window(const char* name);
+
+  /// The control of a window that has the focus, by its caption.
+  QString FocusIn(const char* window);
+
+  /// Presses a key where the focus of a window is, as the keyboard does.
+  void PressKey(const char* window, Qt::Key key);
+
+  SessionState session;
+  QStringList printed;
+  ScriptPlatform platform;
+
+ private:
+  FaultScope faults_;
+  ScriptPlayer player_;
+};
+
+/// The controls of a window that a user can see and use: buttons, fields, lists, pictures, bars.
+std::vector<QWidget*> VisibleControls(ToolWindow* window);
+
+/// Lines that open a truss window with all its panels.
+extern const std::initializer_list<const char*> kOpenAllTrussPanels;
+
+}  // namespace lignara
