@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
@@ -122,6 +123,7 @@ bool DesktopPlatform::HasWindow(const std::string& name) const {
 void DesktopPlatform::PrintReport(const Report& report) { PrintOnPaper(report, *this); }
 
 void DesktopPlatform::ShowHelp(const std::string& path, const std::string& section) {
+  if (!QFileInfo(ToQt(path)).isReadable()) return;
   // One that was opened before a modal window came up could not be reached.
   if (ToolWindow* open = FindWindow("HELP"); open != nullptr && IsBlocked(open)) {
     CloseWindow("HELP");

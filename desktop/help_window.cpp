@@ -19,10 +19,7 @@ class HelpWindow : public ToolWindow {
 
   void ShowDocument(const QString& path, const QString& section) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-      browser_->setPlainText("The help document LIGNARA.HLP is not in the data directory.");
-      return;
-    }
+    if (!file.open(QIODevice::ReadOnly)) return;
     browser_->setHtml(QString::fromUtf8(file.readAll()));
     browser_->scrollToAnchor(section);
   }

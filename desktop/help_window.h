@@ -6,7 +6,7 @@ namespace lignara {
 
 class ToolWindow;
 
-/// Shows a help document in the help window, at a section. Without the document the window says so.
+/// Shows a help document in the help window, at a section.
 void ShowHelpDocument(ToolWindow* helpWindow, const QString& path, const QString& section);
 
 }  // namespace lignara

@@ -11,6 +11,8 @@ class PictureButton : public QPushButton {
  public:
   PictureButton(const Drawing& drawing, const QString& caption);
 
+  const Drawing& drawing() const { return drawing_; }
+
   QSize sizeHint() const override { return {190, 124}; }
 
  protected:

@@ -16,6 +16,7 @@ class QuestionForm : public ToolWindow {
  public:
   explicit QuestionForm(WindowContext context) : ToolWindow("QUESTION", context) {
     setWindowTitle("???");
+    AddHelpMenu();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* rows = new QVBoxLayout(area);

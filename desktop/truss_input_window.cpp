@@ -22,6 +22,7 @@ class TrussInputForm : public ToolWindow {
   explicit TrussInputForm(WindowContext context)
       : ToolWindow("TR_INPUT", context), record_(OpenTrussInput(session())) {
     setWindowTitle("Truss Input");
+    AddHelpMenu();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* columns = new QHBoxLayout(area);
@@ -42,11 +43,12 @@ class TrussInputForm : public ToolWindow {
   QLayout* Fields() {
     auto* grid = new QGridLayout;
     const QString first = ToQt(record_.firstCaption);
-    QLineEdit* firstField = AddField(grid, "&" + first);
+    // Alt+H is the help menu's.
+    QLineEdit* firstField = AddField(grid, first.startsWith('H') ? "H&1 (ft)" : "&" + first);
     binding().Field(firstField, &record_.first);
     binding().Enabled(firstField, [this] { return record_.firstEnabled; });
     binding().Field(AddField(grid, "&Total Length (ft)"), &record_.totalLength);
-    binding().Field(AddField(grid, first.startsWith('H') ? "H (&ft)" : "&H (ft)"), &record_.height);
+    binding().Field(AddField(grid, "H (&ft)"), &record_.height);
     return grid;
   }
 

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "desktop/text.h"
 #include "script/script_error.h"
@@ -43,21 +44,33 @@ QStringList PlainPath(const QStringList& path) {
   return plain;
 }
 
+/// What a path names among the widgets of some kinds.
 struct Found {
-  std::vector<QWidget*> all;
-  std::vector<QWidget*> exact;
+  QWidget* widget;
+  bool inFull;
+  std::size_t kind;
 };
 
-Found Search(QMainWindow* window, const QStringList& path, const WidgetFilter& filter) {
-  Found found;
+/// The place of a widget's kind; the number of kinds when it is of none.
+std::size_t KindOf(const QWidget* widget, const Kinds& kinds) {
+  std::size_t kind = 0;
+  while (kind < kinds.size() && !kinds[kind](widget)) ++kind;
+  return kind;
+}
+
+std::vector<Found> Search(QMainWindow* window, const QStringList& path, const Kinds& kinds) {
+  std::vector<Found> found;
   for (QWidget* widget : window->findChildren<QWidget*>()) {
-    if (widget->window() != window || !filter(widget)) continue;
+    const std::size_t kind = KindOf(widget, kinds);
+    if (widget->window() != window || kind == kinds.size()) continue;
     const QStringList full = FullPath(widget);
-    if (!Names(path, full)) continue;
-    found.all.push_back(widget);
-    if (full == path) found.exact.push_back(widget);
+    if (Names(path, full)) found.push_back({widget, full == path, kind});
   }
   return found;
+}
+
+bool IsNearer(const Found& a, const Found& b) {
+  return a.inFull != b.inFull ? a.inFull : a.kind < b.kind;
 }
 
 }  // namespace
@@ -77,15 +90,16 @@ QString CaptionOf(const QWidget* widget) {
 }
 
 QWidget* FindControl(QMainWindow* window, const QStringList& path,
-                     const std::vector<WidgetFilter>& tiers) {
+                     const std::vector<Kinds>& stages) {
   const QStringList plain = PlainPath(path);
   QString shown;
   for (const QString& caption : path) shown += " " + Quoted(caption);
-  for (const WidgetFilter& filter : tiers) {
-    const Found found = Search(window, plain, filter);
-    if (found.exact.size() == 1) return found.exact.front();
-    if (found.all.size() == 1) return found.all.front();
-    if (!found.all.empty()) throw ScriptError{"more than one control is named" + shown};
+  for (const Kinds& kinds : stages) {
+    std::vector<Found> found = Search(window, plain, kinds);
+    if (found.empty()) continue;
+    std::stable_sort(found.begin(), found.end(), IsNearer);
+    if (found.size() == 1 || IsNearer(found[0], found[1])) return found[0].widget;
+    throw ScriptError{"more than one control is named" + shown};
   }
   throw ScriptError{"no control is named" + shown};
 }

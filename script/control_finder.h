@@ -17,12 +17,15 @@ QString CaptionOf(const QWidget* widget);
 /// A choice among widgets, such as "lists".
 using WidgetFilter = std::function<bool(const QWidget*)>;
 
+/// Kinds of widgets, the preferred first.
+using Kinds = std::vector<WidgetFilter>;
+
 /// The control that a path of captions names: its own caption last, before it, where needed, those
-/// of panels around it. `tiers` are tried in order; the first in which something is named decides.
-/// Among several, one that the captions name in full wins over those deeper inside panels. Throws
-/// ScriptError when there is none, or more than one.
+/// of panels around it. `stages` are tried in order; the first in which something is named decides.
+/// There, what the captions name in full wins over what stands deeper inside panels, and then the
+/// preferred kind. Throws ScriptError when there is none, or more than one.
 QWidget* FindControl(QMainWindow* window, const QStringList& path,
-                     const std::vector<WidgetFilter>& tiers);
+                     const std::vector<Kinds>& stages);
 
 /// The menu item that a path of captions names, from the menu bar on. Null when there is none.
 QAction* FindMenuItem(QMainWindow* window, const QStringList& path);

@@ -14,6 +14,7 @@
 
 #include "desktop/binding.h"
 #include "desktop/picture.h"
+#include "desktop/picture_button.h"
 #include "desktop/tool_window.h"
 #include "script/script_error.h"
 #include "script/script_platform.h"
@@ -30,6 +31,12 @@ WidgetFilter Visible(WidgetFilter kind) {
   return [kind](const QWidget* widget) { return widget->isVisible() && kind(widget); };
 }
 
+Kinds AllVisible(const Kinds& kinds) {
+  Kinds visible;
+  for (const WidgetFilter& kind : kinds) visible.push_back(Visible(kind));
+  return visible;
+}
+
 /// Lists and pictures have scroll bars and viewports of their own inside; those have no names.
 bool IsControl(const QWidget* widget) {
   return IsAny<QAbstractButton, QLineEdit, QListWidget, QTableWidget, Picture, QScrollBar>(widget);
@@ -42,8 +49,12 @@ bool IsTypedInto(const QWidget* widget) {
   return field != nullptr && !field->isReadOnly();
 }
 
+bool IsPicture(const QWidget* widget) { return IsAny<Picture, PictureButton>(widget); }
 bool IsPanel(const QWidget* widget) { return IsAny<QGroupBox>(widget); }
 bool IsLabel(const QWidget* widget) { return IsAny<QLabel>(widget); }
+bool IsNamedLabel(const QWidget* widget) {
+  return IsLabel(widget) && !widget->accessibleName().isEmpty();
+}
 
 QStringList PathOf(const std::vector<ScriptWord>& words, std::size_t count) {
   QStringList path;
@@ -157,9 +168,7 @@ ToolWindow* ScriptPlayer::Current() const {
 }
 
 QWidget* ScriptPlayer::Control(const Words& words, std::size_t count, const Kinds& kinds) const {
-  Kinds visible;
-  for (const WidgetFilter& kind : kinds) visible.push_back(Visible(kind));
-  return FindControl(Current(), PathOf(words, count), visible);
+  return FindControl(Current(), PathOf(words, count), {AllVisible(kinds)});
 }
 
 QWidget* ScriptPlayer::ActiveControl(const Words& words, std::size_t count,
@@ -215,8 +224,9 @@ void ScriptPlayer::Key(const Words& words) {
   }
   control->setFocus();
   const QKeyCombination key = sequence[0];
-  QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers());
-  QKeyEvent up(QEvent::KeyRelease, key.key(), key.keyboardModifiers());
+  const QString text = words.back().text.size() == 1 ? words.back().text : QString();
+  QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
+  QKeyEvent up(QEvent::KeyRelease, key.key(), key.keyboardModifiers(), text);
   QApplication::sendEvent(control, &down);
   QApplication::sendEvent(control, &up);
 }
@@ -226,7 +236,9 @@ void ScriptPlayer::Select(const Words& words) {
       static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, {IsAny<QListWidget>}));
   const int row = RowOf(list, words.back());
   list->setFocus();
-  if (row != list->currentRow()) {
+  if (row != ChosenRow(list)) {
+    // A list that just got the focus has its first row current without having it chosen.
+    list->setCurrentRow(-1);
     list->setCurrentRow(row);
   } else {
     emit list->itemClicked(list->item(row));
@@ -275,10 +287,7 @@ void ScriptPlayer::Read(const Words& words) {
   }
   const QWidget* control =
       FindControl(window, PathOf(words, words.size()),
-                  {Visible(IsAny<QLineEdit>), Visible([](const QWidget* widget) {
-                     return IsLabel(widget) && !widget->accessibleName().isEmpty();
-                   }),
-                   Visible(IsLabel)});
+                  {{Visible(IsAny<QLineEdit>)}, {Visible(IsNamedLabel)}, {Visible(IsLabel)}});
   const auto* field = qobject_cast<const QLineEdit*>(control);
   output_("value " +
           Quoted(field != nullptr ? field->text() : static_cast<const QLabel*>(control)->text()));
@@ -298,19 +307,27 @@ void ScriptPlayer::Rows(const Words& words) {
 
 void ScriptPlayer::State(const Words& words) {
   const QStringList path = PathOf(words, words.size());
-  if (const QAction* item = FindMenuItem(Current(), path); item != nullptr && path.size() > 1) {
+  if (const QAction* item = FindMenuItem(Current(), path)) {
     output_(QString("state visible %1").arg(item->isEnabled() ? "enabled" : "disabled"));
     return;
   }
   // Where a list and a field bear the same name, the chosen row is what one asks for.
+  const Kinds controls = {IsList, IsControl};
   output_(StateOf(FindControl(Current(), path,
-                              {Visible(IsList), Visible(IsControl), Visible(IsPanel),
-                               Visible(IsLabel), IsList, IsControl, IsPanel, IsLabel})));
+                              {AllVisible(controls),
+                               {Visible(IsPanel)},
+                               {Visible(IsLabel)},
+                               controls,
+                               {IsPanel},
+                               {IsLabel}})));
 }
 
 void ScriptPlayer::Shapes(const Words& words) {
-  const QWidget* control = Control(words, words.size(), {IsAny<Picture>});
-  PrintShapes(static_cast<const Picture*>(control)->drawing(), output_);
+  const QWidget* control = Control(words, words.size(), {IsPicture});
+  const auto* button = dynamic_cast<const PictureButton*>(control);
+  PrintShapes(
+      button != nullptr ? button->drawing() : static_cast<const Picture*>(control)->drawing(),
+      output_);
 }
 
 void ScriptPlayer::Windows(const Words&) {
@@ -318,10 +335,12 @@ void ScriptPlayer::Windows(const Words&) {
 }
 
 void ScriptPlayer::SavePicture(const Words& words) {
-  QWidget* control = Control(words, words.size() - 1, {IsAny<Picture>});
-  if (!static_cast<Picture*>(control)->SavePng(words.back().text)) {
-    throw ScriptError{"cannot write " + words.back().text};
-  }
+  QWidget* control = Control(words, words.size() - 1, {IsPicture});
+  auto* picture = dynamic_cast<Picture*>(control);
+  const QString path = words.back().text;
+  const bool saved =
+      picture != nullptr ? picture->SavePng(path) : control->grab().save(path, "PNG");
+  if (!saved) throw ScriptError{"cannot write " + path};
 }
 
 void ScriptPlayer::Screenshot(const Words& words) {

@@ -52,7 +52,6 @@ class ScriptPlayer {
 
   /// The window that the lines act in. Throws when it is closed, or kept by a modal one.
   ToolWindow* Current() const;
-  using Kinds = std::vector<WidgetFilter>;
   /// The control of the first `count` words: visible, and of the first of the kinds of which there
   /// is one.
   QWidget* Control(const Words& words, std::size_t count, const Kinds& kinds) const;

@@ -126,8 +126,10 @@ void AcceptSlope(TrussInputWindow& window, Platform& platform) {
     platform.ShowMessage({"YOU NEED TO ENTER BOTH RISE AND RUN!"});
     return;
   }
-  const Float32 height = (rise / run) * (window.slopeLength / 2);
-  window.height = FormatNumber(height, "0.0");
+  Float32 height = -1.0;
+  height = (rise / run) * (window.slopeLength / 2);
+  // Where the slope is too steep for a number the box has told so, and the height typed stays.
+  if (height >= 0.0) window.height = FormatNumber(height, "0.0");
   window.okEnabled = true;
 }
 
