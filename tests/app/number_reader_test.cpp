@@ -1,6 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <locale>
+#include <random>
+#include <regex>
+#include <sstream>
 #include <string>
 
 #include "app/number_text.h"
@@ -106,6 +111,39 @@ TEST(NumberReader, ReadsEveryHundredthBack) {
         (hundredths < 0 ? "-" : "") + std::to_string(size / 100) + "." + places;
     EXPECT_EQ(ReadNumber(text).value(), hundredths / 100.0) << text;
   }
+}
+
+/// The same by a grammar and the stream reader of the standard library.
+double ReadByGrammar(const std::string& text) {
+  static const std::regex grammar(R"([ \t]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
+  std::smatch match;
+  if (!std::regex_search(text, match, grammar, std::regex_constants::match_continuous)) return 0.0;
+  std::string number = match[1];
+  if (number.front() == '+') number.erase(0, 1);
+  std::istringstream stream(number);
+  stream.imbue(std::locale::classic());
+  double value = 0.0;
+  stream >> value;
+  return value;
+}
+
+TEST(NumberReader, AgreesWithItsGrammarOnRandomTexts) {
+  // Two exponent digits at most keep the numbers inside 64 bits.
+  const std::string letters = "0123456789..+-eE ,x";
+  std::mt19937 random(20240611);
+  std::uniform_int_distribution<std::size_t> letter(0, letters.size() - 1);
+  std::uniform_int_distribution<int> length(0, 7);
+  int numbers = 0;
+  for (int i = 0; i < 5000; ++i) {
+    std::string text;
+    for (int left = length(random); left > 0; --left) text += letters[letter(random)];
+    const std::size_t mark = text.find_first_of("eE");
+    if (mark != std::string::npos) text.resize(std::min(text.size(), mark + 3));
+    const double expected = ReadByGrammar(text);
+    EXPECT_EQ(ReadNumber(text).value(), expected) << '"' << text << '"';
+    numbers += expected != 0.0;
+  }
+  EXPECT_GT(numbers, 1000);
 }
 
 }  // namespace
