@@ -19,6 +19,19 @@ constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
+/// True where a text starts with a number, behind blanks, as the number reader sees it.
+bool StartsWithNumber(std::string_view text) {
+  const auto skip = [&text](const char* any) {
+    if (!text.empty() && std::string_view(any).find(text.front()) != std::string_view::npos) {
+      text.remove_prefix(1);
+    }
+  };
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+  skip("+-");
+  skip(".");
+  return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
 /// The bytes of a file; nothing where it cannot be read. A directory is no file.
 std::optional<std::string> FileText(const std::string& path) {
   std::error_code error;
@@ -90,8 +103,12 @@ FieldFile::FieldFile(const std::string& dataDirectory, const std::string& fileNa
 std::string FieldFile::ReadText() { return Next().value_or(""); }
 
 double FieldFile::ReadValue() {
-  const Number number = ReadNumber(Next().value_or(""));
+  const std::string field = Next().value_or("");
+  const Number number = ReadNumber(field);
   if (number.fault() != Fault::None) Report("A number in " + fileName_ + " is too large");
+  if (!field.empty() && !StartsWithNumber(field)) {
+    Report("A number in " + fileName_ + " cannot be read");
+  }
   return number.value();
 }
 

@@ -38,15 +38,16 @@ class FieldStream {
 
 /// A comma-separated file of the data directory, read field by field.
 ///
-/// A file that cannot be opened, or that ends too early, is shown once in a plain box; the field is
-/// then empty or 0, and the reading goes on. Text behind the last field asked for is passed over.
+/// A file that cannot be opened, that ends too early, or that has letters for a number, is shown
+/// once in a plain box; the field is then empty or 0, and the reading goes on. Text behind the last
+/// field asked for is passed over.
 class FieldFile {
  public:
   FieldFile(const std::string& dataDirectory, const std::string& fileName, Platform& platform);
 
   /// The next field as text.
   std::string ReadText();
-  /// The next field as a number; 0 where it is none, or too large.
+  /// The next field as a number; 0 where it is empty, no number, or too large.
   double ReadValue();
   /// The next field as the count of the records that follow: 0 to 32767. What is no such number is
   /// 0, and a negative count too.

@@ -99,10 +99,26 @@ TEST_F(FieldFileTest, TextBehindTheLastRecordIsPassedOver) {
   EXPECT_TRUE(platform.messages.empty());
 }
 
-TEST_F(FieldFileTest, WhatIsNoNumberIsZeroWithoutAMessage) {
-  FieldFile file = Open("abc,,\"\",-,.\n");
+TEST_F(FieldFileTest, EmptyFieldIsZeroWithoutAMessage) {
+  FieldFile file = Open(",,\"\",1\n");
   EXPECT_EQ(file.ReadCount(), 0);
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(file.ReadValue(), 0.0);
+  EXPECT_EQ(file.ReadValue(), 1.0);
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(FieldFileTest, WhatIsNoNumberIsZeroAndShownOnce) {
+  FieldFile file = Open("abc,-,.,+-1,\" x\",2\n");
+  EXPECT_EQ(file.ReadCount(), 0);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in TEST.CSV cannot be read"});
   for (int i = 0; i < 4; ++i) EXPECT_EQ(file.ReadValue(), 0.0);
+  EXPECT_EQ(file.ReadValue(), 2.0);
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(FieldFileTest, NumberMayStartWithSignOrPoint) {
+  FieldFile file = Open("-.5,+2,.25,-3 psi,\"  7\"\n");
+  for (const double value : {-0.5, 2.0, 0.25, -3.0, 7.0}) EXPECT_EQ(file.ReadValue(), value);
   EXPECT_TRUE(platform.messages.empty());
 }
 
@@ -153,21 +169,35 @@ TEST_F(FieldFileTest, MessageIsAPlainBox) {
 struct CountCase {
   const char* text;
   int count;
-  bool tooLarge;
+  const char* wrong = nullptr;
 };
 
 TEST_F(FieldFileTest, CountIsA16BitNumber) {
+  constexpr const char* kTooLarge = "A number in TEST.CSV is too large";
   const CountCase cases[] = {
-      {"0", 0, false},      {"27", 27, false},     {"32767", 32767, false}, {"32768", 0, true},
-      {"99999", 0, true},   {"-3", 0, false},      {"-32768", 0, true},     {"1e300", 0, true},
-      {"1e999", 0, true},   {"\"12\"", 12, false}, {"+4", 4, false},        {"2.5", 2, false},
-      {"3.5", 4, false},    {"2.4", 2, false},     {"7 files", 7, false},   {"seven", 0, false},
-      {"1e-999", 0, false}, {"0x10", 0, false},
+      {"0", 0},
+      {"27", 27},
+      {"32767", 32767},
+      {"32768", 0, kTooLarge},
+      {"99999", 0, kTooLarge},
+      {"-3", 0},
+      {"-32768", 0, kTooLarge},
+      {"1e300", 0, kTooLarge},
+      {"1e999", 0, kTooLarge},
+      {"\"12\"", 12},
+      {"+4", 4},
+      {"2.5", 2},
+      {"3.5", 4},
+      {"2.4", 2},
+      {"7 files", 7},
+      {"seven", 0, "A number in TEST.CSV cannot be read"},
+      {"1e-999", 0},
+      {"0x10", 0},
   };
   for (const CountCase& c : cases) {
     FieldFile file = Open(c.text);
     EXPECT_EQ(file.ReadCount(), c.count) << c.text;
-    const Texts expected = c.tooLarge ? Texts{"A number in TEST.CSV is too large"} : Texts{};
+    const Texts expected = c.wrong != nullptr ? Texts{c.wrong} : Texts{};
     EXPECT_EQ(platform.TakeTexts(), expected) << c.text;
   }
 }

@@ -140,6 +140,7 @@ TEST_F(SpeciesDataTest, EmptyFilesGiveABoxAndNothing) {
 
 TEST_F(SpeciesDataTest, CountThatCannotBeReadIsZero) {
   EXPECT_EQ(Index("many\nHem-Fir,HF.CSV\n").names, Texts{""});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in INDEX.CSV cannot be read"});
   EXPECT_EQ(Index("-2\nHem-Fir,HF.CSV\n").names, Texts{""});
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(Index("70000\nHem-Fir,HF.CSV\n").names, Texts{""});
@@ -150,7 +151,8 @@ TEST_F(SpeciesDataTest, GarbledNumbersAreZeroOrTheirPrefix) {
   const SpeciesFile species = Species("0\n1\nNo.1,x,12psi,,1e999,-5,1.5.5\n");
   ASSERT_EQ(species.grades.size(), 2U);
   ExpectStresses(species.grades[1], {0, 12, 0, 0, -5, 1.5});
-  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in SPECIES.CSV is too large"});
+  EXPECT_EQ(platform.TakeTexts(), (Texts{"A number in SPECIES.CSV cannot be read",
+                                         "A number in SPECIES.CSV is too large"}));
 }
 
 // The shipped files.
