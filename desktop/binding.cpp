@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -13,6 +14,28 @@
 #include "desktop/text.h"
 
 namespace lignara {
+namespace {
+
+/// Calls back after the left mouse button was released over a widget, wherever it was pressed.
+class ReleaseWatcher : public QObject {
+ public:
+  ReleaseWatcher(QWidget* watched, Binding::Command released)
+      : QObject(watched), released_(std::move(released)) {
+    watched->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    const bool release = event->type() == QEvent::MouseButtonRelease &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (release) released_();
+    return false;
+  }
+
+ private:
+  Binding::Command released_;
+};
+
+}  // namespace
 
 int ChosenRow(const QListWidget* list) {
   const QListWidgetItem* item = list->currentItem();
@@ -59,13 +82,12 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
   const auto choose = [this, chosen](int at) {
     if (at >= 0) Run([&] { chosen(at); });
   };
-  // A mouse press moves the current row first and is a click only when released. A list that only
-  // gets the focus moves its current row too, but chooses none.
+  // The mouse may be dragged over rows: the one under it when the button is released counts. A list
+  // that only gets the focus moves its current row too, but chooses none.
   QObject::connect(list, &QListWidget::currentRowChanged, [list, choose](int at) {
     if (QGuiApplication::mouseButtons() == Qt::NoButton && ChosenRow(list) == at) choose(at);
   });
-  QObject::connect(list, &QListWidget::itemClicked,
-                   [list, choose](QListWidgetItem* item) { choose(list->row(item)); });
+  new ReleaseWatcher(list->viewport(), [list, choose] { choose(ChosenRow(list)); });
 }
 
 void Binding::Press(QAbstractButton* button, Command command) {

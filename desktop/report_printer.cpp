@@ -29,7 +29,6 @@ class PagePainter {
     painter_.setFont(font);
     const QFontMetricsF metrics(font, &printer);
     lineHeight_ = metrics.lineSpacing();
-    ascent_ = metrics.ascent();
     // Letters differ in width; digits do not, and a zone has to hold the numbers of a column.
     zoneWidth_ = metrics.horizontalAdvance('0') * static_cast<double>(kPrintZone);
   }
@@ -37,11 +36,12 @@ class PagePainter {
   void operator()(const ReportLine& line) {
     if (y_ + lineHeight_ > page_.height()) operator()(NewPage{});
     double x = zoneWidth_ * static_cast<double>(line.emptyZones);
+    double height = lineHeight_;
     for (const std::string& item : line.items) {
-      painter_.drawText(QPointF(x, y_ + ascent_), ToQt(item));
+      height = std::max(height, DrawItem(x, ToQt(item)));
       x += zoneWidth_ * static_cast<double>(item.size() / kPrintZone + 1);
     }
-    y_ += lineHeight_;
+    y_ += height;
   }
 
   void operator()(const NewPage&) {
@@ -58,11 +58,19 @@ class PagePainter {
   }
 
  private:
+  /// Draws an item; one that does not fit beside the margin goes on in the lines below. Returns the
+  /// height it took.
+  double DrawItem(double x, const QString& item) {
+    const QRectF room(x, y_, page_.width() - x, page_.height() - y_);
+    QRectF taken;
+    painter_.drawText(room, Qt::TextWordWrap | Qt::AlignTop | Qt::AlignLeft, item, &taken);
+    return taken.height();
+  }
+
   QPrinter& printer_;
   QPainter& painter_;
   const QRectF page_;
   double lineHeight_ = 0;
-  double ascent_ = 0;
   double zoneWidth_ = 0;
   double y_ = 0;
 };

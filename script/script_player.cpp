@@ -236,13 +236,9 @@ void ScriptPlayer::Select(const Words& words) {
       static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, {IsAny<QListWidget>}));
   const int row = RowOf(list, words.back());
   list->setFocus();
-  if (row != ChosenRow(list)) {
-    // A list that just got the focus has its first row current without having it chosen.
-    list->setCurrentRow(-1);
-    list->setCurrentRow(row);
-  } else {
-    emit list->itemClicked(list->item(row));
-  }
+  // A row is chosen by each click, also where it was chosen before.
+  list->setCurrentRow(-1);
+  list->setCurrentRow(row);
 }
 
 void ScriptPlayer::Click(const Words& words) {
