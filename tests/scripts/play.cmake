@@ -1,10 +1,20 @@
-# Plays NAME.lig in a fresh copy of the data directory and compares: standard output, then standard
-# error and the exit status where it is not 0, with NAME.out; each file FILE that the script saved
-# with NAME.FILE, where such a file is kept. ACCEPT=1 keeps the new results instead.
+# Plays NAME.lig in a fresh copy of the data directory, over which the files of NAME.data are put
+# where there is such a folder (those that its file REMOVED names are taken away), and compares:
+# standard output, then standard error and the exit status where it is not 0, with NAME.out; each
+# file FILE that the script saved with NAME.FILE, where such a file is kept. ACCEPT=1 keeps the new
+# results instead.
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 file(GLOB data ${DATA}/*)
 file(COPY ${data} DESTINATION ${WORK})
+if(IS_DIRECTORY ${SCRIPTS}/${NAME}.data)
+  file(COPY ${SCRIPTS}/${NAME}.data/ DESTINATION ${WORK})
+  if(EXISTS ${WORK}/REMOVED)
+    file(STRINGS ${WORK}/REMOVED removed)
+    list(TRANSFORM removed PREPEND ${WORK}/)
+    file(REMOVE ${removed})
+  endif()
+endif()
 execute_process(COMMAND ${PROGRAM} --data ${WORK} ${NAME}.lig
                 WORKING_DIRECTORY ${SCRIPTS}
                 OUTPUT_FILE ${WORK}/transcript ERROR_VARIABLE complaint RESULT_VARIABLE status)
@@ -13,7 +23,7 @@ if(NOT status EQUAL 0)
 endif()
 
 file(GLOB kept RELATIVE ${SCRIPTS} ${SCRIPTS}/${NAME}.*)
-list(REMOVE_ITEM kept ${NAME}.lig ${NAME}.out)
+list(REMOVE_ITEM kept ${NAME}.lig ${NAME}.out ${NAME}.data)
 set(pairs "transcript|${NAME}.out")
 foreach(file ${kept})
   string(LENGTH ${NAME}. head)
