@@ -45,13 +45,6 @@ constexpr std::array<ScreenColour, 6> kColours = {{
     {Colour::DarkOrange, "#d96a00", "#ffa040"},
 }};
 
-QColor OnScreen(Colour colour, bool dark) {
-  for (const ScreenColour& entry : kColours) {
-    if (entry.colour == colour) return QColor(dark ? entry.onDark : entry.onLight);
-  }
-  return dark ? Qt::white : Qt::black;
-}
-
 /// Among so many shapes no text can be read, and rims would only cost time.
 constexpr std::size_t kCrowd = 2000;
 
@@ -59,11 +52,7 @@ constexpr std::size_t kCrowd = 2000;
 class ShapePainter {
  public:
   ShapePainter(QPainter& painter, const Drawing& drawing, const Fit& fit, const QColor& ground)
-      : painter_(painter),
-        fit_(fit),
-        ground_(ground),
-        dark_(ground.lightness() < 128),
-        rims_(drawing.shapes.size() < kCrowd) {
+      : painter_(painter), fit_(fit), ground_(ground), rims_(drawing.shapes.size() < kCrowd) {
     QFont font = painter.font();
     font.setPixelSize(std::max(7, static_cast<int>(std::lround(drawing.textHeight * fit.scale))));
     painter.setFont(font);
@@ -87,7 +76,7 @@ class ShapePainter {
       outline.addText(base, painter_.font(), ToQt(text.text));
       painter_.strokePath(outline, QPen(ground_, painter_.font().pixelSize() / 4.0));
     }
-    painter_.setPen(OnScreen(text.colour, dark_));
+    painter_.setPen(ColourOn(ground_, text.colour));
     painter_.drawText(base, ToQt(text.text));
   }
 
@@ -96,18 +85,25 @@ class ShapePainter {
     return {fit_.origin.x() + x * fit_.scale, fit_.origin.y() + y * fit_.scale};
   }
   void SetPen(Colour colour, double width) {
-    painter_.setPen(QPen(OnScreen(colour, dark_), std::max(1.2, width * fit_.scale), Qt::SolidLine,
-                         Qt::RoundCap));
+    painter_.setPen(QPen(ColourOn(ground_, colour), std::max(1.2, width * fit_.scale),
+                         Qt::SolidLine, Qt::RoundCap));
   }
 
   QPainter& painter_;
   const Fit fit_;
   const QColor ground_;
-  const bool dark_;
   const bool rims_;
 };
 
 }  // namespace
+
+QColor ColourOn(const QColor& ground, Colour colour) {
+  const bool dark = ground.lightness() < 128;
+  for (const ScreenColour& entry : kColours) {
+    if (entry.colour == colour) return QColor(dark ? entry.onDark : entry.onLight);
+  }
+  return dark ? Qt::white : Qt::black;
+}
 
 void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,
                   const QPalette& palette) {

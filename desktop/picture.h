@@ -7,6 +7,9 @@
 
 namespace lignara {
 
+/// A colour of drawings as it is legible on a light or a dark ground.
+QColor ColourOn(const QColor& ground, Colour colour);
+
 /// Paints a drawing into a rectangle, as large as fits, true to shape. On a dark palette what the
 /// drawing calls black is light.
 void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,

@@ -36,12 +36,13 @@ QListWidget* SideList(const char* name) {
 }
 
 /// A coloured dash and what the colour of a member means.
-QLayout* LegendEntry(const char* colour, const char* meaning) {
+QLayout* LegendEntry(Colour colour, const char* meaning) {
   auto* row = new QHBoxLayout;
   row->setSpacing(5);
   auto* dash = new QFrame;
   dash->setFixedSize(24, 3);
-  dash->setStyleSheet(QString("background: %1").arg(colour));
+  const QColor ground = dash->palette().color(QPalette::Base);
+  dash->setStyleSheet(QString("background: %1").arg(ColourOn(ground, colour).name()));
   row->addWidget(dash);
   row->addWidget(new QLabel(meaning));
   return row;
@@ -177,9 +178,9 @@ QWidget* TrussForm::Legend() {
   auto* legend = new QWidget;
   auto* row = new QHBoxLayout(legend);
   row->setSpacing(16);
-  row->addLayout(LegendEntry("#2f5fd0", "Tension"));
-  row->addLayout(LegendEntry("#d96a00", "Compression"));
-  row->addLayout(LegendEntry("#808080", "No force"));
+  row->addLayout(LegendEntry(Colour::RoyalBlue, "Tension"));
+  row->addLayout(LegendEntry(Colour::DarkOrange, "Compression"));
+  row->addLayout(LegendEntry(Colour::Gray, "No force"));
   binding().Shown(legend, &record_.view.resultsShown);
   return legend;
 }

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <cstdlib>
 
 namespace lignara {
 namespace {
@@ -80,6 +81,20 @@ TEST_F(PictureTest, IsWrittenAsAPngWithItsLines) {
 
 TEST_F(PictureTest, SaysWhereItCannotBeWritten) {
   EXPECT_FALSE(picture.SavePng("/no such directory/picture.png"));
+}
+
+TEST(ColourOn, KeepsEveryColourWellApartFromALightAndADarkGround) {
+  for (const QColor ground :
+       {QColor("white"), QColor("#efefef"), QColor("#2d2d30"), QColor("black")}) {
+    for (const Colour colour : {Colour::Black, Colour::Red, Colour::Blue, Colour::Gray,
+                                Colour::RoyalBlue, Colour::DarkOrange}) {
+      const QColor pen = ColourOn(ground, colour);
+      const int apart = std::abs(pen.red() - ground.red()) +
+                        std::abs(pen.green() - ground.green()) +
+                        std::abs(pen.blue() - ground.blue());
+      EXPECT_GT(apart, 200) << ColourName(colour) << " on " << ground.name().toStdString();
+    }
+  }
 }
 
 }  // namespace
