@@ -73,9 +73,9 @@ class FactorPanelForm : public QGroupBox {
     rows->addLayout(Results());
     rows->addStretch();
     binding_.Shown(this, &window_.panel.open);
-    EnterWhenOpened();
   }
 
+  QListWidget* first() const { return first_; }
   QPushButton* calculate() const { return calculate_; }
   QPushButton* cancel() const { return cancel_; }
 
@@ -187,14 +187,6 @@ class FactorPanelForm : public QGroupBox {
     return panel;
   }
 
-  /// The work goes on in the panel as soon as it opens.
-  void EnterWhenOpened() {
-    binding_.Follow([this, was = false]() mutable {
-      if (window_.panel.open && !was) first_->setFocus();
-      was = window_.panel.open;
-    });
-  }
-
   WoodDataBaseWindow& window_;
   Binding& binding_;
   SessionState& session_;
@@ -209,7 +201,7 @@ class FactorPanelForm : public QGroupBox {
 FactorPanelParts MakeFactorPanel(WoodDataBaseWindow& window, Binding& binding,
                                  SessionState& session, Platform& platform) {
   auto* panel = new FactorPanelForm(window, binding, session, platform);
-  return {panel, panel->calculate(), panel->cancel()};
+  return {panel, panel->first(), panel->calculate(), panel->cancel()};
 }
 
 }  // namespace lignara

@@ -6,14 +6,16 @@
 
 class QGroupBox;
 class QPushButton;
+class QWidget;
 
 namespace lignara {
 
 struct WoodDataBaseWindow;
 
-/// The panel, and the buttons that Return and Escape press in it.
+/// The panel, the control that its work starts with, and the buttons that Return and Escape press.
 struct FactorPanelParts {
   QGroupBox* panel = nullptr;
+  QWidget* first = nullptr;
   QPushButton* calculate = nullptr;
   QPushButton* cancel = nullptr;
 };

@@ -51,7 +51,8 @@ QListWidget* MakeList(const QString& name, int rows) {
   auto* list = new QListWidget;
   list->setAccessibleName(PlainCaption(name));
   list->addItem("0");  // for its height in the style at hand
-  list->setMinimumHeight(list->sizeHintForRow(0) * rows + 2 * list->frameWidth());
+  constexpr int kSlack = 2;  // a scaled screen rounds the rows up
+  list->setMinimumHeight(list->sizeHintForRow(0) * rows + 2 * list->frameWidth() + kSlack);
   list->clear();
   list->setMinimumWidth(160);
   return list;

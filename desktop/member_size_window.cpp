@@ -71,6 +71,7 @@ class MemberSizeForm : public ToolWindow {
     rows->addLayout(Foot(area));
     // Hides the panels of the other client before the window is measured.
     binding().Refresh();
+    firstWidth_->setFocus();
   }
 
   void CloseControl() override { ExitMemberSize(platform()); }
@@ -126,6 +127,7 @@ class MemberSizeForm : public ToolWindow {
       buttons.push_back(button);
     }
     MakeOneTabStop(binding(), buttons);
+    if (firstWidth_ == nullptr) firstWidth_ = buttons.front();
     return panel;
   }
 
@@ -253,6 +255,7 @@ class MemberSizeForm : public ToolWindow {
   static constexpr int kSecondColumn = 3;  ///< of a grid of boxes
 
   MemberSizeWindow record_;
+  QPushButton* firstWidth_ = nullptr;
 };
 
 }  // namespace

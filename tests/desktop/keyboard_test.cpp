@@ -187,5 +187,17 @@ TEST_F(MnemonicTest, AreDistinctInTheSmallWindows) {
   ExpectDistinct("ABOUT");
 }
 
+TEST_F(MnemonicTest, AreDistinctInTheLumberWindows) {
+  for (const char* client : {"press \"TRUSS\"", "press \"BEAM\""}) {
+    desktop.Play({"window main", "press \"Pure Wood Data Base\"", "window QUESTION", client});
+    ExpectDistinct("WTYPETR");
+    desktop.Play({"window WTYPETR", "press \"Cancel\""});
+  }
+  desktop.Play({"window main", "press \"Pure Wood Data Base\"", "window QUESTION", "press \"BEAM\"",
+                "window WTYPETR", "press \"Wood Type Data Base\"", "window wdb",
+                "press \"Stress Adjustment Factors\""});
+  ExpectDistinct("wdb");
+}
+
 }  // namespace
 }  // namespace lignara
