@@ -36,4 +36,8 @@ FaultScope::FaultScope(Platform& platform) : outer_(g_platform) { g_platform = &
 
 FaultScope::~FaultScope() { g_platform = outer_; }
 
+SilentFaults::SilentFaults() : outer_(g_platform) { g_platform = nullptr; }
+
+SilentFaults::~SilentFaults() { g_platform = outer_; }
+
 }  // namespace lignara

@@ -30,4 +30,17 @@ class FaultScope {
   Platform* outer_;
 };
 
+/// While one stands, faults are not shown: for work that the user did not ask for, and that has
+/// shown its faults before.
+class SilentFaults {
+ public:
+  SilentFaults();
+  ~SilentFaults();
+  SilentFaults(const SilentFaults&) = delete;
+  SilentFaults& operator=(const SilentFaults&) = delete;
+
+ private:
+  Platform* outer_;
+};
+
 }  // namespace lignara

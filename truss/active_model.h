@@ -91,7 +91,7 @@ class TrussJob {
   TrussJob(ActiveModel& m, const SessionState& s, Platform& p)
       : model(m), session(s), platform(p), halfSpans_(lignara::HalfSpans(s)) {}
 
-  /// Number of panels in a half. A fault in it is shown once a command.
+  /// Number of panels in a half, counted once for the whole job.
   int HalfSpans() const { return halfSpans_; }
 
   ActiveModel& model;

@@ -39,6 +39,19 @@ void DrawArrow(const TrussWindow& window, const SessionState& session, const Tru
   painter.DrawArrow(TopNodePoint(shape, nodes[static_cast<std::size_t>(row - 1)]));
 }
 
+void Draw(TrussWindow& window, const SessionState& session, Platform& platform) {
+  TrussJob job{window.model, session, platform};
+  SetDrawnGeometry(job);
+  SetScales(window.view, session);
+  const TrussShape shape = ShapeOf(window.model, session);
+  TrussPainter painter(window.view);
+  painter.DrawMembers(LayoutOf(shape),
+                      [&](const Member& member) { return MemberColour(window, member); });
+  DrawArrow(window, session, shape, painter);
+  window.view.MemberMark = painter.TakeMarks();
+  window.view.drawing = painter.TakeDrawing();
+}
+
 void Zoom(TrussWindow& window, const SessionState& session, Platform& platform, double step) {
   FaultScope faults(platform);
   TrussView& view = window.view;
@@ -59,16 +72,12 @@ void ResetView(TrussView& view, const SessionState& session) {
 
 void RedrawTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
   FaultScope faults(platform);
-  TrussJob job{window.model, session, platform};
-  SetDrawnGeometry(job);
-  SetScales(window.view, session);
-  const TrussShape shape = ShapeOf(window.model, session);
-  TrussPainter painter(window.view);
-  painter.DrawMembers(LayoutOf(shape),
-                      [&](const Member& member) { return MemberColour(window, member); });
-  DrawArrow(window, session, shape, painter);
-  window.view.MemberMark = painter.TakeMarks();
-  window.view.drawing = painter.TakeDrawing();
+  Draw(window, session, platform);
+}
+
+void RecolourTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
+  SilentFaults faults;
+  Draw(window, session, platform);
 }
 
 Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {

@@ -15,6 +15,9 @@ void ResetView(TrussView& view, const SessionState& session);
 /// compression.
 void RedrawTruss(TrussWindow& window, const SessionState& session, Platform& platform);
 
+/// The same after a run, for the sake of the colours: what could not be drawn was told before.
+void RecolourTruss(TrussWindow& window, const SessionState& session, Platform& platform);
+
 /// The truss for paper, at the scales and the origin of the view: members in black, and a name
 /// beside each top node.
 Drawing PageDrawing(const TrussWindow& window, const SessionState& session);

@@ -28,7 +28,7 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
 
   model.RunState = model.ErrorFlag.value() != 0 ? 0 : 1;
   window.view.resultsShown = true;
-  RedrawTruss(window, session, platform);
+  RecolourTruss(window, session, platform);
 }
 
 }  // namespace lignara

@@ -270,6 +270,20 @@ TEST(FaultScopes, WithoutAScopeNothingIsStoredAndNobodyIsTold) {
   EXPECT_EQ(number.value(), 2.0f);
 }
 
+TEST(FaultScopes, SilentFaultsStoreNothingAndAreNotShown) {
+  RecordingPlatform platform;
+  FaultScope faults(platform);
+  Float32 number = 7;
+  {
+    SilentFaults silence;
+    number = Number(1) / 0;
+    EXPECT_TRUE(platform.messages.empty());
+  }
+  EXPECT_EQ(number.value(), 7.0F);
+  number = Number(1) / 0;
+  EXPECT_EQ(platform.messages.size(), 1u);
+}
+
 TEST(FaultScopes, TheBoxIsPlain) {
   RecordingPlatform platform;
   FaultScope faults(platform);

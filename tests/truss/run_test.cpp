@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tests/support/truss_fixture.h"
+#include "tests/support/opened_truss.h"
 
 namespace lignara {
 namespace {
@@ -171,6 +171,15 @@ TEST(Run, AFaultShowsItsBoxAndTheRunGoesOn) {
   for (const std::string& text : boxes) EXPECT_EQ(text, FaultText(Fault::Overflow));
   EXPECT_EQ(truss.model().RunState.value(), 1);
   EXPECT_FALSE(truss.window.stressRows.empty());
+}
+
+TEST(Run, TellsNoFaultOfThePictureOnceMore) {
+  // 4320 canvas units over 0.1 ft are 43200 a foot, more than 16 bits hold: opening tells so.
+  OpenedTruss truss("PRATT1", 4, 0.1, 1);
+  EXPECT_FALSE(truss.platform.TakeTexts().empty());
+  truss.ChooseMembers(10, 1e6);
+  truss.Run();
+  EXPECT_EQ(truss.platform.TakeTexts(), Texts{});
 }
 
 }  // namespace
