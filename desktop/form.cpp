@@ -50,7 +50,7 @@ QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width) {
 QListWidget* MakeList(const QString& name, int rows) {
   auto* list = new QListWidget;
   list->setAccessibleName(PlainCaption(name));
-  list->addItem("0");  // for its height in the style at hand
+  list->addItem("0");        // for its height in the style at hand
   constexpr int kSlack = 2;  // a scaled screen rounds the rows up
   list->setMinimumHeight(list->sizeHintForRow(0) * rows + 2 * list->frameWidth() + kSlack);
   list->clear();
