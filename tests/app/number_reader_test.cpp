@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <locale>
 #include <random>
-#include <regex>
 #include <sstream>
 #include <string>
 
@@ -113,21 +112,18 @@ TEST(NumberReader, ReadsEveryHundredthBack) {
   }
 }
 
-/// The same by a grammar and the stream reader of the standard library.
-double ReadByGrammar(const std::string& text) {
-  static const std::regex grammar(R"([ \t]*([+-]?(\d+\.?\d*|\.\d+)([eE][+-]?\d+)?))");
-  std::smatch match;
-  if (!std::regex_search(text, match, grammar, std::regex_constants::match_continuous)) return 0.0;
-  std::string number = match[1];
-  if (number.front() == '+') number.erase(0, 1);
-  std::istringstream stream(number);
-  stream.imbue(std::locale::classic());
-  double value = 0.0;
-  stream >> value;
-  return value;
+/// The number of the longest prefix that a stream of the standard library reads to its end.
+double ReadByStream(const std::string& text) {
+  for (std::size_t length = text.size(); length > 0; --length) {
+    std::istringstream stream(text.substr(0, length));
+    stream.imbue(std::locale::classic());
+    double value = 0.0;
+    if (stream >> value && stream.eof()) return value;
+  }
+  return 0.0;
 }
 
-TEST(NumberReader, AgreesWithItsGrammarOnRandomTexts) {
+TEST(NumberReader, AgreesWithStreamsOnRandomTexts) {
   // Two exponent digits at most keep the numbers inside 64 bits.
   const std::string letters = "0123456789..+-eE ,x";
   std::mt19937 random(20240611);
@@ -139,7 +135,7 @@ TEST(NumberReader, AgreesWithItsGrammarOnRandomTexts) {
     for (int left = length(random); left > 0; --left) text += letters[letter(random)];
     const std::size_t mark = text.find_first_of("eE");
     if (mark != std::string::npos) text.resize(std::min(text.size(), mark + 3));
-    const double expected = ReadByGrammar(text);
+    const double expected = ReadByStream(text);
     EXPECT_EQ(ReadNumber(text).value(), expected) << '"' << text << '"';
     numbers += expected != 0.0;
   }
