@@ -8,7 +8,13 @@
 namespace lignara {
 namespace {
 
-constexpr double kLetterWidth = 60;
+/// Height of names, and how much of a panel's width it may be, so that the names of the bottom
+/// chord do not run together.
+constexpr double kLargest = 110;
+constexpr double kSmallest = 45;
+constexpr double kOfPanel = 0.36;
+/// A letter is narrower than this part of its height.
+constexpr double kLetterWidth = 60.0 / 110;
 /// From a circle's centre to the corner of a name that stands aslant of it.
 constexpr double kAslant = 40;
 /// From a circle's centre to a name right above, below or beside it.
@@ -22,33 +28,33 @@ constexpr int kUnreadable = 100;
 constexpr std::size_t kMostMembers = 150;
 
 /// The corners aslant of a circle, in which a name is nearest to it.
-NameBox Aslant(CanvasPoint mark, bool right, bool above, double width) {
-  return {right ? mark.x + kAslant : mark.x - kAslant - width,
-          above ? mark.y - kAslant - kNameHeight : mark.y + kAslant, width, kNameHeight};
+NameBox Aslant(CanvasPoint mark, bool right, bool above, NameSize size) {
+  return {right ? mark.x + kAslant : mark.x - kAslant - size.width,
+          above ? mark.y - kAslant - size.height : mark.y + kAslant, size.width, size.height};
 }
 
 /// Right or left of a circle; `part` of the name's height lies above the circle's centre.
-NameBox Beside(CanvasPoint mark, bool right, double part, double width) {
-  return {right ? mark.x + kBeside : mark.x - kBeside - width, mark.y - part * kNameHeight, width,
-          kNameHeight};
+NameBox Beside(CanvasPoint mark, bool right, double part, NameSize size) {
+  return {right ? mark.x + kBeside : mark.x - kBeside - size.width, mark.y - part * size.height,
+          size.width, size.height};
 }
 
 /// Above or below a circle; `part` of the name's width lies left of the circle's centre.
-NameBox OverOrUnder(CanvasPoint mark, bool over, double part, double width) {
-  return {mark.x - part * width, over ? mark.y - kBeside - kNameHeight : mark.y + kBeside, width,
-          kNameHeight};
+NameBox OverOrUnder(CanvasPoint mark, bool over, double part, NameSize size) {
+  return {mark.x - part * size.width, over ? mark.y - kBeside - size.height : mark.y + kBeside,
+          size.width, size.height};
 }
 
 /// All places around a circle, the nearer ones first.
-std::vector<NameBox> PlacesAround(CanvasPoint mark, double width) {
+std::vector<NameBox> PlacesAround(CanvasPoint mark, NameSize size) {
   std::vector<NameBox> places;
   for (const bool right : {true, false}) {
-    for (const bool above : {false, true}) places.push_back(Aslant(mark, right, above, width));
+    for (const bool above : {false, true}) places.push_back(Aslant(mark, right, above, size));
   }
   for (const double part : {0.5, 0.25, 0.75, 0.0, 1.0}) {
     for (const bool first : {true, false}) {
-      places.push_back(Beside(mark, first, part, width));
-      places.push_back(OverOrUnder(mark, first, part, width));
+      places.push_back(Beside(mark, first, part, size));
+      places.push_back(OverOrUnder(mark, first, part, size));
     }
   }
   return places;
@@ -64,18 +70,18 @@ Run RunOf(const CanvasLine& line) {
 }
 
 /// The place from which the line leads away: outside of a top chord, to the right of a web.
-NameBox Preferred(Family family, Run run, CanvasPoint mark, double width) {
+NameBox Preferred(Family family, Run run, CanvasPoint mark, NameSize size) {
   const bool top = family == Family::TL || family == Family::TR;
-  if (run == Run::Upright) return Beside(mark, true, 0.5, width);
-  if (run == Run::Level) return OverOrUnder(mark, true, 0.5, width);
-  if (run == Run::Falling) return Aslant(mark, true, true, width);
-  return Aslant(mark, !top, top, width);
+  if (run == Run::Upright) return Beside(mark, true, 0.5, size);
+  if (run == Run::Level) return OverOrUnder(mark, true, 0.5, size);
+  if (run == Run::Falling) return Aslant(mark, true, true, size);
+  return Aslant(mark, !top, top, size);
 }
 
-NameBox BottomBox(const CanvasLine& line, double width) {
+NameBox BottomBox(const CanvasLine& line, NameSize size) {
   const CanvasPoint mark = line.Middle();
-  const double shift = RunOf(line) == Run::Falling ? -width : 0.0;
-  return {mark.x + shift, mark.y + kBelow, width, kNameHeight};
+  const double shift = RunOf(line) == Run::Falling ? -size.width : 0.0;
+  return {mark.x + shift, mark.y + kBelow, size.width, size.height};
 }
 
 /// Narrows the part [from, to] of a line to where a coordinate lies between two bounds; false where
@@ -111,28 +117,39 @@ int Halfway(int a, int b) { return static_cast<int>(RoundHalfEven((Number(a) + b
 
 bool IsBottom(Family family) { return family == Family::CL || family == Family::CR; }
 
+double HeightFor(const std::vector<CanvasLine>& lines) {
+  double height = kLargest;
+  for (const CanvasLine& line : lines) {
+    if (IsBottom(line.member.family)) {
+      height = std::min(height, kOfPanel * std::abs(line.to.x - line.from.x));
+    }
+  }
+  return std::max(height, kSmallest);
+}
+
 }  // namespace
 
 CanvasPoint CanvasLine::Middle() const { return {Halfway(from.x, to.x), Halfway(from.y, to.y)}; }
 
-double NameWidth(const std::string& name) {
-  return kLetterWidth * static_cast<double>(name.size());
+NameSize SizeOf(const std::string& name, double height) {
+  return {kLetterWidth * height * static_cast<double>(name.size()), height};
 }
 
-NamePlacer::NamePlacer(const std::vector<CanvasLine>& lines) : lines_(lines) {
+NamePlacer::NamePlacer(const std::vector<CanvasLine>& lines)
+    : lines_(lines), height_(HeightFor(lines)) {
   // The names of the bottom chord have no choice, so the others have to heed them.
   for (const CanvasLine& line : lines_) {
     if (!IsBottom(line.member.family)) continue;
-    taken_.push_back(BottomBox(line, NameWidth(MemberLabel(line.member))));
+    taken_.push_back(BottomBox(line, SizeOf(MemberLabel(line.member), height_)));
   }
 }
 
 NameBox NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name) {
-  const double width = NameWidth(name);
-  if (IsBottom(line.member.family)) return BottomBox(line, width);
+  const NameSize size = SizeOf(name, height_);
+  if (IsBottom(line.member.family)) return BottomBox(line, size);
   const CanvasPoint mark = line.Middle();
-  const NameBox first = Preferred(line.member.family, RunOf(line), mark, width);
-  taken_.push_back(Best(first, PlacesAround(mark, width)));
+  const NameBox first = Preferred(line.member.family, RunOf(line), mark, size);
+  taken_.push_back(Best(first, PlacesAround(mark, size)));
   return taken_.back();
 }
 

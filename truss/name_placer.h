@@ -26,6 +26,11 @@ struct NameBox {
   double x, y, width, height;
 };
 
+/// The room that a name takes at most.
+struct NameSize {
+  double width, height;
+};
+
 /// Finds the places of the names on a drawing: each beside the circle of its member, and clear of
 /// lines, circles and the names before it where there is such a place.
 class NamePlacer {
@@ -36,19 +41,20 @@ class NamePlacer {
   /// always.
   NameBox PlaceMember(const CanvasLine& line, const std::string& name);
 
+  /// Height of the names: that of a line of text, but less where panels are narrow.
+  double height() const { return height_; }
+
  private:
   /// The place with the fewest flaws, the first one if it has none.
   NameBox Best(NameBox first, const std::vector<NameBox>& places) const;
   int Flaws(const NameBox& box) const;
 
   const std::vector<CanvasLine>& lines_;
+  double height_;
   std::vector<NameBox> taken_;
 };
 
-/// Height of the names, in canvas units.
-inline constexpr double kNameHeight = 110;
-
-/// The room that a name takes at most.
-double NameWidth(const std::string& name);
+/// The room of a name at a height of its letters.
+NameSize SizeOf(const std::string& name, double height);
 
 }  // namespace lignara

@@ -25,12 +25,12 @@ struct Offset {
 /// The top left corner of a node's name, counted from the node. Over a level chord it stands one
 /// line above the chord's names and inward of the node, so that it stays on the page; over a rafter
 /// it stands outward, where the rafter falls away.
-Offset NodeNameOffset(NodeSide side, bool level, double width) {
-  const double above = -kBeside - (level ? 2 : 1) * kNameHeight;
-  if (side == NodeSide::Peak) return {-width / 2, above};
+Offset NodeNameOffset(NodeSide side, bool level, NameSize size) {
+  const double above = -kBeside - (level ? 2 : 1) * size.height;
+  if (side == NodeSide::Peak) return {-size.width / 2, above};
   const bool toTheRight = (side == NodeSide::Left) == level;
-  if (level) return {toTheRight ? 0.0 : -width, above};
-  return {toTheRight ? kAslant : -kAslant - width, -kAslant - kNameHeight};
+  if (level) return {toTheRight ? 0.0 : -size.width, above};
+  return {toTheRight ? kAslant : -kAslant - size.width, -kAslant - size.height};
 }
 
 }  // namespace
@@ -38,7 +38,6 @@ Offset NodeNameOffset(NodeSide side, bool level, double width) {
 TrussPainter::TrussPainter(const TrussView& view) : view_(view) {
   drawing_.width = kCanvasWidth;
   drawing_.height = kCanvasHeight;
-  drawing_.textHeight = kNameHeight;
 }
 
 void TrussPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colourOf) {
@@ -49,6 +48,7 @@ void TrussPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colour
     if (from && to) lines.push_back({line.member, *from, *to});
   }
   NamePlacer names(lines);
+  drawing_.textHeight = names.height();
   for (const CanvasLine& line : lines) DrawMember(line, colourOf(line.member), names);
 }
 
@@ -83,7 +83,7 @@ void TrussPainter::DrawNodeName(const FootPoint& node, NodeSide side, bool level
                                 const std::string& name) {
   const auto place = Place(node);
   if (!place) return;
-  const Offset offset = NodeNameOffset(side, level, NameWidth(name));
+  const Offset offset = NodeNameOffset(side, level, SizeOf(name, drawing_.textHeight));
   Text(place->x + offset.x, place->y + offset.y, name);
 }
 

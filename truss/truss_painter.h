@@ -28,7 +28,8 @@ class TrussPainter {
   void DrawMembers(const TrussLayout& layout, const ColourOf& colourOf);
   /// The arrow that points down at a node.
   void DrawArrow(const FootPoint& node);
-  /// The name of a top node, away from the members that meet there. `level`: on a level chord.
+  /// The name of a top node, as high as those of the members drawn before, away from the members
+  /// that meet there. `level`: on a level chord.
   void DrawNodeName(const FootPoint& node, NodeSide side, bool level, const std::string& name);
 
   Marks TakeMarks() { return std::move(marks_); }

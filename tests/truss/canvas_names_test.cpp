@@ -111,7 +111,15 @@ TEST(CanvasNames, OfVeryManyMembersStandWhereTheyAreWanted) {
   ASSERT_EQ(members.size(), 1601u);  // eight families of 200, and the centre vertical
   const DrawnMember& vertical = members.at("VL 100");
   EXPECT_EQ(vertical.name.x, vertical.circle.x + 55);
-  EXPECT_EQ(vertical.name.y, vertical.circle.y - 55);
+  EXPECT_EQ(vertical.name.y, vertical.circle.y - 22.5);  // half of the least height, 45
+}
+
+TEST(CanvasNames, AreSmallerWherePanelsAreNarrow) {
+  // Nine tenths of the 4800 units are the truss, and a name may be 0.36 of a panel high.
+  EXPECT_EQ(Picture("PRATT1", 6).textHeight, 110);            // 0.36 x 4320 / 6 = 259
+  EXPECT_EQ(Picture("PRATT1", 14).textHeight, 110);           // 0.36 x 308 = 111
+  EXPECT_NEAR(Picture("PRATT1", 20).textHeight, 77.76, 0.4);  // 0.36 x 216, to whole units
+  EXPECT_EQ(Picture("PRATT1", 100).textHeight, 45);           // 0.36 x 43 = 16
 }
 
 }  // namespace
