@@ -44,6 +44,9 @@ inline constexpr std::array<const char*, 8> kLoadDurationRows = {
 inline constexpr std::array<const char*, 4> kShearConditionRows = {
     "", "No Split", "Split < 1/2 thru", "Split >= 1/2 thru"};
 
+// The factors follow the adjustment tables of the NDS and its Supplement; where a cell differs from
+// the printed page it is this program's own, and the values are as its users know them.
+
 // Look-up by list row. A row outside of its list gives 1.0, as the blank row does.
 
 /// Size factors for Fb, Ft and Fc along the grain. The tables are those of the western woods, which
@@ -51,8 +54,11 @@ inline constexpr std::array<const char*, 4> kShearConditionRows = {
 /// none.
 std::array<float, 3> SizeFactors(WoodFamily family, int widthRow, int thicknessRow, int gradeRow);
 
+/// By the row of "Load Duration": from permanent load to impact.
 float LoadDurationFactor(int row);
+/// By the row of "Shear Condition": 2.0 without a split, 1.0 with one more than half through.
 float ShearConditionFactor(int row);
+/// By the rows of "Member Width" and "Member Thk.", for bending about the weak axis.
 float FlatUseFactor(int widthRow, int thicknessRow);
 
 /// Of members used in sets that share their load, where repetitive use counts.
