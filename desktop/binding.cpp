@@ -132,9 +132,13 @@ void Binding::Show(Picture* picture, const Drawing* drawing) {
   Follow([picture, drawing] { picture->SetDrawing(*drawing); });
 }
 
-void Binding::Scroll(QScrollBar* bar, RowCommand moved) {
+void Binding::Scroll(QScrollBar* bar, const int* value, RowCommand moved) {
+  Follow([bar, value] {
+    const QSignalBlocker silent(bar);
+    bar->setValue(*value);
+  });
   QObject::connect(bar, &QScrollBar::valueChanged,
-                   [this, moved](int value) { Run([&] { moved(value); }); });
+                   [this, moved](int now) { Run([&] { moved(now); }); });
 }
 
 void Binding::Follow(Command refresh) { refreshers_.push_back(std::move(refresh)); }

@@ -52,7 +52,7 @@ class Binding {
   void Enabled(QWidget* widget, Condition enabled);
   void Enabled(QAction* action, Condition enabled);
   void Show(Picture* picture, const Drawing* drawing);
-  void Scroll(QScrollBar* bar, RowCommand moved);
+  void Scroll(QScrollBar* bar, const int* value, RowCommand moved);
   /// Anything else that has to follow the record.
   void Follow(Command refresh);
 

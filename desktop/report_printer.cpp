@@ -34,12 +34,12 @@ class PagePainter {
   }
 
   void operator()(const ReportLine& line) {
-    if (y_ + lineHeight_ > page_.height()) operator()(NewPage{});
-    double x = zoneWidth_ * static_cast<double>(line.emptyZones);
+    const std::vector<PlacedItem> items = PlaceItems(line);
     double height = lineHeight_;
-    for (const std::string& item : line.items) {
-      height = std::max(height, DrawItem(x, ToQt(item)));
-      x += zoneWidth_ * static_cast<double>(item.size() / kPrintZone + 1);
+    for (const PlacedItem& item : items) height = std::max(height, item.room.height());
+    if (y_ > 0 && y_ + height > page_.height()) operator()(NewPage{});
+    for (const PlacedItem& item : items) {
+      painter_.drawText(item.room.translated(0, y_), kWrapped, item.text);
     }
     y_ += height;
   }
@@ -58,14 +58,24 @@ class PagePainter {
   }
 
  private:
-  /// Draws an item; one that does not fit beside the margin goes on in the lines below. Returns the
-  /// height it took.
-  double DrawItem(double x, const QString& item) {
-    const QRectF room(x, y_, page_.width() - x, page_.height() - y_);
-    QRectF taken;
-    painter_.drawText(room, Qt::TextWordWrap | Qt::AlignTop | Qt::AlignLeft, item, &taken);
-    return taken.height();
+  struct PlacedItem {
+    QString text;
+    QRectF room;
+  };
+
+  /// The items in their zones; one that does not fit beside the margin goes on in lines below.
+  std::vector<PlacedItem> PlaceItems(const ReportLine& line) const {
+    std::vector<PlacedItem> items;
+    double x = zoneWidth_ * static_cast<double>(line.emptyZones);
+    for (const std::string& item : line.items) {
+      const QRectF room(x, 0, page_.width() - x, page_.height());
+      items.push_back({ToQt(item), painter_.boundingRect(room, kWrapped, ToQt(item))});
+      x += zoneWidth_ * static_cast<double>(item.size() / kPrintZone + 1);
+    }
+    return items;
   }
+
+  static constexpr int kWrapped = Qt::TextWordWrap | Qt::AlignTop | Qt::AlignLeft;
 
   QPrinter& printer_;
   QPainter& painter_;

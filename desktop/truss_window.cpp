@@ -145,7 +145,8 @@ QLayout* TrussForm::CanvasFrame() {
   auto* pan = Named("Pan", new QScrollBar(Qt::Horizontal));
   pan->setRange(-kPanSteps, kPanSteps);
   pan->setPageStep(4);
-  binding().Scroll(pan, [this](int value) { PanTruss(record_, session(), platform(), value); });
+  binding().Scroll(pan, &record_.view.panBar,
+                   [this](int value) { PanTruss(record_, session(), platform(), value); });
   grid->addWidget(pan, 1, 0);
   return grid;
 }

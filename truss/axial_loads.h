@@ -22,9 +22,10 @@ void VERT_LOADS_ENGLISH(TrussJob& job);
 void TOP_LOADS_ENGLISH(TrussJob& job);
 void BOTTOM_LOADS_ENGLISH(TrussJob& job);
 
-/// "MOMENT ARM (MA) IS 0" without an arm. In low trusses of many panels a diagonal can stand
-/// upright: the rounded numbers then leave no run to it, the fault is shown, and the slope follows
-/// from the run of the diagonal before.
+/// "MOMENT ARM (MA) IS 0" without an arm. Where the slope is steep or panels are many a
+/// diagonal can stand upright. Rounded numbers may then leave the root of a negative number for its
+/// run, and the run of the diagonal before serves; or a run of 0, and its slope stays 0. The fault
+/// is shown either way.
 void DIAG_LOADS_FINK(TrussJob& job);
 /// "MOMENT ARM (ML) IS 0" or "ML(N)=0,ERROR" without an arm.
 void VERT_LOADS_FINK(TrussJob& job);

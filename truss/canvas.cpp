@@ -64,6 +64,7 @@ void Zoom(TrussWindow& window, const SessionState& session, Platform& platform, 
 
 void ResetView(TrussView& view, const SessionState& session) {
   view.ZoomFactor = 1.0;
+  view.panBar = 0;
   view.markedRow = -1;
   SetScales(view, session);
   view.CanvasOriginX = view.PixelsPerFootX;
@@ -83,7 +84,7 @@ void RecolourTruss(TrussWindow& window, const SessionState& session, Platform& p
 Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
   const TrussShape shape = ShapeOf(window.model, session);
   TrussPainter painter(window.view);
-  // Builders of Howe trusses number the centre post as the one of its family.
+  // On paper the post of a Howe truss is numbered like the members beside it.
   painter.centreName = shape.type == "HOWE" ? "CV1" : "CV";
   painter.DrawMembers(LayoutOf(shape), [](const Member&) { return Colour::Black; });
   const bool level = HasLevelTop(shape.type);
@@ -103,6 +104,7 @@ void ReduceTruss(TrussWindow& window, const SessionState& session, Platform& pla
 
 void PanTruss(TrussWindow& window, const SessionState& session, Platform& platform, int barValue) {
   FaultScope faults(platform);
+  window.view.panBar = barValue;
   window.view.CanvasOriginX = Number(barValue) * kBarStep;
   window.view.markedRow = -1;
   RedrawTruss(window, session, platform);

@@ -118,7 +118,7 @@ Signs HoweSigns() {
                      Sign(kCompression, Family::DL, Family::DR), CentreInCompression()});
 }
 
-/// Lines of these types are worded a little differently, as users of the printed lists know them.
+/// A few lines are worded a little differently; whoever compares lists by machine counts on that.
 std::vector<StressWording> SpacedTop() { return {{Family::TL, "Actual Stress  = ", " psi"}}; }
 
 std::vector<StressWording> KingPostWordings() {

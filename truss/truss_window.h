@@ -28,6 +28,7 @@ struct TrussView {
   Int16 PixelsPerFootX, PixelsPerFootY;  ///< canvas units a foot
   Int16 CanvasOriginX, CanvasOriginY;    ///< left end of the bottom chord
   std::map<std::pair<Family, int>, MarkPoint> MemberMark;
+  int panBar = 0;             ///< value of the horizontal scroll bar
   int markedRow = -1;         ///< row of the node list whose node bears the arrow, -1 none
   bool resultsShown = false;  ///< members are coloured by tension and compression
   Drawing drawing;            ///< what the canvas shows
