@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
@@ -92,17 +90,8 @@ TEST_F(LumberWindowsTest, SmallestWindowsFitASmallScreen) {
 }
 
 TEST_F(LumberWindowsTest, NoCaptionIsCutOff) {
-  for (ToolWindow* window : {OpenFactors(), desktop.Window("WTYPETR")}) {
-    for (const QWidget* widget : window->findChildren<QWidget*>()) {
-      const auto* label = qobject_cast<const QLabel*>(widget);
-      const bool caption = (label != nullptr && !label->wordWrap()) ||
-                           qobject_cast<const QAbstractButton*>(widget) != nullptr;
-      if (!caption || !widget->isVisible() || CaptionOf(widget).isEmpty()) continue;
-      const QSize text = widget->fontMetrics().size(Qt::TextShowMnemonic, CaptionOf(widget));
-      EXPECT_GE(widget->width(), text.width()) << FromQt(CaptionOf(widget));
-      EXPECT_GE(widget->height(), text.height()) << FromQt(CaptionOf(widget));
-    }
-  }
+  ExpectNoCaptionCutOff(OpenFactors());
+  ExpectNoCaptionCutOff(desktop.Window("WTYPETR"));
 }
 
 TEST_F(LumberWindowsTest, BoxesOfTheGroupsStandInLine) {

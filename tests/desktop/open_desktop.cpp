@@ -6,12 +6,14 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
 #include <stdexcept>
 
 #include "desktop/picture.h"
+#include "desktop/text.h"
 
 namespace lignara {
 namespace {
@@ -88,6 +90,19 @@ std::vector<QWidget*> VisibleControls(ToolWindow* window) {
     if (IsControl(widget) && !IsPartOfAList(widget)) controls.push_back(widget);
   }
   return controls;
+}
+
+void ExpectNoCaptionCutOff(const ToolWindow* window) {
+  for (const QWidget* widget : window->findChildren<QWidget*>()) {
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    const bool caption = (label != nullptr && !label->wordWrap()) ||
+                         qobject_cast<const QAbstractButton*>(widget) != nullptr;
+    if (!caption || !widget->isVisible() || CaptionOf(widget).isEmpty()) continue;
+    const QSize text = widget->fontMetrics().size(Qt::TextShowMnemonic, CaptionOf(widget));
+    const std::string name = FromQt(window->name()) + ": " + FromQt(CaptionOf(widget));
+    EXPECT_GE(widget->width(), text.width()) << name;
+    EXPECT_GE(widget->height(), text.height()) << name;
+  }
 }
 
 }  // namespace lignara

@@ -45,6 +45,9 @@ class OpenDesktop {
 /// The controls of a window that a user can see and use: buttons, fields, lists, pictures, bars.
 std::vector<QWidget*> VisibleControls(ToolWindow* window);
 
+/// Fails the test for each label and button of a window that has less room than its caption needs.
+void ExpectNoCaptionCutOff(const ToolWindow* window);
+
 /// Lines that open a truss window with all its panels.
 extern const std::initializer_list<const char*> kOpenAllTrussPanels;
 

@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QGroupBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QScreen>
 
@@ -69,17 +67,7 @@ TEST_F(WindowLayoutTest, NoCaptionIsCutOffInTheSmallestWindow) {
   ForEachWindow([](ToolWindow* window) {
     window->resize(window->minimumSizeHint());
     QApplication::processEvents();
-    for (const QWidget* widget : window->findChildren<QWidget*>()) {
-      const auto* label = qobject_cast<const QLabel*>(widget);
-      const bool caption = (label != nullptr && !label->wordWrap()) ||
-                           qobject_cast<const QAbstractButton*>(widget) != nullptr;
-      if (!caption || !widget->isVisible() || CaptionOf(widget).isEmpty()) continue;
-      const QSize text = widget->fontMetrics().size(Qt::TextShowMnemonic, CaptionOf(widget));
-      EXPECT_GE(widget->width(), text.width())
-          << FromQt(window->name()) << ": " << FromQt(CaptionOf(widget));
-      EXPECT_GE(widget->height(), text.height())
-          << FromQt(window->name()) << ": " << FromQt(CaptionOf(widget));
-    }
+    ExpectNoCaptionCutOff(window);
   });
 }
 
