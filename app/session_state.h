@@ -12,6 +12,14 @@ struct ReportFontChoice {
   Int16 Size;  ///< points
 };
 
+/// What stands at the head of the beam reports. All texts are blank until the user enters them.
+struct ProjectHeader {
+  std::string Title;   ///< first title line
+  std::string Title2;  ///< second title line
+  std::string Engineer;
+  std::string Date;
+};
+
 /// The one record that outlives windows. All windows read and write it directly; nothing of it is
 /// stored between runs of the program.
 struct SessionState {
@@ -30,6 +38,7 @@ struct SessionState {
 
   std::string ReportTitle;
   std::string ReportDescription;
+  ProjectHeader Header;  ///< of the beam reports
 
   std::string LastWoodTypes;  ///< of the species file last read
   std::string LastGrade;      ///< the grade last picked

@@ -6,6 +6,7 @@
 
 #include "app/fault.h"
 #include "app/number_text.h"
+#include "app/project_header.h"
 #include "app/report_file.h"
 #include "truss/canvas.h"
 #include "truss/top_nodes.h"
@@ -191,8 +192,7 @@ void AcceptHeadings(TrussWindow& window, SessionState& session) {
 void OpenFonts(TrussWindow& window) { window.fontsOpen = true; }
 
 void AcceptFonts(TrussWindow& window, SessionState& session) {
-  session.ReportFont.Name = window.fontTimes ? "Times New Roman" : "Arial";
-  session.ReportFont.Size = window.fontTen ? 10 : 8;
+  ChooseReportFont(session, window.fontTimes, window.fontTen);
   window.fontsOpen = false;
 }
 
