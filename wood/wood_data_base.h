@@ -4,22 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "app/list_rows.h"
 #include "app/platform.h"
 #include "app/session_state.h"
 #include "wood/adjustment_tables.h"
 #include "wood/species_data.h"
 
 namespace lignara {
-
-/// The rows of a list and the chosen one.
-struct ListRows {
-  std::vector<std::string> rows;
-  int row = -1;  ///< -1 none
-
-  bool Has(int index) const { return index >= 0 && index < static_cast<int>(rows.size()); }
-  /// The text of the chosen row; empty where none is chosen.
-  std::string Chosen() const { return Has(row) ? rows[static_cast<std::size_t>(row)] : ""; }
-};
 
 /// "Final Selection": the grade at hand. Its values live as text, so that the decimals shown are
 /// what goes on.
