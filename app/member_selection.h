@@ -41,6 +41,7 @@ struct MemberSelection {
   Float32 SectionSx = 1.0;    ///< in^3
   Float32 SectionSy = 1.0;    ///< in^3
   Float32 BeamDepthOverB2;    ///< D / B^2, 1/in
+  Float32 UnbracedLength;     ///< as the glulam data base or a beam window left it, ft
   std::string SizeName = "CUSTOM";
   Float32 AllowFb = 1.0;         ///< bending, psi
   Float32 AllowFc = 1.0;         ///< compression along the grain, psi

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "app/glulam_combination_table.h"
+#include "app/glulam_transfer.h"
 #include "app/member_selection.h"
 #include "app/stored_number.h"
 
@@ -45,6 +47,8 @@ struct SessionState {
   Int16 unitSystem;           ///< 0 English, 1 metric; nothing sets it
 
   MemberSelection Member;
+  GlulamTransfer Glulam;                      ///< as handed over last
+  GlulamCombinationTable GlulamCombinations;  ///< as loaded last
 };
 
 }  // namespace lignara
