@@ -88,7 +88,8 @@ headline "Coverage of the core"
 if build coverage; then
   find build/coverage -name '*.gcda' -delete
   run_tests build/coverage
-  gcovr --root . --object-directory build/coverage --filter app/ --filter truss/ --filter wood/ \
+  mapfile -t filters < <(sed 's|.*|--filter=&/|' core_folders.txt)
+  gcovr --root . --object-directory build/coverage "${filters[@]}" \
     --print-summary --output build/coverage/summary.txt || count 1
 else
   count 1

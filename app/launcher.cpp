@@ -6,6 +6,7 @@
 #include "app/data_directory.h"
 #include "app/fault.h"
 #include "app/number_text.h"
+#include "app/window_names.h"
 
 namespace lignara {
 
@@ -17,12 +18,12 @@ void StartSession(SessionState& session, const std::string& currentDirectory) {
 }
 
 void StartTruss(const std::string& trussType, SessionState& session, Platform& platform) {
-  platform.CloseWindow("TRUSS");
+  platform.CloseWindow(window_name::kTruss);
   // An input window still open belongs to the type pressed before.
-  platform.CloseWindow("TR_INPUT");
+  platform.CloseWindow(window_name::kTrussInput);
   session.TrussType = trussType;
   session.DesignMode = "TRUSS";
-  platform.OpenWindow("TR_INPUT");
+  platform.OpenWindow(window_name::kTrussInput);
 }
 
 void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Platform& platform) {
@@ -30,7 +31,7 @@ void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Pla
   session.SpanCount = ReadNumber(window.spanText);
   session.DesignMode = "BEAM";
   if (session.SpanCount > 1) {
-    platform.OpenWindow("MS");
+    platform.OpenWindow(window_name::kMultiSpan);
   } else {
     platform.ShowMessage({"You must enter at least 2 spans"});
   }
@@ -43,13 +44,13 @@ bool AcceptsSpanCount(const LauncherWindow& window) {
 
 void StartSingleSpanBeam(SessionState& session, Platform& platform) {
   session.DesignMode = "BEAM";
-  platform.OpenWindow("MLSP");
+  platform.OpenWindow(window_name::kBeam);
 }
 
 void ChooseDesignMode(const std::string& mode, SessionState& session, Platform& platform) {
   session.DesignMode = mode;
-  platform.CloseWindow("QUESTION");
-  platform.OpenWindow("WTYPETR");
+  platform.CloseWindow(window_name::kQuestion);
+  platform.OpenWindow(window_name::kMemberSize);
 }
 
 void ShowHelp(const std::string& windowName, const SessionState& session, Platform& platform) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "app/platform.h"
@@ -41,10 +40,5 @@ void ShowHelp(const std::string& windowName, const SessionState& session, Platfo
 
 /// Closes the windows that stand before the launcher, in the order of the program's exit.
 void CloseAllWindows(Platform& platform);
-
-/// The order in which the windows close at exit. Windows missing here are closed by their parents.
-inline constexpr std::array<const char*, 12> kExitOrder = {
-    "QUESTION", "TR_INPUT", "wdb",      "WTYPETR", "MLSP", "ABOUT",
-    "TRUSS",    "MS",       "MDOUTPUT", "ply",     "GL",   "FASTENER"};
 
 }  // namespace lignara

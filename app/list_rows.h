@@ -16,4 +16,8 @@ struct ListRows {
   std::string Chosen() const { return Has(row) ? rows[static_cast<std::size_t>(row)] : ""; }
 };
 
+/// A list as the program's result lists begin: a blank first row, so that nothing is chosen by the
+/// row that is on top.
+inline std::vector<std::string> RowsBelowBlank() { return {""}; }
+
 }  // namespace lignara

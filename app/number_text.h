@@ -13,6 +13,9 @@ namespace lignara {
 /// number too large for 64 bits is an overflow fault; one too small is 0.
 Number ReadNumber(std::string_view text);
 
+/// The pattern of most values: two decimals.
+inline constexpr const char* kTwoDecimals = "0.00";
+
 /// The number in a display pattern such as "0", "0.00", "##0.##" or "0.00E+00".
 ///
 /// The decimal value of the stored number (7 significant digits of a 32-bit number, 15 of a 64-bit

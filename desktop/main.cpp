@@ -3,8 +3,9 @@
 
 #include "app/fault.h"
 #include "app/launcher.h"
-#include "desktop/desktop_platform.h"
-#include "desktop/text.h"
+#include "app/window_names.h"
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/text.h"
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
@@ -13,6 +14,6 @@ int main(int argc, char* argv[]) {
   lignara::DesktopPlatform platform(session);
   lignara::FaultScope faults(platform);
   lignara::StartSession(session, lignara::FromQt(QDir::currentPath()));
-  platform.OpenWindow("main");
+  platform.OpenWindow(lignara::window_name::kLauncher);
   return QApplication::exec();
 }

@@ -1,22 +1,22 @@
-#include "desktop/window_table.h"
-
 #include <algorithm>
 #include <array>
 
+#include "app/window_names.h"
+#include "desktop/kit/window_kind.h"
 #include "desktop/windows.h"
 
 namespace lignara {
 namespace {
 
 constexpr std::array kWindows = {
-    WindowKind{"main", false, MakeLauncherWindow},
-    WindowKind{"QUESTION", false, MakeQuestionWindow},
-    WindowKind{"ABOUT", true, MakeAboutWindow},
-    WindowKind{"HELP", false, MakeHelpWindow},
-    WindowKind{"TR_INPUT", false, MakeTrussInputWindow},
-    WindowKind{"TRUSS", false, MakeTrussWindow},
-    WindowKind{"WTYPETR", true, MakeMemberSizeWindow},
-    WindowKind{"wdb", true, MakeWoodDataBaseWindow},
+    WindowKind{window_name::kLauncher, false, MakeLauncherWindow},
+    WindowKind{window_name::kQuestion, false, MakeQuestionWindow},
+    WindowKind{window_name::kAbout, true, MakeAboutWindow},
+    WindowKind{window_name::kHelp, false, MakeHelpWindow},
+    WindowKind{window_name::kTrussInput, false, MakeTrussInputWindow},
+    WindowKind{window_name::kTruss, false, MakeTrussWindow},
+    WindowKind{window_name::kMemberSize, true, MakeMemberSizeWindow},
+    WindowKind{window_name::kWoodDataBase, true, MakeWoodDataBaseWindow},
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/tool_window.h"
+#include "desktop/kit/tool_window.h"
 
 namespace lignara {
 

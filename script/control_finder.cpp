@@ -9,7 +9,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 #include "script/script_error.h"
 #include "script/script_line.h"
 

@@ -7,7 +7,8 @@
 
 #include "app/fault.h"
 #include "app/launcher.h"
-#include "desktop/text.h"
+#include "app/window_names.h"
+#include "desktop/kit/text.h"
 #include "script/script_error.h"
 #include "script/script_platform.h"
 #include "script/script_player.h"
@@ -78,7 +79,7 @@ int Run(std::istream& lines, const QString& name) {
   ScriptPlatform platform(session, Print);
   const FaultScope faults(platform);
   StartSession(session, FromQt(QDir::currentPath()));
-  platform.OpenWindow("main");
+  platform.OpenWindow(window_name::kLauncher);
   QApplication::processEvents();
   ScriptPlayer player(platform, Print);
   return PlayScript(lines, name, player);

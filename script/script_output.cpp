@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 #include "script/script_line.h"
 
 namespace lignara {

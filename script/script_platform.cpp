@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/report.h"
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 #include "script/script_line.h"
 
 namespace lignara {

@@ -4,7 +4,7 @@
 #include <deque>
 #include <optional>
 
-#include "desktop/desktop_platform.h"
+#include "desktop/kit/desktop_platform.h"
 #include "script/script_output.h"
 
 namespace lignara {

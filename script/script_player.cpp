@@ -12,10 +12,10 @@
 #include <QTableWidget>
 #include <algorithm>
 
-#include "desktop/binding.h"
-#include "desktop/picture.h"
-#include "desktop/picture_button.h"
-#include "desktop/tool_window.h"
+#include "desktop/kit/binding.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_button.h"
+#include "desktop/kit/tool_window.h"
 #include "script/script_error.h"
 #include "script/script_platform.h"
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <vector>
 
+#include "app/window_names.h"
 #include "script/control_finder.h"
 #include "script/script_line.h"
 #include "script/script_output.h"
@@ -60,7 +61,7 @@ class ScriptPlayer {
 
   ScriptPlatform& platform_;
   ScriptOutput output_;
-  QString window_ = "main";
+  QString window_ = window_name::kLauncher;
 };
 
 }  // namespace lignara

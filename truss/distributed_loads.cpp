@@ -1,6 +1,6 @@
 #include "app/fault.h"
+#include "app/field_number.h"
 #include "app/number_text.h"
-#include "truss/field_number.h"
 #include "truss/top_nodes.h"
 #include "truss/truss_window.h"
 

@@ -39,7 +39,7 @@ void HitTruss(TrussWindow& window, const SessionState& session, double x, double
     window.hitMember = MemberLabel(*hit);
   }
   const Float32 shown = Abs(window.heldLoad);
-  window.hitLoad = FormatNumber(shown, "0.00");
+  window.hitLoad = FormatNumber(shown, kTwoDecimals);
 }
 
 bool IsOverMember(const TrussWindow& window, const SessionState& session, double x, double y) {

@@ -2,9 +2,10 @@
 #include <optional>
 
 #include "app/fault.h"
+#include "app/field_number.h"
+#include "app/list_rows.h"
 #include "app/number_text.h"
 #include "truss/canvas.h"
-#include "truss/field_number.h"
 #include "truss/top_nodes.h"
 
 namespace lignara {
@@ -42,10 +43,10 @@ TopNodeRange AllRange(const TrussWindow& window, const SessionState& session) {
 }  // namespace
 
 void SHOW_NODE_LOADS(TrussWindow& window, const SessionState& session) {
-  window.nodeRows.assign(1, "");
+  window.nodeRows = RowsBelowBlank();
   for (const TopNode& node : RowNodes(window, session)) {
     window.nodeRows.push_back(LoadLabel(node, session.TrussType) + " = " +
-                              FormatNumber(NodeLoad(window.model, node), "0.00"));
+                              FormatNumber(NodeLoad(window.model, node), kTwoDecimals));
   }
 }
 

@@ -1,6 +1,8 @@
 #include "truss/results.h"
 
+#include "app/list_rows.h"
 #include "app/number_text.h"
+#include "app/window_names.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -12,10 +14,10 @@ using ArrayOf = const Float32Array& (*)(const ActiveModel& model, Family family)
 std::vector<std::string> MemberRows(const TrussWindow& window, const SessionState& session,
                                     ArrayOf arrayOf) {
   const TrussTypeInfo& type = TrussTypeOf(session.TrussType);
-  std::vector<std::string> rows = {""};
+  std::vector<std::string> rows = RowsBelowBlank();
   for (const Member& member : MembersOf(type.axialRows, HalfSpans(session))) {
     const Float32 value = Abs(arrayOf(window.model, member.family)[member.index]);
-    rows.push_back(RowLabel(member) + " = " + FormatNumber(value, "0.00"));
+    rows.push_back(RowLabel(member) + " = " + FormatNumber(value, kTwoDecimals));
   }
   return rows;
 }
@@ -23,8 +25,8 @@ std::vector<std::string> MemberRows(const TrussWindow& window, const SessionStat
 }  // namespace
 
 void SHOW_REACTIONS(TrussWindow& window) {
-  window.leftReaction = FormatNumber(window.model.NODE_RL, "0.00");
-  window.rightReaction = FormatNumber(window.model.NODE_RR, "0.00");
+  window.leftReaction = FormatNumber(window.model.NODE_RL, kTwoDecimals);
+  window.rightReaction = FormatNumber(window.model.NODE_RR, kTwoDecimals);
 }
 
 void SHOW_AXIAL(TrussWindow& window, const SessionState& session) {
@@ -45,7 +47,7 @@ void CloseMemberLengths(TrussWindow& window) { window.lengthsOpen = false; }
 
 void OpenWoodType(SessionState& session, Platform& platform) {
   session.DesignMode = "TRUSS";
-  platform.OpenWindow("WTYPETR");
+  platform.OpenWindow(window_name::kMemberSize);
 }
 
 }  // namespace lignara

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/list_rows.h"
 #include "app/number_text.h"
 #include "truss/truss_types.h"
 
@@ -29,12 +30,13 @@ std::string ActualLine(const TrussTypeInfo& type, const Member& member, const Fl
   for (const StressWording& wording : type.stressWordings) {
     if (wording.family == member.family) words = wording;
   }
-  return words.before + FormatNumber(stress, "0.00") + words.after;
+  return words.before + FormatNumber(stress, kTwoDecimals) + words.after;
 }
 
 std::string AllowableLine(const ActiveModel& m) {
   const bool tension = m.MemberFt <= m.MemberFa;
-  return "Allowable axial stress = " + FormatNumber(tension ? m.MemberFt : m.MemberFa, "0.00") +
+  return "Allowable axial stress = " +
+         FormatNumber(tension ? m.MemberFt : m.MemberFa, kTwoDecimals) +
          " psi with full lateral bracing" + (tension ? "." : "");
 }
 
@@ -47,8 +49,8 @@ void CheckMember(TrussJob& job, const TrussTypeInfo& type, const Member& member,
   rows.push_back(StressLabel(member));
   rows.push_back(ActualLine(type, member, actual));
   rows.push_back(AllowableLine(m));
-  rows.push_back("Assumes min. lateral bracing of " + FormatNumber(m.MinBracingLength, "0.00") +
-                 " ft");
+  rows.push_back("Assumes min. lateral bracing of " +
+                 FormatNumber(m.MinBracingLength, kTwoDecimals) + " ft");
 }
 
 }  // namespace
@@ -68,7 +70,7 @@ bool HasAreas(const MemberSelection& selection) {
 
 void CheckStresses(TrussJob& job, std::vector<std::string>& rows) {
   const TrussTypeInfo& type = TrussTypeOf(job.session.TrussType);
-  rows = {""};
+  rows = RowsBelowBlank();
   for (const Member& member : MembersOf(type.checkedMembers, job.HalfSpans())) {
     CheckMember(job, type, member, rows);
   }

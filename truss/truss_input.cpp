@@ -4,6 +4,7 @@
 
 #include "app/fault.h"
 #include "app/number_text.h"
+#include "app/window_names.h"
 #include "truss/sketches.h"
 #include "truss/truss_types.h"
 
@@ -97,13 +98,13 @@ void AcceptTrussInput(TrussInputWindow& window, SessionState& session, Platform&
     session.TrussHeight = 0;
     return;
   }
-  platform.CloseWindow("TR_INPUT");
-  platform.OpenWindow("TRUSS");
+  platform.CloseWindow(window_name::kTrussInput);
+  platform.OpenWindow(window_name::kTruss);
 }
 
 void CancelTrussInput(SessionState& session, Platform& platform) {
   session.TrussType = "";
-  platform.CloseWindow("TR_INPUT");
+  platform.CloseWindow(window_name::kTrussInput);
 }
 
 void OpenSlopeCalculator(TrussInputWindow& window, Platform& platform) {

@@ -2,14 +2,9 @@
 
 #include "app/fault.h"
 #include "app/number_text.h"
+#include "app/section.h"
 
 namespace lignara {
-namespace {
-
-constexpr const char* kTwoDecimals = "0.00";
-
-}  // namespace
-
 void FollowGroupSize(MemberSizeWindow& window, SessionState& session, MemberGroup group) {
   if (window.sizeInProgress) return;
   GroupPanel& panel = window.Group(group);

@@ -25,10 +25,4 @@ DressedWidth FindDressedWidth(int width, int depth);
 /// size.
 float FindDressedDepth(int depth, int width);
 
-/// Moment of inertia of a rectangle about the axis along its width, in^4; both sides in inches.
-/// The other axis is had by exchanging the two.
-inline Number RectangleInertia(Number width, Number depth) {
-  return depth * depth * depth * width / 12;
-}
-
 }  // namespace lignara

@@ -6,8 +6,6 @@
 namespace lignara {
 namespace {
 
-constexpr const char* kTwoDecimals = "0.00";
-
 template <typename Rows>
 ListRows FilledList(const Rows& rows) {
   return {{rows.begin(), rows.end()}, -1};

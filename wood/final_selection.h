@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/number_text.h"
 #include "wood/wood_data_base.h"
 
 namespace lignara {
@@ -12,11 +13,11 @@ struct BaseStressBox {
 };
 
 inline constexpr BaseStressBox kBaseStressBoxes[] = {
-    {&BaseStressRecord::Fb, &FinalSelection::fb, "0.00"},
-    {&BaseStressRecord::Ft, &FinalSelection::ft, "0.00"},
-    {&BaseStressRecord::Fv, &FinalSelection::fv, "0.00"},
-    {&BaseStressRecord::FcPerp, &FinalSelection::fcPerp, "0.00"},
-    {&BaseStressRecord::FcPar, &FinalSelection::fcPar, "0.00"},
+    {&BaseStressRecord::Fb, &FinalSelection::fb, kTwoDecimals},
+    {&BaseStressRecord::Ft, &FinalSelection::ft, kTwoDecimals},
+    {&BaseStressRecord::Fv, &FinalSelection::fv, kTwoDecimals},
+    {&BaseStressRecord::FcPerp, &FinalSelection::fcPerp, kTwoDecimals},
+    {&BaseStressRecord::FcPar, &FinalSelection::fcPar, kTwoDecimals},
     {&BaseStressRecord::E, &FinalSelection::e, "0"},
 };
 

@@ -2,12 +2,12 @@
 
 #include "app/fault.h"
 #include "app/number_text.h"
+#include "app/window_names.h"
 #include "wood/custom_size.h"
 
 namespace lignara {
 namespace {
 
-constexpr const char* kTwoDecimals = "0.00";
 constexpr const char* kThreeDigits = "0.00E+00";
 
 /// A field of a member group and the box that shows it.
@@ -134,7 +134,7 @@ void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Pla
 
 void VisitWoodDataBase(SessionState& session, Platform& platform) {
   session.Member.DataBaseReturn = -1;
-  platform.OpenWindow("wdb");
+  platform.OpenWindow(window_name::kWoodDataBase);
 }
 
 void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform) {
@@ -145,14 +145,14 @@ void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform&
   if (session.DesignMode == "BEAM") ReadBeam(window, member);
   if (session.DesignMode == "TRUSS") ReadGroups(window, member);
   member.DataBaseReturn = 0;
-  platform.CloseWindow("WTYPETR");
+  platform.CloseWindow(window_name::kMemberSize);
 }
 
 void CancelMemberSize(SessionState& session, Platform& platform) {
   session.Member.DataBaseReturn = 0;
-  platform.CloseWindow("WTYPETR");
+  platform.CloseWindow(window_name::kMemberSize);
 }
 
-void ExitMemberSize(Platform& platform) { platform.CloseWindow("WTYPETR"); }
+void ExitMemberSize(Platform& platform) { platform.CloseWindow(window_name::kMemberSize); }
 
 }  // namespace lignara

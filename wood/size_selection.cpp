@@ -7,8 +7,6 @@
 namespace lignara {
 namespace {
 
-constexpr const char* kTwoDecimals = "0.00";
-
 /// The nominal size of a picked button in inches, 0 for none.
 int PickedSize(int pick) {
   const bool picked = pick >= 0 && pick < static_cast<int>(kNominalSizes.size());

@@ -2,6 +2,7 @@
 
 #include "app/fault.h"
 #include "app/number_text.h"
+#include "app/window_names.h"
 #include "wood/final_selection.h"
 
 namespace lignara {
@@ -16,7 +17,7 @@ const char* IndexFile(WoodFamily family) {
 
 void Close(WoodDataBaseWindow& window, Platform& platform) {
   window.woodTypes.clear();
-  platform.CloseWindow("wdb");
+  platform.CloseWindow(window_name::kWoodDataBase);
 }
 
 }  // namespace

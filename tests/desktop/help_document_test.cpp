@@ -7,8 +7,8 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
-#include "desktop/text.h"
-#include "desktop/window_table.h"
+#include "desktop/kit/text.h"
+#include "desktop/kit/window_kind.h"
 
 namespace lignara {
 namespace {

@@ -8,7 +8,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {

@@ -19,9 +19,9 @@
 
 #include "app/fault.h"
 #include "app/launcher.h"
-#include "desktop/picture.h"
-#include "desktop/text.h"
-#include "desktop/tool_window.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/text.h"
+#include "desktop/kit/tool_window.h"
 #include "script/script_platform.h"
 
 namespace lignara {

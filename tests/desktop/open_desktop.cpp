@@ -12,8 +12,8 @@
 #include <QScrollBar>
 #include <stdexcept>
 
-#include "desktop/picture.h"
-#include "desktop/text.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/text.h"
 
 namespace lignara {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "app/fault.h"
 #include "app/launcher.h"
-#include "desktop/tool_window.h"
+#include "desktop/kit/tool_window.h"
 #include "script/control_finder.h"
 #include "script/script_platform.h"
 #include "script/script_player.h"

@@ -8,8 +8,8 @@
 #include <QListWidget>
 #include <QScreen>
 
-#include "desktop/picture.h"
-#include "desktop/text.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {

@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 
 namespace lignara {
 namespace {

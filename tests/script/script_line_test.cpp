@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 #include "script/script_error.h"
 
 namespace lignara {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/text.h"
+#include "desktop/kit/text.h"
 #include "script/script_error.h"
 #include "tests/desktop/open_desktop.h"
 

@@ -1,0 +1,156 @@
+#include "desktop/kit/binding.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include "desktop/kit/picture.h"
+#include "desktop/kit/text.h"
+
+namespace lignara {
+namespace {
+
+/// Calls back after the left mouse button was released over a widget, wherever it was pressed.
+class ReleaseWatcher : public QObject {
+ public:
+  ReleaseWatcher(QWidget* watched, Binding::Command released)
+      : QObject(watched), released_(std::move(released)) {
+    watched->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    const bool release = event->type() == QEvent::MouseButtonRelease &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (release) released_();
+    return false;
+  }
+
+ private:
+  Binding::Command released_;
+};
+
+}  // namespace
+
+int ChosenRow(const QListWidget* list) {
+  const QListWidgetItem* item = list->currentItem();
+  return item != nullptr && item->isSelected() ? list->currentRow() : -1;
+}
+
+void Binding::Field(QLineEdit* field, std::string* text, Command typed) {
+  QObject::connect(field, &QLineEdit::textEdited, [this, text, typed](const QString& now) {
+    Run([&] {
+      *text = FromQt(now);
+      if (typed) typed();
+    });
+  });
+  Text(field, text);
+}
+
+void Binding::Text(QLineEdit* field, const std::string* text) {
+  Follow([field, text] {
+    if (field->text() != ToQt(*text)) field->setText(ToQt(*text));
+  });
+}
+
+void Binding::Text(QLabel* label, const std::string* text) {
+  Follow([label, text] {
+    if (label->text() != ToQt(*text)) label->setText(ToQt(*text));
+  });
+}
+
+void Binding::List(QListWidget* list, const std::vector<std::string>* rows, const int* row,
+                   RowCommand chosen) {
+  list->setUniformItemSizes(true);
+  Follow([list, rows, row, shown = std::vector<std::string>()]() mutable {
+    const QSignalBlocker silent(list);
+    if (shown != *rows || list->count() != static_cast<int>(rows->size())) {
+      const int scrolled = list->verticalScrollBar()->value();
+      list->clear();
+      for (const std::string& text : *rows) list->addItem(ToQt(text));
+      list->verticalScrollBar()->setValue(scrolled);
+      shown = *rows;
+    }
+    if (row != nullptr && ChosenRow(list) != *row) list->setCurrentRow(*row);
+  });
+  if (!chosen) return;
+  const auto choose = [this, chosen](int at) {
+    if (at >= 0) Run([&] { chosen(at); });
+  };
+  // The mouse may be dragged over rows: the one under it when the button is released counts. A list
+  // that only gets the focus moves its current row too, but chooses none.
+  QObject::connect(list, &QListWidget::currentRowChanged, [list, choose](int at) {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton && ChosenRow(list) == at) choose(at);
+  });
+  new ReleaseWatcher(list->viewport(), [list, choose] { choose(ChosenRow(list)); });
+}
+
+void Binding::Press(QAbstractButton* button, Command command) {
+  QObject::connect(button, &QAbstractButton::clicked, [this, command] { Run(command); });
+}
+
+void Binding::Menu(QAction* action, Command command) {
+  QObject::connect(action, &QAction::triggered, [this, command] { Run(command); });
+}
+
+void Binding::Check(QAbstractButton* button, bool* checked, Command changed) {
+  button->setCheckable(true);
+  QObject::connect(button, &QAbstractButton::clicked, [this, checked, changed](bool now) {
+    Run([&] {
+      *checked = now;
+      if (changed) changed();
+    });
+  });
+  Follow([button, checked] { button->setChecked(*checked); });
+}
+
+void Binding::Shown(QWidget* panel, const bool* shown) {
+  Shown(panel, [shown] { return *shown; });
+}
+
+void Binding::Shown(QWidget* panel, Condition shown) {
+  Follow([panel, shown] {
+    const bool was = !panel->isHidden();
+    if (was != shown()) panel->setVisible(!was);
+  });
+}
+
+void Binding::Enabled(QWidget* widget, Condition enabled) {
+  Follow([widget, enabled] { widget->setEnabled(enabled()); });
+}
+
+void Binding::Enabled(QAction* action, Condition enabled) {
+  Follow([action, enabled] { action->setEnabled(enabled()); });
+}
+
+void Binding::Show(Picture* picture, const Drawing* drawing) {
+  Follow([picture, drawing] { picture->SetDrawing(*drawing); });
+}
+
+void Binding::Scroll(QScrollBar* bar, const int* value, RowCommand moved) {
+  Follow([bar, value] {
+    const QSignalBlocker silent(bar);
+    bar->setValue(*value);
+  });
+  QObject::connect(bar, &QScrollBar::valueChanged,
+                   [this, moved](int now) { Run([&] { moved(now); }); });
+}
+
+void Binding::Follow(Command refresh) { refreshers_.push_back(std::move(refresh)); }
+
+void Binding::Refresh() {
+  for (const Command& refresh : refreshers_) refresh();
+}
+
+void Binding::Run(const Command& command) {
+  if (released_) return;
+  command();
+  afterCommand_();
+}
+
+}  // namespace lignara

@@ -1,0 +1,177 @@
+#include "desktop/kit/desktop_platform.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QScreen>
+#include <algorithm>
+#include <cassert>
+
+#include "app/window_names.h"
+#include "desktop/kit/help_window.h"
+#include "desktop/kit/report_printer.h"
+#include "desktop/kit/text.h"
+#include "desktop/kit/tool_window.h"
+#include "desktop/kit/window_kind.h"
+
+namespace lignara {
+namespace {
+
+/// "Text(*.txt)|*.txt|All(*.*)|*.*|" as Qt writes it: "Text(*.txt);;All(*)".
+QString QtFilter(const std::string& filter) {
+  const QStringList parts = ToQt(filter).split('|', Qt::SkipEmptyParts);
+  QStringList names;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString label = parts[i].section('(', 0, 0);
+    names << label + " (" + (parts[i + 1] == "*.*" ? QString("*") : parts[i + 1]) + ")";
+  }
+  return names.join(";;");
+}
+
+}  // namespace
+
+DesktopPlatform::~DesktopPlatform() {
+  while (!windows_.empty()) {
+    ToolWindow* newest = windows_.back();
+    windows_.pop_back();
+    newest->CloseForGood();
+    delete newest;
+  }
+}
+
+void DesktopPlatform::ShowMessage(const Message& message) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(ToQt(message.title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(message.text));
+  box.setIcon(message.icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::NoIcon);
+  box.exec();
+}
+
+bool DesktopPlatform::AskYesNo(const std::string& title, const std::string& text) {
+  return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==
+         QMessageBox::Yes;
+}
+
+std::optional<std::string> DesktopPlatform::PromptText(const std::string& title,
+                                                       const std::string& text,
+                                                       const std::string& initial) {
+  bool accepted = false;
+  const QString answer =
+      QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(text),
+                            QLineEdit::Normal, ToQt(initial), &accepted);
+  return accepted ? std::optional(FromQt(answer)) : std::nullopt;
+}
+
+std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& filter) {
+  const QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), "Save As",
+                                                    QString(), QtFilter(filter));
+  return path.isEmpty() ? std::nullopt : std::optional(FromQt(path));
+}
+
+void DesktopPlatform::OpenWindow(const std::string& name) {
+  assert(IsWindowName(name));
+  ToolWindow* window = FindWindow(ToQt(name));
+  const WindowKind* kind = FindWindowKind(name);
+  if (window == nullptr && kind != nullptr) {
+    window = kind->make({session_, *this});
+    // A window opened from a modal one belongs to it, so that it is not locked out with the rest.
+    if (ToolWindow* modal = NewestModal()) window->setParent(modal, window->windowFlags());
+    if (kind->modal) window->setWindowModality(Qt::ApplicationModal);
+    windows_.push_back(window);
+    Place(window);
+    window->Refresh();
+    window->show();
+  }
+  if (window == nullptr) return;
+  window->raise();
+  window->activateWindow();
+}
+
+void DesktopPlatform::Place(ToolWindow* window) {
+  const QRect screen = window->screen()->geometry();
+  // A window may name a size of its own; any other gets what it wants, up to the whole screen.
+  const bool named = window->testAttribute(Qt::WA_Resized);
+  const QSize wish = named ? window->size() : window->sizeHint();
+  window->resize(wish.boundedTo(screen.size()));
+  window->move(screen.x() + (screen.width() - window->width()) / 2,
+               screen.y() + (screen.height() - window->height()) / 2);
+}
+
+void DesktopPlatform::CloseWindow(const std::string& name) {
+  assert(IsWindowName(name));
+  ToolWindow* window = FindWindow(ToQt(name));
+  if (window == nullptr) return;
+  std::erase(windows_, window);
+  AdoptChildren(window);
+  window->CloseForGood();
+  window->deleteLater();
+  const std::vector<ToolWindow*> left = windows_;
+  for (ToolWindow* other : left) other->WindowClosed(ToQt(name));
+}
+
+void DesktopPlatform::AdoptChildren(ToolWindow* closing) {
+  for (ToolWindow* window : windows_) {
+    if (window->parentWidget() != closing) continue;
+    window->setParent(closing->parentWidget(), window->windowFlags());
+    window->show();
+  }
+}
+
+bool DesktopPlatform::HasWindow(const std::string& name) const {
+  assert(IsWindowName(name));
+  return FindWindowKind(name) != nullptr;
+}
+
+void DesktopPlatform::PrintReport(const Report& report) { PrintOnPaper(report, *this); }
+
+void DesktopPlatform::ShowHelp(const std::string& path, const std::string& section) {
+  if (!QFileInfo(ToQt(path)).isReadable()) return;
+  // One that was opened before a modal window came up could not be reached.
+  if (ToolWindow* open = FindWindow(window_name::kHelp); open != nullptr && IsBlocked(open)) {
+    CloseWindow(window_name::kHelp);
+  }
+  OpenWindow(window_name::kHelp);
+  ShowHelpDocument(FindWindow(window_name::kHelp), ToQt(path), ToQt(section));
+}
+
+void DesktopPlatform::SetBusyPointer(bool busy) {
+  if (busy) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+ToolWindow* DesktopPlatform::FindWindow(const QString& name) const {
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&](const ToolWindow* w) { return w->name() == name; });
+  return found == windows_.end() ? nullptr : *found;
+}
+
+QStringList DesktopPlatform::OpenWindows() const {
+  QStringList names;
+  for (const ToolWindow* window : windows_) names << window->name();
+  return names;
+}
+
+bool DesktopPlatform::IsBlocked(const ToolWindow* window) const {
+  const auto at = std::find(windows_.begin(), windows_.end(), window);
+  return std::any_of(at == windows_.end() ? at : at + 1, windows_.end(),
+                     [](const ToolWindow* w) { return w->isModal(); });
+}
+
+void DesktopPlatform::RefreshWindows() {
+  const std::vector<ToolWindow*> windows = windows_;
+  for (ToolWindow* window : windows) window->Refresh();
+}
+
+ToolWindow* DesktopPlatform::NewestModal() const {
+  const auto found = std::find_if(windows_.rbegin(), windows_.rend(),
+                                  [](const ToolWindow* w) { return w->isModal(); });
+  return found == windows_.rend() ? nullptr : *found;
+}
+
+}  // namespace lignara

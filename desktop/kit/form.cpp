@@ -1,0 +1,69 @@
+#include "desktop/kit/form.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "desktop/kit/text.h"
+
+namespace lignara {
+
+QLineEdit* MakeField(const QString& name, int width) {
+  auto* field = new QLineEdit;
+  field->setAccessibleName(PlainCaption(name));
+  field->setAlignment(Qt::AlignRight);
+  field->setMinimumWidth(width);
+  return field;
+}
+
+QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& caption, int width) {
+  QLineEdit* field = MakeField(caption, width);
+  auto* label = new QLabel(caption);
+  label->setBuddy(field);
+  grid->addWidget(label, row, column);
+  grid->addWidget(field, row, column + 1);
+  return field;
+}
+
+void ShowOnly(QLineEdit* field) {
+  field->setReadOnly(true);
+  QPalette palette = field->palette();
+  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  field->setPalette(palette);
+}
+
+QLineEdit* AddField(QGridLayout* grid, const QString& caption, int width) {
+  return PutField(grid, grid->rowCount(), 0, caption, width);
+}
+
+QLineEdit* PutValue(QGridLayout* grid, int row, int column, const QString& caption, int width) {
+  QLineEdit* field = PutField(grid, row, column, caption, width);
+  ShowOnly(field);
+  return field;
+}
+
+QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width) {
+  return PutValue(grid, grid->rowCount(), 0, caption, width);
+}
+
+QListWidget* MakeList(const QString& name, int rows) {
+  auto* list = new QListWidget;
+  list->setAccessibleName(PlainCaption(name));
+  list->addItem("0");        // for its height in the style at hand
+  constexpr int kSlack = 2;  // a scaled screen rounds the rows up
+  list->setMinimumHeight(list->sizeHintForRow(0) * rows + 2 * list->frameWidth() + kSlack);
+  list->clear();
+  list->setMinimumWidth(160);
+  return list;
+}
+
+QLabel* MakeHeading(const QString& text) {
+  auto* label = new QLabel(text);
+  QFont font = label->font();
+  font.setBold(true);
+  label->setFont(font);
+  return label;
+}
+
+}  // namespace lignara

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "app/session_state.h"
+#include "desktop/kit/binding.h"
+
+class QGroupBox;
+class QPushButton;
+
+namespace lignara {
+
+class DesktopPlatform;
+
+/// What a window needs of the program around it.
+struct WindowContext {
+  SessionState& session;
+  DesktopPlatform& platform;
+};
+
+/// A window of the program: its widgets are tied to its record by `binding()`.
+class ToolWindow : public QMainWindow {
+ public:
+  ToolWindow(const char* name, WindowContext context);
+
+  /// The name by which commands and scripts know the window.
+  const QString& name() const { return name_; }
+
+  /// Shows the record again.
+  virtual void Refresh() { binding_.Refresh(); }
+  /// What the window's own close control does; plain closing unless a window says otherwise.
+  virtual void CloseControl();
+  /// Told after another window was closed.
+  virtual void WindowClosed(const QString& /*name*/) {}
+
+  /// Closes the window for good, without asking its close control.
+  void CloseForGood();
+
+ protected:
+  SessionState& session() { return context_.session; }
+  DesktopPlatform& platform();
+  Binding& binding() { return binding_; }
+
+  /// The "&Help" menu with its item "Help", the same in all windows.
+  QMenu* AddHelpMenu();
+
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QString name_;
+  WindowContext context_;
+  Binding binding_;
+  bool closingForGood_ = false;
+};
+
+/// The button that Return presses while the focus is inside `area`.
+void SetReturnButton(QWidget* area, QPushButton* button);
+/// The button that Escape presses while the focus is inside `area`.
+void SetEscapeButton(QWidget* area, QPushButton* button);
+
+/// A panel: a framed part of a window with a caption.
+QGroupBox* MakePanel(const QString& caption);
+
+/// Gives a widget the name by which scripts and screen readers find it.
+template <typename Widget>
+Widget* Named(const char* name, Widget* widget) {
+  widget->setAccessibleName(name);
+  return widget;
+}
+
+}  // namespace lignara

@@ -1,0 +1,47 @@
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/launcher.h"
+#include "app/window_names.h"
+#include "desktop/windows.h"
+
+namespace lignara {
+namespace {
+
+class AboutForm : public ToolWindow {
+ public:
+  explicit AboutForm(WindowContext context) : ToolWindow(window_name::kAbout, context) {
+    setWindowTitle("About Lignara");
+    auto* area = new QWidget;
+    setCentralWidget(area);
+    auto* rows = new QVBoxLayout(area);
+    rows->setContentsMargins(40, 24, 40, 24);
+    rows->setSpacing(8);
+    rows->addWidget(NameLabel(), 0, Qt::AlignCenter);
+    rows->addWidget(new QLabel("Wood Design Program"), 0, Qt::AlignCenter);
+    rows->addWidget(new QLabel("Version 6.1"), 0, Qt::AlignCenter);
+    rows->addSpacing(12);
+    auto* ok = new QPushButton("&OK");
+    binding().Press(ok, [this] { CloseControl(); });
+    rows->addWidget(ok, 0, Qt::AlignCenter);
+    SetReturnButton(area, ok);
+    SetEscapeButton(area, ok);
+  }
+
+ private:
+  static QLabel* NameLabel() {
+    auto* name = new QLabel(kProgramName);
+    QFont font = name->font();
+    font.setPointSizeF(font.pointSizeF() * 2);
+    font.setBold(true);
+    name->setFont(font);
+    return name;
+  }
+};
+
+}  // namespace
+
+ToolWindow* MakeAboutWindow(WindowContext context) { return new AboutForm(context); }
+
+}  // namespace lignara

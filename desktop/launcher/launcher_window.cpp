@@ -1,0 +1,141 @@
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "app/launcher.h"
+#include "app/window_names.h"
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/picture_button.h"
+#include "desktop/kit/text.h"
+#include "desktop/windows.h"
+#include "truss/sketches.h"
+#include "truss/truss_types.h"
+
+namespace lignara {
+namespace {
+
+constexpr std::array<const char*, 8> kTrussPictures = {"PRATT1", "FINK", "ENGLISH", "KINGPOST",
+                                                       "SCI",    "HOWE", "PRATT2",  "WARREN"};
+
+class LauncherForm : public ToolWindow {
+ public:
+  explicit LauncherForm(WindowContext context) : ToolWindow(window_name::kLauncher, context) {
+    setWindowTitle("Ostrel's Lignara");
+    AddMenus();
+    auto* area = new QWidget;
+    setCentralWidget(area);
+    auto* columns = new QHBoxLayout(area);
+    columns->addWidget(TrussPanel(), 1);
+    auto* tools = new QVBoxLayout;
+    columns->addLayout(tools);
+    tools->addWidget(BeamPanel());
+    tools->addWidget(DataBasePanel());
+    tools->addStretch();
+  }
+
+  void CloseControl() override {
+    CloseAllWindows(platform());
+    platform().CloseWindow(window_name::kHelp);
+    platform().CloseWindow(window_name::kLauncher);
+  }
+
+ private:
+  void AddMenus() {
+    QMenu* files = menuBar()->addMenu("&Files");
+    QAction* exit = files->addAction("E&xit");
+    exit->setShortcut(QKeySequence::Quit);
+    binding().Menu(exit, [this] { CloseControl(); });
+    QMenu* help = AddHelpMenu();
+    binding().Menu(help->addAction("&About..."),
+                   [this] { platform().OpenWindow(window_name::kAbout); });
+  }
+
+  QGroupBox* TrussPanel() {
+    QGroupBox* panel = MakePanel("Trusses");
+    auto* grid = new QGridLayout(panel);
+    grid->setSpacing(8);
+    for (std::size_t i = 0; i < kTrussPictures.size(); ++i) {
+      const char* type = kTrussPictures[i];
+      auto* button =
+          Named(type, new PictureButton(TypePicture(type), ToQt(TrussTypeOf(type).title)));
+      binding().Press(button, [this, type] { StartTruss(type, session(), platform()); });
+      grid->addWidget(button, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
+    }
+    return panel;
+  }
+
+  QGroupBox* BeamPanel() {
+    QGroupBox* panel = MakePanel("Beams");
+    auto* rows = new QVBoxLayout(panel);
+    auto* count = new QHBoxLayout;
+    auto* field = Named("Enter No. of Spans", new QLineEdit);
+    field->setMaximumWidth(64);
+    auto* caption = new QLabel("&Enter No. of Spans");
+    caption->setBuddy(field);
+    count->addWidget(caption);
+    count->addStretch();
+    count->addWidget(field);
+    rows->addLayout(count);
+    binding().Field(field, &record_.spanText);
+    rows->addWidget(MultiSpanButton());
+    SetReturnButton(panel, multiSpan_);
+    rows->addSpacing(8);
+    rows->addWidget(ToolButton("&Single Span Beams", window_name::kBeam,
+                               [this] { StartSingleSpanBeam(session(), platform()); }));
+    return panel;
+  }
+
+  /// Refusing a count needs no beam window, so only a count that would open one waits for it.
+  QPushButton* MultiSpanButton() {
+    multiSpan_ = new QPushButton("&Multi-Span Beam");
+    binding().Press(multiSpan_, [this] { StartMultiSpanBeam(record_, session(), platform()); });
+    binding().Follow([this] {
+      const bool able = platform().HasWindow(window_name::kMultiSpan) || !AcceptsSpanCount(record_);
+      multiSpan_->setEnabled(able);
+      multiSpan_->setToolTip(able ? "" : kNotInThisVersion);
+    });
+    return multiSpan_;
+  }
+
+  QGroupBox* DataBasePanel() {
+    QGroupBox* panel = MakePanel("Data Bases");
+    auto* rows = new QVBoxLayout(panel);
+    rows->addWidget(ToolButton("&Pure Wood Data Base", window_name::kMemberSize,
+                               [this] { platform().OpenWindow(window_name::kQuestion); }));
+    rows->addWidget(ToolButton("&Glu-Lam Data Base", window_name::kGlulam,
+                               [this] { platform().OpenWindow(window_name::kGlulam); }));
+    rows->addWidget(ToolButton("F&astener Data Base", window_name::kFasteners,
+                               [this] { platform().OpenWindow(window_name::kFasteners); }));
+    rows->addWidget(ToolButton("Ply &Wood", window_name::kPlywood,
+                               [this] { platform().OpenWindow(window_name::kPlywood); }));
+    return panel;
+  }
+
+  /// A command that leads to a window; disabled where this version does not have it.
+  QPushButton* ToolButton(const QString& caption, const char* window, Binding::Command command) {
+    auto* button = new QPushButton(caption);
+    binding().Press(button, std::move(command));
+    if (!platform().HasWindow(window)) {
+      button->setEnabled(false);
+      button->setToolTip(kNotInThisVersion);
+    }
+    return button;
+  }
+
+  static constexpr const char* kNotInThisVersion = "This tool is not in this version yet";
+
+  LauncherWindow record_;
+  QPushButton* multiSpan_ = nullptr;
+};
+
+}  // namespace
+
+ToolWindow* MakeLauncherWindow(WindowContext context) { return new LauncherForm(context); }
+
+}  // namespace lignara

@@ -1,0 +1,53 @@
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/launcher.h"
+#include "app/window_names.h"
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/windows.h"
+
+namespace lignara {
+namespace {
+
+/// For whom the member size calculator shall work, when no structure is at hand.
+class QuestionForm : public ToolWindow {
+ public:
+  explicit QuestionForm(WindowContext context) : ToolWindow(window_name::kQuestion, context) {
+    setWindowTitle("???");
+    AddHelpMenu();
+    auto* area = new QWidget;
+    setCentralWidget(area);
+    auto* rows = new QVBoxLayout(area);
+    rows->setContentsMargins(32, 24, 32, 24);
+    rows->setSpacing(20);
+    rows->addWidget(new QLabel("Please make a choice !"), 0, Qt::AlignCenter);
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(16);
+    rows->addLayout(choices);
+    for (const char* mode : {"TRUSS", "BEAM"}) {
+      auto* button = new QPushButton(QString("&") + mode);
+      button->setMinimumSize(120, 36);
+      binding().Press(button, [this, mode] { ChooseDesignMode(mode, session(), platform()); });
+      binding().Enabled(button, [this] { return platform().HasWindow(window_name::kMemberSize); });
+      choices->addWidget(button);
+    }
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape) {
+      close();
+    } else {
+      ToolWindow::keyPressEvent(event);
+    }
+  }
+};
+
+}  // namespace
+
+ToolWindow* MakeQuestionWindow(WindowContext context) { return new QuestionForm(context); }
+
+}  // namespace lignara

@@ -1,0 +1,68 @@
+#include "desktop/truss/truss_report_panels.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "desktop/kit/form.h"
+#include "desktop/kit/tool_window.h"
+#include "truss/report.h"
+
+namespace lignara {
+namespace {
+
+/// Two options of which one is on.
+QGroupBox* OptionPair(Binding& binding, const QString& caption, const QString& first,
+                      const QString& second, bool* firstIsOn) {
+  QGroupBox* panel = MakePanel(caption);
+  auto* column = new QVBoxLayout(panel);
+  for (const bool isFirst : {true, false}) {
+    auto* option = new QRadioButton(isFirst ? first : second);
+    binding.Press(option, [firstIsOn, isFirst] { *firstIsOn = isFirst; });
+    binding.Follow([option, firstIsOn, isFirst] { option->setChecked(*firstIsOn == isFirst); });
+    column->addWidget(option);
+  }
+  return panel;
+}
+
+}  // namespace
+
+QGroupBox* MakeHeadingsPanel(TrussWindow& window, Binding& binding, SessionState& session) {
+  QGroupBox* panel = MakePanel("Output Description");
+  auto* rows = new QVBoxLayout(panel);
+  auto* grid = new QGridLayout;
+  for (const auto& [caption, text] :
+       {std::pair{"Title", &window.titleText}, std::pair{"Description", &window.descriptionText}}) {
+    QLineEdit* field = AddField(grid, caption, 220);
+    field->setAlignment(Qt::AlignLeft);
+    binding.Field(field, text);
+  }
+  rows->addLayout(grid);
+  auto* ok = new QPushButton("OK");
+  binding.Press(ok, [&window, &session] { AcceptHeadings(window, session); });
+  rows->addWidget(ok, 0, Qt::AlignRight);
+  SetReturnButton(panel, ok);
+  binding.Shown(panel, &window.headingsOpen);
+  return panel;
+}
+
+QGroupBox* MakeFontsPanel(TrussWindow& window, Binding& binding, SessionState& session) {
+  QGroupBox* panel = MakePanel("Fonts");
+  auto* rows = new QVBoxLayout(panel);
+  auto* pairs = new QHBoxLayout;
+  pairs->addWidget(OptionPair(binding, "Name", "Times New Roman", "Arial", &window.fontTimes));
+  pairs->addWidget(OptionPair(binding, "Size", "10", "8", &window.fontTen));
+  rows->addLayout(pairs);
+  auto* ok = new QPushButton("OK");
+  binding.Press(ok, [&window, &session] { AcceptFonts(window, session); });
+  rows->addWidget(ok, 0, Qt::AlignRight);
+  SetReturnButton(panel, ok);
+  binding.Shown(panel, &window.fontsOpen);
+  return panel;
+}
+
+}  // namespace lignara

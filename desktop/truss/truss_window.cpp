@@ -1,0 +1,357 @@
+#include "truss/truss_window.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "app/window_names.h"
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/form.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/text.h"
+#include "desktop/truss/truss_report_panels.h"
+#include "desktop/windows.h"
+#include "truss/report.h"
+
+namespace lignara {
+namespace {
+
+/// One step of the horizontal bar moves the picture by an eighth of its width. So many steps to
+/// either side are what the canvas can count.
+constexpr int kPanSteps = 54;
+
+/// A list of the side column: it takes its height from the window and leaves the width to the
+/// drawing.
+QListWidget* SideList(const char* name) {
+  QListWidget* list = MakeList(name, 6);
+  list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+  return list;
+}
+
+/// A coloured dash and what the colour of a member means.
+QLayout* LegendEntry(Colour colour, const char* meaning) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(5);
+  auto* dash = new QFrame;
+  dash->setFixedSize(24, 3);
+  const QColor ground = dash->palette().color(QPalette::Base);
+  dash->setStyleSheet(QString("background: %1").arg(ColourOn(ground, colour).name()));
+  row->addWidget(dash);
+  row->addWidget(new QLabel(meaning));
+  return row;
+}
+
+/// The truss at hand: loads, analysis, results and the drawing.
+class TrussForm : public ToolWindow {
+ public:
+  explicit TrussForm(WindowContext context);
+
+ private:
+  void AddMenus();
+  QLayout* CanvasColumn();
+  QLayout* CanvasFrame();
+  QLayout* CanvasFoot();
+  QGroupBox* ZoomPanel();
+  QWidget* Legend();
+  QLayout* ResultPanels();
+  QLayout* SideColumn();
+  QLayout* CommandRow();
+  QGroupBox* ResultsPanel();
+  QLayout* NodeLoads();
+  QLayout* NodeField();
+  QLayout* Forces();
+  QGroupBox* LineLoadPanel();
+  QGroupBox* AreaLoadPanel();
+  QGroupBox* ListPanel(const QString& caption, const std::vector<std::string>* rows,
+                       const bool* shown, const QString& closing, Binding::Command close,
+                       int width);
+  QPushButton* Button(const QString& caption, Binding::Command command);
+  QLayout* ButtonPair(QGroupBox* panel, const QString& first, Binding::Command command,
+                      Binding::Command cancel);
+
+  TrussWindow record_;
+  QListWidget* nodes_ = nullptr;
+  QLineEdit* lineLoad_ = nullptr;
+  QLineEdit* spacing_ = nullptr;
+};
+
+TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, context) {
+  OpenTruss(record_, session(), platform());
+  setWindowTitle(ToQt(record_.title));
+  AddMenus();
+  auto* area = new QWidget;
+  setCentralWidget(area);
+  auto* columns = new QHBoxLayout(area);
+  columns->setSpacing(10);
+  columns->addLayout(CanvasColumn(), 1);
+  columns->addLayout(SideColumn());
+  resize(1200, 720);
+  nodes_->setFocus();  // a truss starts with its loads
+}
+
+void TrussForm::AddMenus() {
+  QMenu* files = menuBar()->addMenu("&Files");
+  binding().Menu(files->addAction("&Headings..."), [this] { OpenHeadings(record_); });
+  binding().Menu(files->addAction("F&onts..."), [this] { OpenFonts(record_); });
+  files->addSeparator();
+  QAction* print = files->addAction("&Print");
+  print->setShortcut(QKeySequence::Print);
+  binding().Menu(print, [this] { PrintTruss(record_, session(), platform()); });
+  QAction* save = files->addAction("&Save Output to Text File...");
+  save->setShortcut(QKeySequence::Save);
+  binding().Menu(save, [this] { SaveTrussReport(record_, session(), platform()); });
+  AddHelpMenu();
+}
+
+QPushButton* TrussForm::Button(const QString& caption, Binding::Command command) {
+  auto* button = new QPushButton(caption);
+  binding().Press(button, std::move(command));
+  return button;
+}
+
+QLayout* TrussForm::CanvasColumn() {
+  auto* rows = new QVBoxLayout;
+  rows->addLayout(CanvasFrame(), 1);
+  rows->addLayout(CanvasFoot());
+  rows->addLayout(ResultPanels());
+  return rows;
+}
+
+QLayout* TrussForm::CanvasFrame() {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(2);
+  auto* canvas = Named("Truss", new Picture);
+  canvas->setMinimumSize(480, 300);
+  binding().Show(canvas, &record_.view.drawing);
+  canvas->OnPress(
+      [this](double x, double y) { binding().Run([&] { HitTruss(record_, session(), x, y); }); });
+  canvas->OnHover([this](double x, double y) { return IsOverMember(record_, session(), x, y); });
+  canvas->OnSave([this, canvas] {
+    if (const auto path = platform().ChooseSaveFile("PNG(*.png)|*.png|")) {
+      if (!canvas->SavePng(ToQt(*path))) platform().ShowMessage({"Cannot write " + *path});
+    }
+  });
+  grid->addWidget(canvas, 0, 0);
+  auto* rise = Named("Rise", new QScrollBar(Qt::Vertical));
+  rise->setRange(0, kPanSteps);
+  grid->addWidget(rise, 0, 1);
+  auto* pan = Named("Pan", new QScrollBar(Qt::Horizontal));
+  pan->setRange(-kPanSteps, kPanSteps);
+  pan->setPageStep(4);
+  binding().Scroll(pan, &record_.view.panBar,
+                   [this](int value) { PanTruss(record_, session(), platform(), value); });
+  grid->addWidget(pan, 1, 0);
+  return grid;
+}
+
+QLayout* TrussForm::CanvasFoot() {
+  auto* row = new QHBoxLayout;
+  row->addWidget(ZoomPanel());
+  row->addSpacing(12);
+  row->addWidget(Legend());
+  row->addStretch();
+  return row;
+}
+
+QGroupBox* TrussForm::ZoomPanel() {
+  QGroupBox* panel = MakePanel("Zoom");
+  auto* row = new QHBoxLayout(panel);
+  row->setContentsMargins(6, 2, 6, 4);
+  QPushButton* larger = Button("+", [this] { EnlargeTruss(record_, session(), platform()); });
+  QPushButton* smaller = Button("-", [this] { ReduceTruss(record_, session(), platform()); });
+  for (QPushButton* button : {larger, smaller}) {
+    button->setMaximumWidth(44);
+    row->addWidget(button);
+  }
+  larger->setToolTip("Enlarge the drawing");
+  smaller->setToolTip("Reduce the drawing");
+  return panel;
+}
+
+QWidget* TrussForm::Legend() {
+  auto* legend = new QWidget;
+  auto* row = new QHBoxLayout(legend);
+  row->setSpacing(16);
+  row->addLayout(LegendEntry(Colour::RoyalBlue, "Tension"));
+  row->addLayout(LegendEntry(Colour::DarkOrange, "Compression"));
+  row->addLayout(LegendEntry(Colour::Gray, "No force"));
+  binding().Shown(legend, &record_.view.resultsShown);
+  return legend;
+}
+
+QLayout* TrussForm::ResultPanels() {
+  auto* row = new QHBoxLayout;
+  row->addWidget(ListPanel(
+      "Member Lengths (ft)", &record_.lengthRows, &record_.lengthsOpen, "Cancel",
+      [this] { CloseMemberLengths(record_); }, 150));
+  row->addWidget(ListPanel(
+      "Deflections", &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
+      [this] { record_.deflectionsOpen = false; }, 150));
+  row->addWidget(ListPanel(
+      "Actual and Allowable Axial Stresses", &record_.stressRows, &record_.stressOpen, "OK",
+      [this] { record_.stressOpen = false; }, 440));
+  return row;
+}
+
+QGroupBox* TrussForm::ListPanel(const QString& caption, const std::vector<std::string>* rows,
+                                const bool* shown, const QString& closing, Binding::Command close,
+                                int width) {
+  QGroupBox* panel = MakePanel(caption);
+  auto* column = new QVBoxLayout(panel);
+  QListWidget* list = MakeList(caption, 9);
+  list->setMinimumWidth(width);
+  list->setMaximumHeight(240);
+  binding().List(list, rows);
+  column->addWidget(list);
+  QPushButton* button = Button(closing, std::move(close));
+  column->addWidget(button, 0, Qt::AlignRight);
+  binding().Shown(panel, shown);
+  SetEscapeButton(panel, button);
+  return panel;
+}
+
+QLayout* TrussForm::SideColumn() {
+  auto* rows = new QVBoxLayout;
+  rows->addLayout(CommandRow());
+  rows->addWidget(ResultsPanel(), 1);
+  rows->addWidget(LineLoadPanel());
+  rows->addWidget(AreaLoadPanel());
+  rows->addWidget(MakeHeadingsPanel(record_, binding(), session()));
+  rows->addWidget(MakeFontsPanel(record_, binding(), session()));
+  return rows;
+}
+
+QLayout* TrussForm::CommandRow() {
+  auto* grid = new QGridLayout;
+  QPushButton* wood = Button("&Wood Type", [this] { OpenWoodType(session(), platform()); });
+  wood->setEnabled(platform().HasWindow(window_name::kMemberSize));
+  grid->addWidget(wood, 0, 0);
+  QPushButton* run = Button("&Run", [this] { RunTruss(record_, session(), platform()); });
+  grid->addWidget(run, 0, 1);
+  grid->addWidget(
+      Button("&Memb. Len.", [this] { ShowMemberLengths(record_, session(), platform()); }), 0, 2);
+  grid->addWidget(Button("&Deflections", [this] { record_.deflectionsOpen = true; }), 1, 0);
+  grid->addWidget(Button("&Code Stress", [this] { record_.stressOpen = true; }), 1, 1);
+  return grid;
+}
+
+QGroupBox* TrussForm::ResultsPanel() {
+  QGroupBox* panel = MakePanel("Results");
+  auto* columns = new QHBoxLayout(panel);
+  columns->setSpacing(12);
+  columns->addLayout(NodeLoads());
+  columns->addLayout(Forces());
+  return panel;
+}
+
+QLayout* TrussForm::NodeLoads() {
+  auto* rows = new QVBoxLayout;
+  rows->addWidget(MakeHeading("Top Node Loads (lbs)"));
+  rows->addWidget(new QLabel("Click on list item to select"));
+  nodes_ = SideList("Top Node Loads (lbs)");
+  binding().List(nodes_, &record_.nodeRows, &record_.nodeRow,
+                 [this](int row) { SelectNode(record_, session(), platform(), row); });
+  rows->addWidget(nodes_, 1);
+  rows->addLayout(NodeField());
+  rows->addWidget(Button("&Unif. Load (lb/ft)", [this] {
+    OpenLineLoad(record_);
+    lineLoad_->parentWidget()->show();
+    lineLoad_->setFocus();
+  }));
+  rows->addWidget(Button("&Area Load (lbs/sf)", [this] {
+    OpenAreaLoad(record_);
+    spacing_->parentWidget()->show();
+    spacing_->setFocus();
+  }));
+  return rows;
+}
+
+QLayout* TrussForm::NodeField() {
+  auto* rows = new QVBoxLayout;
+  QLineEdit* field = MakeField("Top Node Loads (lbs)");
+  binding().Field(field, &record_.nodeLoad);
+  rows->addWidget(field);
+  auto* pair = new QHBoxLayout;
+  QPushButton* enter = Button("&Enter", [this] { EnterNodeLoad(record_, session(), platform()); });
+  pair->addWidget(enter);
+  pair->addWidget(Button("A&ll", [this] { EnterAllNodeLoads(record_, session(), platform()); }));
+  rows->addLayout(pair);
+  SetReturnButton(field, enter);
+  return rows;
+}
+
+QLayout* TrussForm::Forces() {
+  auto* rows = new QVBoxLayout;
+  rows->addWidget(MakeHeading("Axial Load (lbs)"));
+  QListWidget* list = SideList("Axial Load (lbs)");
+  binding().List(list, &record_.axialRows);
+  rows->addWidget(list, 1);
+  rows->addWidget(new QLabel("Click in red circle on member!"));
+  QLineEdit* member = MakeField("Click in red circle on member!");
+  ShowOnly(member);
+  binding().Text(member, &record_.hitMember);
+  rows->addWidget(member);
+  auto* load = new QGridLayout;
+  binding().Text(AddValue(load, "Axial Load (lbs)"), &record_.hitLoad);
+  rows->addLayout(load);
+  QGroupBox* reactions = MakePanel("End Reactions (lbs)");
+  auto* grid = new QGridLayout(reactions);
+  binding().Text(AddValue(grid, "Left Side"), &record_.leftReaction);
+  binding().Text(AddValue(grid, "Right Side"), &record_.rightReaction);
+  rows->addWidget(reactions);
+  return rows;
+}
+
+QLayout* TrussForm::ButtonPair(QGroupBox* panel, const QString& first, Binding::Command command,
+                               Binding::Command cancel) {
+  auto* row = new QHBoxLayout;
+  QPushButton* accept = Button(first, std::move(command));
+  QPushButton* leave = Button("Cancel", std::move(cancel));
+  row->addStretch();
+  row->addWidget(accept);
+  row->addWidget(leave);
+  SetReturnButton(panel, accept);
+  SetEscapeButton(panel, leave);
+  return row;
+}
+
+QGroupBox* TrussForm::LineLoadPanel() {
+  QGroupBox* panel = MakePanel("Uniform Load (Line Load)");
+  auto* grid = new QGridLayout(panel);
+  lineLoad_ = AddField(grid, "Load (lb / ft)");
+  binding().Field(lineLoad_, &record_.lineLoad);
+  grid->addLayout(ButtonPair(
+                      panel, "Apply", [this] { ApplyLineLoad(record_, session(), platform()); },
+                      [this] { CancelDistributedLoad(record_); }),
+                  grid->rowCount(), 0, 1, 2);
+  binding().Shown(panel, &record_.lineLoadOpen);
+  return panel;
+}
+
+QGroupBox* TrussForm::AreaLoadPanel() {
+  QGroupBox* panel = MakePanel("Area Load ");
+  auto* grid = new QGridLayout(panel);
+  spacing_ = AddField(grid, "Truss Spacing (ft)");
+  binding().Field(spacing_, &record_.trussSpacing);
+  binding().Field(AddField(grid, "Load (lb/sf)"), &record_.areaLoad);
+  grid->addLayout(ButtonPair(
+                      panel, "Apply", [this] { ApplyAreaLoad(record_, session(), platform()); },
+                      [this] { CancelDistributedLoad(record_); }),
+                  grid->rowCount(), 0, 1, 2);
+  binding().Shown(panel, &record_.areaLoadOpen);
+  return panel;
+}
+
+}  // namespace
+
+ToolWindow* MakeTrussWindow(WindowContext context) { return new TrussForm(context); }
+
+}  // namespace lignara

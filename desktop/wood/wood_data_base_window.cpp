@@ -1,0 +1,197 @@
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <vector>
+
+#include "app/window_names.h"
+#include "desktop/kit/choice_button.h"
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/form.h"
+#include "desktop/kit/text.h"
+#include "desktop/windows.h"
+#include "desktop/wood/factor_panel.h"
+#include "wood/wood_data_base.h"
+
+namespace lignara {
+namespace {
+
+struct SelectionRow {
+  const char* caption;
+  std::string FinalSelection::*text;
+};
+
+constexpr SelectionRow kSelectionRows[] = {
+    {"Grade", &FinalSelection::grade},
+    {"Allowable Bending Stress (psi)", &FinalSelection::fb},
+    {"Allowable Tensile Stress (psi)", &FinalSelection::ft},
+    {"All. Horz. Shear Stress (psi)", &FinalSelection::fv},
+    {"Allowable Compressive Stress, across grain (psi)", &FinalSelection::fcPerp},
+    {"Allowable Compressive Stress, Along Grain (psi)", &FinalSelection::fcPar},
+    {"Youngs Modulus", &FinalSelection::e}};
+
+/// The steps of the work, as the window names them.
+constexpr const char* kOrderOfWork =
+    "1   Western Woods, Southern Pine or Machine Rated\n"
+    "2   Data Base File to Load\n"
+    "3   Grades\n"
+    "4   Stress Adjustment Factors, where the stresses are to be adjusted\n"
+    "5   OK";
+
+/// Species, grade and final stresses of sawn lumber.
+class WoodDataBaseForm : public ToolWindow {
+ public:
+  explicit WoodDataBaseForm(WindowContext context)
+      : ToolWindow(window_name::kWoodDataBase, context) {
+    setWindowTitle("Wood Data Base");
+    OpenWoodDataBase(record_);
+    AddMenus();
+    auto* area = new QWidget;
+    setCentralWidget(area);
+    auto* columns = new QHBoxLayout(area);
+    columns->setSpacing(12);
+    columns->addLayout(Choices(), 1);
+    auto* work = new QGridLayout;
+    work->addWidget(SelectionPanel(area), 0, 0);
+    work->addWidget(OrderOfWork(), 1, 0, Qt::AlignCenter);
+    work->addWidget(Factors(), 1, 0);
+    work->setRowStretch(1, 1);
+    columns->addLayout(work);
+  }
+
+  void CloseControl() override { CancelSelection(record_, platform()); }
+
+ private:
+  void AddMenus() {
+    QMenu* files = menuBar()->addMenu("&Files");
+    binding().Menu(files->addAction("&Print"), [this] { PrintWoodReport(record_, platform()); });
+    binding().Menu(files->addAction("&Save Output to Text File..."),
+                   [this] { SaveWoodReport(record_, platform()); });
+    AddHelpMenu();
+  }
+
+  /// Family, species file and grade, from top to bottom in the order of work.
+  QLayout* Choices() {
+    auto* rows = new QVBoxLayout;
+    rows->addLayout(Families());
+    rows->addWidget(MakeHeading("Data Base File to Load"));
+    QListWidget* files = MakeList("Data Base File to Load", 9);
+    binding().List(files, &record_.files.rows, &record_.files.row,
+                   [this](int row) { ChooseSpeciesFile(record_, session(), platform(), row); });
+    rows->addWidget(files, 3);
+    rows->addWidget(MakeHeading("Types of Wood covered by File"));
+    rows->addWidget(WoodTypes());
+    rows->addWidget(MakeHeading("Grades"));
+    grades_ = MakeList("Grades", 9);
+    binding().List(grades_, &record_.grades.rows, &record_.grades.row,
+                   [this](int row) { ChooseGrade(record_, session(), platform(), row); });
+    rows->addWidget(grades_, 2);
+    return rows;
+  }
+
+  QLayout* Families() {
+    auto* row = new QHBoxLayout;
+    std::vector<QPushButton*> buttons;
+    for (const WoodFamilyEntry& entry : kWoodFamilies) {
+      const WoodFamily family = entry.family;
+      buttons.push_back(MakeChoiceButton(
+          binding(), QString("&") + entry.caption,
+          [this, family] { return record_.DataBaseFamily == family; },
+          [this, family] { ChooseFamily(record_, session(), platform(), family); }));
+      row->addWidget(buttons.back());
+    }
+    MakeOneTabStop(binding(), buttons);
+    buttons.front()->setFocus();
+    return row;
+  }
+
+  QLabel* WoodTypes() {
+    auto* types = Named("Types of Wood covered by File", new QLabel);
+    types->setWordWrap(true);
+    types->setMinimumHeight(types->fontMetrics().lineSpacing() * 4);
+    types->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    binding().Text(types, &record_.woodTypes);
+    return types;
+  }
+
+  /// The grade at hand, the way to its factors, and "OK", which hands it to the calculator.
+  QGroupBox* SelectionPanel(QWidget* area) {
+    QGroupBox* panel = MakePanel("Final Selection");
+    auto* rows = new QVBoxLayout(panel);
+    auto* grid = new QGridLayout;
+    constexpr int kRowsOfColumn = 4;
+    constexpr int kSecondColumn = 3;
+    grid->setColumnMinimumWidth(kSecondColumn - 1, 12);
+    int at = 0;
+    for (const SelectionRow& row : kSelectionRows) {
+      QLineEdit* value =
+          PutValue(grid, at % kRowsOfColumn, at / kRowsOfColumn * kSecondColumn, row.caption, 140);
+      binding().Text(value, &(record_.selection.*row.text));
+      ++at;
+    }
+    rows->addLayout(grid);
+    rows->addLayout(Commands(area));
+    return panel;
+  }
+
+  QLayout* Commands(QWidget* area) {
+    auto* row = new QHBoxLayout;
+    auto* factors = new QPushButton("Stress &Adjustment Factors");
+    binding().Press(factors, [this] { OpenFactorPanel(record_, platform()); });
+    ok_ = new QPushButton("&OK");
+    binding().Press(ok_, [this] { AcceptSelection(record_, session(), platform()); });
+    auto* cancel = new QPushButton("&Cancel");
+    binding().Press(cancel, [this] { CloseControl(); });
+    row->addWidget(factors);
+    row->addStretch();
+    row->addWidget(ok_);
+    row->addWidget(cancel);
+    SetReturnButton(grades_, ok_);
+    SetEscapeButton(area, cancel);
+    return row;
+  }
+
+  /// Stands where the factors open, until they do.
+  QLabel* OrderOfWork() {
+    auto* steps = new QLabel(kOrderOfWork);
+    steps->setForegroundRole(QPalette::PlaceholderText);
+    binding().Shown(steps, [this] { return !record_.panel.open; });
+    return steps;
+  }
+
+  QGroupBox* Factors() {
+    const FactorPanelParts factors = MakeFactorPanel(record_, binding(), session(), platform());
+    // Its room is kept, so that nothing moves when it opens.
+    QSizePolicy policy = factors.panel->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    factors.panel->setSizePolicy(policy);
+    SetReturnButton(factors.panel, factors.calculate);
+    SetEscapeButton(factors.panel, factors.cancel);
+    FollowWithFocus(factors.first);
+    return factors.panel;
+  }
+
+  /// The work goes on in the panel when it opens, and at "OK" when it closes.
+  void FollowWithFocus(QWidget* first) {
+    binding().Follow([this, first, was = false]() mutable {
+      const bool open = record_.panel.open;
+      if (open != was) (open ? first : ok_)->setFocus();
+      was = open;
+    });
+  }
+
+  WoodDataBaseWindow record_;
+  QListWidget* grades_ = nullptr;
+  QPushButton* ok_ = nullptr;  ///< of "Final Selection"
+};
+
+}  // namespace
+
+ToolWindow* MakeWoodDataBaseWindow(WindowContext context) { return new WoodDataBaseForm(context); }
+
+}  // namespace lignara
