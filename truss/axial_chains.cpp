@@ -1,6 +1,6 @@
 #include <initializer_list>
 
-#include "truss/arms.h"
+#include "truss/axial_arms.h"
 #include "truss/axial_loads.h"
 #include "truss/geometry.h"
 #include "truss/reactions.h"

@@ -1,8 +1,8 @@
 #include "truss/canvas.h"
 
 #include "app/fault.h"
-#include "truss/drawn_geometry.h"
-#include "truss/truss_painter.h"
+#include "truss/canvas_painter.h"
+#include "truss/geometry_drawn.h"
 
 namespace lignara {
 namespace {
@@ -31,7 +31,7 @@ Colour MemberColour(const TrussWindow& window, const Member& member) {
 }
 
 void DrawArrow(const TrussWindow& window, const SessionState& session, const TrussShape& shape,
-               TrussPainter& painter) {
+               CanvasPainter& painter) {
   const int row = window.view.markedRow;
   if (row < 1) return;
   const auto nodes = TopNodesInRows(TopNodesOf(window.model, session));
@@ -44,7 +44,7 @@ void Draw(TrussWindow& window, const SessionState& session, Platform& platform) 
   SetDrawnGeometry(job);
   SetScales(window.view, session);
   const TrussShape shape = ShapeOf(window.model, session);
-  TrussPainter painter(window.view);
+  CanvasPainter painter(window.view);
   painter.DrawMembers(LayoutOf(shape),
                       [&](const Member& member) { return MemberColour(window, member); });
   DrawArrow(window, session, shape, painter);
@@ -83,7 +83,7 @@ void RecolourTruss(TrussWindow& window, const SessionState& session, Platform& p
 
 Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
   const TrussShape shape = ShapeOf(window.model, session);
-  TrussPainter painter(window.view);
+  CanvasPainter painter(window.view);
   // On paper the post of a Howe truss is numbered like the members beside it.
   painter.centreName = shape.type == "HOWE" ? "CV1" : "CV";
   painter.DrawMembers(LayoutOf(shape), [](const Member&) { return Colour::Black; });

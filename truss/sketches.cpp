@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "truss/layout.h"
+#include "truss/member_layout.h"
 
 namespace lignara {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "truss/axial_loads.h"
 #include "truss/deflection.h"
-#include "truss/drawn_geometry.h"
+#include "truss/geometry_drawn.h"
 
 namespace lignara {
 namespace {

@@ -112,7 +112,7 @@ void CloseMemberLengths(TrussWindow& window);
 /// "Wood Type".
 void OpenWoodType(SessionState& session, Platform& platform);
 
-// Canvas (canvas.cpp, member_hit.cpp); the report's commands stand in truss/report.h.
+// Canvas (canvas.cpp, canvas_hit.cpp); the report's commands stand in truss/report.h.
 
 /// "Zoom" "+" and "-".
 void EnlargeTruss(TrussWindow& window, const SessionState& session, Platform& platform);

@@ -1,6 +1,6 @@
 #include "tests/support/truss_fixture.h"
 
-#include "truss/drawn_geometry.h"
+#include "truss/geometry_drawn.h"
 #include "truss/member_signs.h"
 
 namespace lignara {

@@ -6,8 +6,8 @@
 
 #include "tests/support/expect_box.h"
 #include "tests/support/truss_fixture.h"
-#include "truss/arms.h"
-#include "truss/drawn_geometry.h"
+#include "truss/axial_arms.h"
+#include "truss/geometry_drawn.h"
 
 namespace lignara {
 namespace {

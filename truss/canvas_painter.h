@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "truss/layout.h"
-#include "truss/name_placer.h"
+#include "truss/canvas_names.h"
+#include "truss/member_layout.h"
 #include "truss/truss_window.h"
 
 namespace lignara {
@@ -17,12 +17,12 @@ namespace lignara {
 ///
 /// Places are 16-bit. A member with an end that does not fit is left out, and the user is told of
 /// it once a drawing.
-class TrussPainter {
+class CanvasPainter {
  public:
   using Marks = std::map<std::pair<Family, int>, MarkPoint>;
   using ColourOf = std::function<Colour(const Member&)>;
 
-  explicit TrussPainter(const TrussView& view);
+  explicit CanvasPainter(const TrussView& view);
 
   /// Of each member the line, the circle at its midpoint and the name beside it.
   void DrawMembers(const TrussLayout& layout, const ColourOf& colourOf);

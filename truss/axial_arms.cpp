@@ -1,4 +1,4 @@
-#include "truss/arms.h"
+#include "truss/axial_arms.h"
 
 #include "truss/half.h"
 

@@ -1,4 +1,4 @@
-#include "truss/layout.h"
+#include "truss/member_layout.h"
 
 #include <algorithm>
 #include <array>

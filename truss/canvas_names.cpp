@@ -1,4 +1,4 @@
-#include "truss/name_placer.h"
+#include "truss/canvas_names.h"
 
 #include <algorithm>
 #include <cmath>

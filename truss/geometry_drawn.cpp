@@ -1,4 +1,4 @@
-#include "truss/drawn_geometry.h"
+#include "truss/geometry_drawn.h"
 
 #include "truss/geometry.h"
 #include "truss/truss_types.h"

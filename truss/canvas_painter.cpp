@@ -1,4 +1,4 @@
-#include "truss/truss_painter.h"
+#include "truss/canvas_painter.h"
 
 #include <cstdint>
 #include <limits>
@@ -35,12 +35,12 @@ Offset NodeNameOffset(NodeSide side, bool level, NameSize size) {
 
 }  // namespace
 
-TrussPainter::TrussPainter(const TrussView& view) : view_(view) {
+CanvasPainter::CanvasPainter(const TrussView& view) : view_(view) {
   drawing_.width = kCanvasWidth;
   drawing_.height = kCanvasHeight;
 }
 
-void TrussPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colourOf) {
+void CanvasPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colourOf) {
   std::vector<CanvasLine> lines;
   for (const MemberLine& line : layout) {
     const auto from = Place(line.from);
@@ -52,7 +52,7 @@ void TrussPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colour
   for (const CanvasLine& line : lines) DrawMember(line, colourOf(line.member), names);
 }
 
-void TrussPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer& names) {
+void CanvasPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer& names) {
   const CanvasPoint mark = line.Middle();
   drawing_.shapes.emplace_back(
       LineShape{static_cast<double>(line.from.x), static_cast<double>(line.from.y),
@@ -66,7 +66,7 @@ void TrussPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer&
   marks_[{member.family, member.index}] = {mark.x, mark.y};
 }
 
-void TrussPainter::DrawArrow(const FootPoint& node) {
+void CanvasPainter::DrawArrow(const FootPoint& node) {
   const auto place = Place(node);
   if (!place) return;
   const double x = place->x;
@@ -79,22 +79,22 @@ void TrussPainter::DrawArrow(const FootPoint& node) {
   stroke(x + kHeadWidth, tip - kHeadHeight);
 }
 
-void TrussPainter::DrawNodeName(const FootPoint& node, NodeSide side, bool level,
-                                const std::string& name) {
+void CanvasPainter::DrawNodeName(const FootPoint& node, NodeSide side, bool level,
+                                 const std::string& name) {
   const auto place = Place(node);
   if (!place) return;
   const Offset offset = NodeNameOffset(side, level, SizeOf(name, drawing_.textHeight));
   Text(place->x + offset.x, place->y + offset.y, name);
 }
 
-std::optional<CanvasPoint> TrussPainter::Place(const FootPoint& point) {
+std::optional<CanvasPoint> CanvasPainter::Place(const FootPoint& point) {
   const auto x = Whole(view_.CanvasOriginX + point.x * view_.PixelsPerFootX);
   const auto y = Whole(view_.CanvasOriginY - point.y * view_.PixelsPerFootY);
   if (!x || !y) return std::nullopt;
   return CanvasPoint{*x, *y};
 }
 
-std::optional<int> TrussPainter::Whole(const Number& coordinate) {
+std::optional<int> CanvasPainter::Whole(const Number& coordinate) {
   const Number whole = RoundHalfEven(coordinate);
   using Limits = std::numeric_limits<std::int16_t>;
   if (whole >= Limits::min() && whole <= Limits::max()) return static_cast<int>(whole.value());
@@ -106,7 +106,7 @@ std::optional<int> TrussPainter::Whole(const Number& coordinate) {
   return std::nullopt;
 }
 
-void TrussPainter::Text(double x, double y, const std::string& text) {
+void CanvasPainter::Text(double x, double y, const std::string& text) {
   drawing_.shapes.emplace_back(TextShape{x, y, text, Colour::Black});
 }
 
