@@ -1,0 +1,123 @@
+#pragma once
+
+#include "tests/plywood/table.h"
+
+namespace lignara::published {
+
+// clang-format off
+
+/// Each veneer grade and its description.
+inline const Rows kVeneerGrades = {
+    {"N",
+     {"Smooth surface, Natural finish veneer. Select, all heartwood",
+      "or all sapwood. Free of open defects. Allows not more than 6 repairs,",
+      "wood only, per 4X8 panel, made parallel to grain and well matched for ",
+      "grain and color."}},
+    {"A",
+     {"Smooth, paintable. Not more than 18 neatly made repairs, boat, sled,",
+      "or router type, and parallel to grain, permitted. May be used for natural",
+      "finish in less demanding applications. Synthetic repairs permitted."}},
+    {"B",
+     {"Solid surface. Shims, circular repair plugs and tight knots to 1 inch",
+      "across grain permitted. Some minor splits permitted. Synthetic ",
+      "repairs permitted."}},
+    {"C (Plugged)",
+     {"Improved C veneer with splits limited to 1/8-inch width and knotholes",
+      "and borer holes limited to 1/4 X 1/2 inch. Admits some broken grain.",
+      "Synthetic repairs permitted."}},
+    {"C",
+     {"Tight knots to 1-1/2 inch. Knotholes to 1 inch across grain and some",
+      "to 1-1/2 inch if total width of knots and knotholes is within specified",
+      "limits. Synthetic or wood repairs. Discoloration and sanding defects",
+      "that do not impair strength permitted. Limited splits allowed. Stitching",
+      "permitted."}},
+    {"D",
+     {"Knots and knotholes to 2-1/2 inch width across grain and ",
+      "1/2 inch larger within specified limits. Limited splits ",
+      "are permitted. Stitching permitted. Limited to Exposure 1 ",
+      "or interor panels."}},
+};
+
+/// Each exposure level and its description.
+inline const Rows kExposureLevels = {
+    {"Exterior",
+     {"Panels have a fully waterproof bond and are",
+      "designed for applications subject to permanent",
+      "exposure to the weather or to moisture."}},
+    {"Exposure 1",
+     {"Panels have a fully waterproof bond and are",
+      "designed for applications where long construction",
+      "delays may be expected prior to providing",
+      "protection, or where high moisture conditions may",
+      "be encountered in service. Exposure level 1",
+      "panels are made with the same exterior adhesives",
+      "used in Exterior panels. However, because other",
+      "compositional factors may affect bond performance,",
+      "only Exterior panels should be used for permanent",
+      "exposure to the weather."}},
+    {"Exposure 2",
+     {"Panels (identified as interor type with ",
+      "intermediate glue under PS 1) are intended for",
+      "protection construction applications where only",
+      "moderate delays in providing protection from",
+      "moisture may be expected."}},
+    {"Interior",
+     {"Panels which lack further glueline information in",
+      "their trademarks are manufactured with interior glue",
+      "and are intended for interior applications only."}},
+};
+
+/// Each group and its species.
+inline const Rows kSpeciesGroups = {
+    {"Group 1",
+     {"Apitong",
+      "Beech (American)",
+      "Birch (Sweet, Yellow)",
+      "Douglas Fir 1",
+      "Kapur",
+      "Keruing",
+      "Larch (Western)",
+      "Maple (Sugar)",
+      "Pine (Caribbean, Ocote)",
+      "Southern Pine (Loblolly,Longleaf, Shortleaf Slash)",
+      "Tanoak"}},
+    {"Group 2",
+     {"Port Cedar (Orford)",
+      "Cypress",
+      "Douglas Fir 2",
+      "Fir (Balsam, California Red, Grand, Noble, Pacific Silver, White)",
+      "Hemlock (Western)",
+      "Lauan (Almon, Bagtikan, Mayapis, Red, Tangile, White)",
+      "Maple (Black)",
+      "Mengkulang",
+      "Meranti (Red)",
+      "Mersawa",
+      "Pine (Pond, Red, Virginia, Western White)",
+      "Spruce (Black, Red, Sitka)",
+      "Sweetgum",
+      "Tamarack",
+      "Yellow-Poplar"}},
+    {"Group 3",
+     {"Alder (Red)",
+      "Birch (Paper)",
+      "Cedar (Alaska)",
+      "Fir (Subalpine)",
+      "Hemlock (Eastern)",
+      "Maple (Bigleaf)",
+      "Pine (Jack, Lodgepole, Ponderosa, Spruce)",
+      "Redwood",
+      "Spruce (Engelmann, White)"}},
+    {"Group 4",
+     {"Aspen (Bigtooth, Quaking)",
+      "Cativo",
+      "Cedar (Incense, Western Red)",
+      "Cottonwood (Eastern, Black)",
+      "Pine (Eastern White, Sugar)"}},
+    {"Group 5",
+     {"Basswood",
+      "Poplar (Balsam)"}},
+};
+
+// clang-format on
+
+}  // namespace lignara::published
