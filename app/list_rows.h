@@ -16,6 +16,16 @@ struct ListRows {
   std::string Chosen() const { return Has(row) ? rows[static_cast<std::size_t>(row)] : ""; }
 };
 
+/// What stands beside a row of a list, not in its text: a note at its right end, such as "C" for
+/// compression, and a tint where the row's value is beyond what is allowed.
+struct RowNote {
+  std::string note;
+  std::string spoken;  ///< the note in words, for screen readers and as a tip
+  bool warned = false;
+
+  bool operator==(const RowNote&) const = default;
+};
+
 /// A list as the program's result lists begin: a blank first row, so that nothing is chosen by the
 /// row that is on top.
 inline std::vector<std::string> RowsBelowBlank() { return {""}; }

@@ -197,6 +197,18 @@ Number ReadNumber(std::string_view text) {
   return negative ? Number(-value) : Number(value);
 }
 
+std::string ReadingNote(std::string_view text) {
+  const std::size_t start = text.find_first_not_of(" \t");
+  if (start == std::string_view::npos) return "";
+  text.remove_prefix(start);
+  const std::size_t sign = text.front() == '-' || text.front() == '+' ? 1 : 0;
+  const std::size_t digits = UnsignedPrefix(text.substr(sign)).size();
+  if (digits == 0) return "read as 0";
+  const std::size_t end = sign + digits;
+  if (text.find_first_not_of(" \t", end) == std::string_view::npos) return "";
+  return "read as " + std::string(text.substr(0, end));
+}
+
 std::string FormatNumber(double number, std::string_view pattern) {
   return Format(ToDecimal(number, kDigits64), pattern);
 }

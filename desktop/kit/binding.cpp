@@ -10,7 +10,10 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include "desktop/kit/field_mark.h"
+#include "desktop/kit/list_notes.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/row_copy.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
@@ -43,6 +46,11 @@ int ChosenRow(const QListWidget* list) {
 }
 
 void Binding::Field(QLineEdit* field, std::string* text, Command typed) {
+  MarkReading(field);
+  Words(field, text, std::move(typed));
+}
+
+void Binding::Words(QLineEdit* field, std::string* text, Command typed) {
   QObject::connect(field, &QLineEdit::textEdited, [this, text, typed](const QString& now) {
     Run([&] {
       *text = FromQt(now);
@@ -67,6 +75,7 @@ void Binding::Text(QLabel* label, const std::string* text) {
 void Binding::List(QListWidget* list, const std::vector<std::string>* rows, const int* row,
                    RowCommand chosen) {
   list->setUniformItemSizes(true);
+  MakeCopyable(list);
   Follow([list, rows, row, shown = std::vector<std::string>()]() mutable {
     const QSignalBlocker silent(list);
     if (shown != *rows || list->count() != static_cast<int>(rows->size())) {
@@ -78,7 +87,10 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
     }
     if (row != nullptr && ChosenRow(list) != *row) list->setCurrentRow(*row);
   });
-  if (!chosen) return;
+  if (!chosen) {
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    return;
+  }
   const auto choose = [this, chosen](int at) {
     if (at >= 0) Run([&] { chosen(at); });
   };
@@ -88,6 +100,29 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
     if (QGuiApplication::mouseButtons() == Qt::NoButton && ChosenRow(list) == at) choose(at);
   });
   new ReleaseWatcher(list->viewport(), [list, choose] { choose(ChosenRow(list)); });
+}
+
+void Binding::Notes(QListWidget* list, const std::vector<RowNote>* notes) {
+  ShowNotesOf(list);
+  Follow([list, notes] {
+    for (int row = 0; row < list->count(); ++row) {
+      const auto at = static_cast<std::size_t>(row);
+      SetRowNote(list->item(row), at < notes->size() ? (*notes)[at] : RowNote());
+    }
+  });
+}
+
+void Binding::WhyEmpty(QListWidget* list, std::function<std::string()> reason) {
+  QLabel* words = AddReasonLabel(list);
+  Follow([list, words, reason] {
+    const QString text = IsEmptyList(list) ? ToQt(reason()) : QString();
+    if (words->text() != text) words->setText(text);
+    words->setVisible(!text.isEmpty());
+  });
+}
+
+void Binding::OutOfDate(QWidget* result, Condition outOfDate) {
+  Follow([result, outOfDate] { SetOutOfDate(result, outOfDate()); });
 }
 
 void Binding::Press(QAbstractButton* button, Command command) {

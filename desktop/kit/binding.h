@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/drawing.h"
+#include "app/list_rows.h"
 
 class QAbstractButton;
 class QAction;
@@ -34,15 +35,25 @@ class Binding {
   /// `afterCommand` makes all open windows show their records.
   explicit Binding(Command afterCommand) : afterCommand_(std::move(afterCommand)) {}
 
-  /// A text that the user types. `typed`, if any, runs after each change by the user.
+  /// A number that the user types. `typed`, if any, runs after each change by the user. A text that
+  /// is not wholly a number is marked, with the number that it is read as.
   void Field(QLineEdit* field, std::string* text, Command typed = {});
+  /// The same for words, such as a title: nothing is marked.
+  void Words(QLineEdit* field, std::string* text, Command typed = {});
   /// A text that the window only shows.
   void Text(QLabel* label, const std::string* text);
   void Text(QLineEdit* field, const std::string* text);
   /// A list and its chosen row (-1 none). `chosen` runs after a click or a move by keyboard; a list
-  /// that is only read has none.
+  /// that is only read has none, and lets the user mark several rows. Any list can be copied as
+  /// text.
   void List(QListWidget* list, const std::vector<std::string>* rows, const int* row = nullptr,
             RowCommand chosen = {});
+  /// What stands beside the rows of a list, row by row; fewer notes than rows are legal.
+  void Notes(QListWidget* list, const std::vector<RowNote>* notes);
+  /// Why a list is empty, in grey words in its room. No words where it is empty for good reason.
+  void WhyEmpty(QListWidget* list, std::function<std::string()> reason);
+  /// Greys a result while it is older than what it was worked out from.
+  void OutOfDate(QWidget* result, Condition outOfDate);
   void Press(QAbstractButton* button, Command command);
   void Menu(QAction* action, Command command);
   /// A check box or one option of a group.

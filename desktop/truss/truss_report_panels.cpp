@@ -39,7 +39,7 @@ QGroupBox* MakeHeadingsPanel(TrussWindow& window, Binding& binding, SessionState
        {std::pair{"Title", &window.titleText}, std::pair{"Description", &window.descriptionText}}) {
     QLineEdit* field = AddField(grid, caption, 220);
     field->setAlignment(Qt::AlignLeft);
-    binding.Field(field, text);
+    binding.Words(field, text);
   }
   rows->addLayout(grid);
   auto* ok = new QPushButton("OK");

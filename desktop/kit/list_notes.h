@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/list_rows.h"
+
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+class QWidget;
+
+namespace lignara {
+
+/// From now on the list paints the notes and tints of its rows.
+void ShowNotesOf(QListWidget* list);
+void SetRowNote(QListWidgetItem* row, const RowNote& note);
+
+/// True where a list has no row with a text.
+bool IsEmptyList(const QListWidget* list);
+/// A label in the room of a list, for the reason why it is empty.
+QLabel* AddReasonLabel(QListWidget* list);
+
+/// Greys the text of a result, with a tip that says why; takes it back again.
+void SetOutOfDate(QWidget* result, bool outOfDate);
+
+}  // namespace lignara
