@@ -105,10 +105,12 @@ std::string FieldFile::ReadText() { return Next().value_or(""); }
 double FieldFile::ReadValue() {
   const std::string field = Next().value_or("");
   const Number number = ReadNumber(field);
-  if (number.fault() != Fault::None) Report("A number in " + fileName_ + " is too large");
-  if (!field.empty() && !StartsWithNumber(field)) {
-    Report("A number in " + fileName_ + " cannot be read");
-  }
+  const auto fail = [this](const char* how) {
+    lastFieldRead_ = false;
+    Report("A number in " + fileName_ + how);
+  };
+  if (number.fault() != Fault::None) fail(" is too large");
+  if (!field.empty() && !StartsWithNumber(field)) fail(" cannot be read");
   return number.value();
 }
 
@@ -123,6 +125,7 @@ int FieldFile::ReadCount() {
 
 std::optional<std::string> FieldFile::Next() {
   std::optional<std::string> field = fields_.Next();
+  lastFieldRead_ = field.has_value();
   if (!field && !missing_) Report("The file " + fileName_ + " is too short");
   return field;
 }

@@ -52,6 +52,8 @@ class FieldFile {
   /// The next field as the count of the records that follow: 0 to 32767. What is no such number is
   /// 0, and a negative count too.
   int ReadCount();
+  /// False where the last field asked for was missing, no number, or too large.
+  bool LastFieldRead() const { return lastFieldRead_; }
   /// True where no further field can be read.
   bool AtEnd() { return fields_.AtEnd(); }
 
@@ -64,6 +66,7 @@ class FieldFile {
   std::string fileName_;
   FieldStream fields_;
   bool missing_ = false;
+  bool lastFieldRead_ = true;
   std::string lastReport_;
 };
 

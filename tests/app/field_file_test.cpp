@@ -210,6 +210,19 @@ TEST_F(FieldFileTest, NumberTooLargeIsZeroAndShownOnce) {
   EXPECT_EQ(platform.TakeTexts(), Texts{"A number in TEST.CSV is too large"});
 }
 
+TEST_F(FieldFileTest, KnowsWhetherTheLastFieldWasRead) {
+  FieldFile file = Open("a,x,5,1e999,,7 in,-3\n");
+  EXPECT_TRUE(file.LastFieldRead());
+  file.ReadText();
+  EXPECT_TRUE(file.LastFieldRead());
+  for (const bool read : {false, true, false, true, true, true}) {
+    file.ReadValue();
+    EXPECT_EQ(file.LastFieldRead(), read);
+  }
+  file.ReadText();
+  EXPECT_FALSE(file.LastFieldRead());
+}
+
 /// Whatever the bytes are, the stream gives at most one field a byte, none with a line end in it,
 /// and comes to its end.
 void ExpectStreamSurvives(const std::string& bytes) {
