@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/sketch_pen.h"
 #include "truss/member_layout.h"
 
 namespace lignara {
@@ -10,10 +11,12 @@ namespace {
 constexpr double kUnitsPerFoot = 100;
 constexpr double kMargin = 200;
 constexpr double kTextHeight = 220;
-constexpr double kLetterWidth = 110;
 /// Of a dimension line from what it measures.
 constexpr double kDimensionGap = 250;
-constexpr double kTick = 60;
+/// Room for the name of a height beside its line.
+constexpr double kHeightNameWidth = 280;
+
+constexpr double kRiseNameWidth = 550;
 
 constexpr double kExampleLength = 30;
 constexpr double kFlatHeight = 5;
@@ -41,46 +44,27 @@ TrussShape ExampleShape(std::string_view trussType) {
   return s;
 }
 
-/// A picture that grows shape by shape, measured in feet from the left support.
-class Sketch {
+/// A picture of a truss, measured in feet from the left support.
+class Sketch : public SketchPen {
  public:
   Sketch(const TrussShape& shape, double right, double below)
-      : baseY_(kMargin + shape.height.value() * kUnitsPerFoot) {
-    drawing.width = 2 * kMargin + shape.length.value() * kUnitsPerFoot + right;
-    drawing.height = baseY_ + kMargin + below;
-    drawing.textHeight = kTextHeight;
+      : SketchPen(2 * kMargin + shape.length.value() * kUnitsPerFoot + right,
+                  Base(shape) + kMargin + below, kTextHeight),
+        baseY_(Base(shape)) {
     for (const MemberLine& line : LayoutOf(shape)) {
       Line(X(line.from.x.value()), Y(line.from.y.value()), X(line.to.x.value()),
-           Y(line.to.y.value()), Colour::Black);
+           Y(line.to.y.value()));
     }
   }
 
   double X(double feet) const { return kMargin + feet * kUnitsPerFoot; }
   double Y(double feet) const { return baseY_ - feet * kUnitsPerFoot; }
 
-  void Line(double x1, double y1, double x2, double y2, Colour colour) {
-    drawing.shapes.emplace_back(LineShape{x1, y1, x2, y2, colour});
-  }
-
-  /// A level dimension line with its name above the middle.
-  void LevelDimension(double x1, double x2, double y, const std::string& name) {
-    Line(x1, y, x2, y, Colour::Gray);
-    for (const double x : {x1, x2}) Line(x, y - kTick, x, y + kTick, Colour::Gray);
-    const double width = kLetterWidth * static_cast<double>(name.size());
-    drawing.shapes.emplace_back(TextShape{(x1 + x2 - width) / 2, y + kTick, name, Colour::Black});
-  }
-
-  /// An upright dimension line with its name to the right of the middle.
-  void UprightDimension(double x, double y1, double y2, const std::string& name) {
-    Line(x, y1, x, y2, Colour::Gray);
-    for (const double y : {y1, y2}) Line(x - kTick, y, x + kTick, y, Colour::Gray);
-    drawing.shapes.emplace_back(
-        TextShape{x + kTick, (y1 + y2 - kTextHeight) / 2, name, Colour::Black});
-  }
-
-  Drawing drawing;
-
  private:
+  static double Base(const TrussShape& shape) {
+    return kMargin + shape.height.value() * kUnitsPerFoot;
+  }
+
   double baseY_;
 };
 
@@ -89,20 +73,19 @@ void AddHeight(Sketch& sketch, const TrussShape& shape) {
   const double x = sketch.X(kExampleLength) + kDimensionGap;
   const double top = sketch.Y(shape.height.value());
   const double corner = HasLevelTop(shape.type) ? kExampleLength : kExampleLength / 2;
-  sketch.Line(sketch.X(corner) + kTick, top, x, top, Colour::Gray);
+  sketch.Line(sketch.X(corner) + sketch.tick(), top, x, top, Colour::Gray);
   sketch.UprightDimension(x, top, sketch.Y(0), "H");
 }
 
 }  // namespace
 
 Drawing TypePicture(std::string_view trussType) {
-  return Sketch(ExampleShape(trussType), 0, 0).drawing;
+  return Sketch(ExampleShape(trussType), 0, 0).drawing();
 }
 
 Drawing ExampleSketch(std::string_view trussType) {
   const TrussShape shape = ExampleShape(trussType);
-  const double textWidth = kTick + 2 * kLetterWidth;
-  Sketch sketch(shape, kDimensionGap + textWidth, kDimensionGap + kTextHeight);
+  Sketch sketch(shape, kDimensionGap + kHeightNameWidth, kDimensionGap + kTextHeight);
   if (LayoutOf(shape).empty()) return {};
   sketch.LevelDimension(sketch.X(0), sketch.X(kExampleLength), sketch.Y(0) + kDimensionGap,
                         "Total Length");
@@ -111,24 +94,19 @@ Drawing ExampleSketch(std::string_view trussType) {
     sketch.UprightDimension(sketch.X(kExampleLength / 2), sketch.Y(kScissorsInnerHeight),
                             sketch.Y(0), "H1");
   }
-  return sketch.drawing;
+  return sketch.drawing();
 }
 
 Drawing SlopeSketch() {
   TrussShape nothing;
   nothing.length = 12.0;
   nothing.height = 5.0;
-  Sketch sketch(nothing, 5 * kLetterWidth, kTextHeight);
+  Sketch sketch(nothing, kRiseNameWidth, kTextHeight);
   const double left = sketch.X(0), right = sketch.X(12), base = sketch.Y(0), top = sketch.Y(5);
-  sketch.Line(left, base, right, base, Colour::Black);
-  sketch.Line(right, base, right, top, Colour::Black);
-  sketch.Line(right, top, left, base, Colour::Black);
-  const auto text = [&](double x, double y, const char* name) {
-    sketch.drawing.shapes.emplace_back(TextShape{x, y, name, Colour::Black});
-  };
-  text(right + kTick, (base + top - kTextHeight) / 2, "Rise");
-  text((left + right) / 2 - 1.5 * kLetterWidth, base + kTick, "Run");
-  return sketch.drawing;
+  sketch.Path({{left, base}, {right, base}, {right, top}, {left, base}});
+  sketch.Text(right + sketch.tick(), (base + top - kTextHeight) / 2, "Rise");
+  sketch.Text((left + right - sketch.TextWidth("Run")) / 2, base + sketch.tick(), "Run");
+  return sketch.drawing();
 }
 
 }  // namespace lignara

@@ -7,31 +7,16 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/drawn_shapes.h"
+
 namespace lignara {
 namespace {
 
 const char* const kTypes[] = {"PRATT1", "FINK",   "ENGLISH", "KINGPOST",
                               "SCI",    "PRATT2", "HOWE",    "WARREN"};
 
-std::vector<std::string> Texts(const Drawing& drawing) {
-  std::vector<std::string> texts;
-  for (const Shape& shape : drawing.shapes) {
-    if (const auto* text = std::get_if<TextShape>(&shape)) texts.push_back(text->text);
-  }
-  return texts;
-}
-
-std::vector<LineShape> Lines(const Drawing& drawing, Colour colour) {
-  std::vector<LineShape> lines;
-  for (const Shape& shape : drawing.shapes) {
-    const auto* line = std::get_if<LineShape>(&shape);
-    if (line != nullptr && line->colour == colour) lines.push_back(*line);
-  }
-  return lines;
-}
-
 void ExpectInside(const Drawing& drawing, const std::string& name) {
-  for (const LineShape& line : Lines(drawing, Colour::Black)) {
+  for (const LineShape& line : DrawnLines(drawing, Colour::Black)) {
     for (const double x : {line.x1, line.x2}) {
       EXPECT_GE(x, 0) << name;
       EXPECT_LE(x, drawing.width) << name;
@@ -60,7 +45,7 @@ TEST(TypePicture, ShowsTheMembersOfTheTypeAndNothingElse) {
   for (const auto& [type, count] : members) {
     const Drawing picture = TypePicture(type);
     EXPECT_EQ(picture.shapes.size(), count) << type;
-    EXPECT_EQ(Lines(picture, Colour::Black).size(), count) << type;
+    EXPECT_EQ(DrawnLines(picture, Colour::Black).size(), count) << type;
     ExpectInside(picture, type);
   }
 }
@@ -69,7 +54,7 @@ TEST(TypePicture, NoTwoTypesLookAlike) {
   std::set<std::vector<std::vector<double>>> pictures;
   for (const char* type : kTypes) {
     std::vector<std::vector<double>> lines;
-    for (const LineShape& line : Lines(TypePicture(type), Colour::Black)) {
+    for (const LineShape& line : DrawnLines(TypePicture(type), Colour::Black)) {
       lines.push_back({line.x1, line.y1, line.x2, line.y2});
     }
     std::sort(lines.begin(), lines.end());
@@ -79,7 +64,7 @@ TEST(TypePicture, NoTwoTypesLookAlike) {
 
 TEST(TypePicture, IsTrueToShape) {
   // A king post of 30 ft by 9 ft: the rafter rises 3 in 5.
-  const LineShape rafter = Lines(TypePicture("KINGPOST"), Colour::Black)[0];
+  const LineShape rafter = DrawnLines(TypePicture("KINGPOST"), Colour::Black)[0];
   EXPECT_DOUBLE_EQ((rafter.y1 - rafter.y2) / (rafter.x2 - rafter.x1), 0.6);
 }
 
@@ -93,9 +78,9 @@ TEST(ExampleSketch, NamesItsDimensions) {
     const Drawing sketch = ExampleSketch(type);
     std::vector<std::string> expected = {"Total Length", "H"};
     if (std::string(type) == "SCI") expected.push_back("H1");
-    EXPECT_EQ(Texts(sketch), expected) << type;
-    EXPECT_FALSE(Lines(sketch, Colour::Gray).empty()) << type;
-    EXPECT_EQ(Lines(sketch, Colour::Black).size(), TypePicture(type).shapes.size()) << type;
+    EXPECT_EQ(DrawnTexts(sketch), expected) << type;
+    EXPECT_FALSE(DrawnLines(sketch, Colour::Gray).empty()) << type;
+    EXPECT_EQ(DrawnLines(sketch, Colour::Black).size(), TypePicture(type).shapes.size()) << type;
     ExpectInside(sketch, type);
   }
 }
@@ -103,10 +88,10 @@ TEST(ExampleSketch, NamesItsDimensions) {
 // The total length is measured from heel to heel, below the truss.
 TEST(ExampleSketch, DimensionLineRunsBetweenTheSupports) {
   const Drawing sketch = ExampleSketch("KINGPOST");
-  const auto members = Lines(sketch, Colour::Black);
+  const auto members = DrawnLines(sketch, Colour::Black);
   const LineShape& leftRafter = members[0];
   const LineShape& rightRafter = members[1];
-  const LineShape length = Lines(sketch, Colour::Gray)[0];
+  const LineShape length = DrawnLines(sketch, Colour::Gray)[0];
   EXPECT_EQ(length.x1, leftRafter.x1);
   EXPECT_EQ(length.x2, rightRafter.x1);
   EXPECT_EQ(length.y1, length.y2);
@@ -115,8 +100,8 @@ TEST(ExampleSketch, DimensionLineRunsBetweenTheSupports) {
 
 TEST(SlopeSketch, IsARightTriangleWithRiseAndRun) {
   const Drawing sketch = SlopeSketch();
-  EXPECT_EQ(Texts(sketch), (std::vector<std::string>{"Rise", "Run"}));
-  const auto lines = Lines(sketch, Colour::Black);
+  EXPECT_EQ(DrawnTexts(sketch), (std::vector<std::string>{"Rise", "Run"}));
+  const auto lines = DrawnLines(sketch, Colour::Black);
   ASSERT_EQ(lines.size(), 3u);
   EXPECT_EQ(lines[0].y1, lines[0].y2);  // the run is level
   EXPECT_EQ(lines[1].x1, lines[1].x2);  // the rise upright
