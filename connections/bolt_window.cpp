@@ -1,0 +1,90 @@
+#include "connections/bolt_window.h"
+
+#include "app/fault.h"
+#include "app/field_number.h"
+#include "app/number_text.h"
+#include "connections/bolt_shear.h"
+#include "connections/bolt_sketches.h"
+#include "connections/rod_table.h"
+
+namespace lignara {
+namespace {
+
+constexpr double kPi = 3.14159;
+
+/// Reads the fields. Single shear has no third member, so its field is emptied first.
+ShearJoint ReadJoint(BoltWindow& window) {
+  ShearJoint joint;
+  joint.options = window.options;
+  if (joint.options.IsSingleShear()) window.L3.clear();
+  joint.BoltIndex = window.bolts.row;
+  joint.L1 = ReadNumber(window.L1);
+  joint.L2 = ReadNumber(window.L2);
+  joint.L3 = ReadNumber(window.L3);
+  joint.theta = ReadNumber(window.A) * (kPi / 180);
+  return joint;
+}
+
+}  // namespace
+
+void OpenBoltWindow(BoltWindow& window, const SessionState& session, Platform& platform) {
+  window = BoltWindow();
+  window.table = ReadBoltValues(session.DataDirectory, platform);
+  window.bolts = {{std::begin(kShearBolts), std::end(kShearBolts)}, 0};
+  for (const RodSize& rod : RodTable) window.rods.rows.emplace_back(rod.size);
+  window.rods.row = 0;
+  window.jointSketch = JointSketch(window.options.IsSingleShear());
+  window.angleSketch = LoadAngleSketch();
+  window.rodSketch = TensionRodSketch();
+}
+
+void ChooseJointOption(BoltWindow& window, const JointOptionGroup& group, int choice) {
+  if (choice < 0 || choice >= static_cast<int>(group.choices.size())) return;
+  window.options.*group.chosen = static_cast<std::int16_t>(choice);
+  window.jointSketch = JointSketch(window.options.IsSingleShear());
+}
+
+void ChooseBolt(BoltWindow& window, int row) {
+  if (window.bolts.Has(row)) window.bolts.row = row;
+}
+
+void ComputeShear(BoltWindow& window, Platform& platform) {
+  FaultScope faults(platform);
+  const ShearJoint joint = ReadJoint(window);
+  if (const char* refusal = ShearRefusal(joint)) {
+    platform.ShowMessage({refusal});
+    return;
+  }
+  const GrainLoads loads = ShearLoads(joint, window.table);
+  const Float32 atAngle = LoadAtAngle(loads, joint.theta);
+  window.parallel = FormatNumber(loads.parallel, kTwoDecimals);
+  window.perpendicular = FormatNumber(loads.perpendicular, kTwoDecimals);
+  window.atAngle = FormatNumber(atAngle, kTwoDecimals);
+}
+
+void ChooseRod(BoltWindow& window, Platform& platform, int row) {
+  if (!window.rods.Has(row)) return;
+  window.rods.row = row;
+  ComputeTension(window, platform);
+}
+
+void ComputeTension(BoltWindow& window, Platform& platform) {
+  FaultScope faults(platform);
+  const Number boltStress = ReadNumber(window.boltStress);
+  const Number woodStress = ReadNumber(window.woodStress);
+  // One that is too large has shown its box, and the results stay.
+  if (!FieldNumber(boltStress) || !FieldNumber(woodStress)) return;
+  if (!(boltStress > 0) || !(woodStress > 0)) {
+    platform.ShowMessage(
+        {"WOOD AND STEEL ALLOWABLE STRESS IN TENSION SECTION MUST BE GREATER THAN 0"});
+    return;
+  }
+  const RodSize& rod = RodTable[static_cast<std::size_t>(window.rods.row)];
+  const Float32 load = rod.area * boltStress * 1000;
+  const Float32 side = Sqrt(load / woodStress);
+  window.load = FormatNumber(load, kTwoDecimals);
+  window.plateSide = FormatNumber(side, kTwoDecimals);
+  window.plateThickness = rod.plateThickness;
+}
+
+}  // namespace lignara
