@@ -38,6 +38,9 @@ class Platform {
   virtual void OpenWindow(const std::string& name) = 0;
   /// Closes the window of this name; nothing where it is not open.
   virtual void CloseWindow(const std::string& name) = 0;
+  /// Takes the window of this name off the screen as it stands; OpenWindow shows it again. Nothing
+  /// where it is not open.
+  virtual void HideWindow(const std::string& name) = 0;
   /// False for a window that this version of the program does not have yet.
   virtual bool HasWindow(const std::string& name) const = 0;
 

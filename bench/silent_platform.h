@@ -16,6 +16,7 @@ class SilentPlatform : public Platform {
   std::optional<std::string> ChooseSaveFile(const std::string&) override { return std::nullopt; }
   void OpenWindow(const std::string&) override {}
   void CloseWindow(const std::string&) override {}
+  void HideWindow(const std::string&) override {}
   bool HasWindow(const std::string&) const override { return true; }
   void PrintReport(const Report&) override {}
   void ShowHelp(const std::string&, const std::string&) override {}

@@ -184,9 +184,7 @@ void ScriptPlayer::Window(const Words& words) {
   const QString before = window_;
   window_ = words[0].text;
   try {
-    ToolWindow* window = Current();
-    window->raise();
-    window->activateWindow();
+    platform_.Activate(Current());
   } catch (const ScriptError&) {
     window_ = before;
     throw;

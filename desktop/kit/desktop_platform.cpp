@@ -19,6 +19,12 @@
 namespace lignara {
 namespace {
 
+ToolWindow* FindIn(const std::vector<ToolWindow*>& windows, const QString& name) {
+  const auto found = std::find_if(windows.begin(), windows.end(),
+                                  [&](const ToolWindow* w) { return w->name() == name; });
+  return found == windows.end() ? nullptr : *found;
+}
+
 /// "Text(*.txt)|*.txt|All(*.*)|*.*|" as Qt writes it: "Text(*.txt);;All(*)".
 QString QtFilter(const std::string& filter) {
   const QStringList parts = ToQt(filter).split('|', Qt::SkipEmptyParts);
@@ -33,6 +39,7 @@ QString QtFilter(const std::string& filter) {
 }  // namespace
 
 DesktopPlatform::~DesktopPlatform() {
+  windows_.insert(windows_.begin(), hidden_.begin(), hidden_.end());
   while (!windows_.empty()) {
     ToolWindow* newest = windows_.back();
     windows_.pop_back();
@@ -74,20 +81,53 @@ std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& fi
 void DesktopPlatform::OpenWindow(const std::string& name) {
   assert(IsWindowName(name));
   ToolWindow* window = FindWindow(ToQt(name));
-  const WindowKind* kind = FindWindowKind(name);
-  if (window == nullptr && kind != nullptr) {
-    window = kind->make({session_, *this});
-    // A window opened from a modal one belongs to it, so that it is not locked out with the rest.
-    if (ToolWindow* modal = NewestModal()) window->setParent(modal, window->windowFlags());
-    if (kind->modal) window->setWindowModality(Qt::ApplicationModal);
+  if (window == nullptr) {
+    window = FindIn(hidden_, ToQt(name));
+    std::erase(hidden_, window);
+    if (window == nullptr) window = MakeWindow(name);
+    if (window == nullptr) return;
     windows_.push_back(window);
-    Place(window);
     window->Refresh();
     window->show();
   }
+  Activate(window);
+}
+
+ToolWindow* DesktopPlatform::MakeWindow(const std::string& name) {
+  const WindowKind* kind = FindWindowKind(name);
+  if (kind == nullptr) return nullptr;
+  ToolWindow* window = kind->make({session_, *this});
+  // A window opened from a modal one belongs to it, so that it is not locked out with the rest.
+  if (ToolWindow* modal = NewestModal()) window->setParent(modal, window->windowFlags());
+  if (kind->modal) window->setWindowModality(Qt::ApplicationModal);
+  Place(window);
+  lastActive_ = window;  // opening it is no coming back
+  return window;
+}
+
+void DesktopPlatform::HideWindow(const std::string& name) {
+  assert(IsWindowName(name));
+  ToolWindow* window = FindWindow(ToQt(name));
   if (window == nullptr) return;
+  std::erase(windows_, window);
+  hidden_.push_back(window);
+  AdoptChildren(window);
+  // Its owner may be gone when it is shown again.
+  if (window->parentWidget() != nullptr) window->setParent(nullptr, window->windowFlags());
+  window->hide();
+  if (lastActive_ == window) lastActive_ = nullptr;
+}
+
+void DesktopPlatform::Activate(ToolWindow* window) {
   window->raise();
   window->activateWindow();
+  NoteActive(window);
+}
+
+void DesktopPlatform::NoteActive(ToolWindow* window) {
+  if (lastActive_ == window || FindIn(windows_, window->name()) != window) return;
+  lastActive_ = window;
+  window->CameBack();
 }
 
 void DesktopPlatform::Place(ToolWindow* window) {
@@ -103,8 +143,11 @@ void DesktopPlatform::Place(ToolWindow* window) {
 void DesktopPlatform::CloseWindow(const std::string& name) {
   assert(IsWindowName(name));
   ToolWindow* window = FindWindow(ToQt(name));
+  if (window == nullptr) window = FindIn(hidden_, ToQt(name));
   if (window == nullptr) return;
   std::erase(windows_, window);
+  std::erase(hidden_, window);
+  if (lastActive_ == window) lastActive_ = nullptr;
   AdoptChildren(window);
   window->CloseForGood();
   window->deleteLater();
@@ -146,9 +189,7 @@ void DesktopPlatform::SetBusyPointer(bool busy) {
 }
 
 ToolWindow* DesktopPlatform::FindWindow(const QString& name) const {
-  const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                  [&](const ToolWindow* w) { return w->name() == name; });
-  return found == windows_.end() ? nullptr : *found;
+  return FindIn(windows_, name);
 }
 
 QStringList DesktopPlatform::OpenWindows() const {

@@ -24,14 +24,20 @@ class DesktopPlatform : public Platform {
   std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
   void OpenWindow(const std::string& name) override;
   void CloseWindow(const std::string& name) override;
+  void HideWindow(const std::string& name) override;
   bool HasWindow(const std::string& name) const override;
   void PrintReport(const Report& report) override;
   void ShowHelp(const std::string& path, const std::string& section) override;
   void SetBusyPointer(bool busy) override;
 
-  /// The open window of a name; null where there is none.
+  /// The open window of a name, not hidden; null where there is none.
   ToolWindow* FindWindow(const QString& name) const;
-  /// The names of the open windows, the newest last.
+  /// Brings an open window to the front, as a click on it does.
+  void Activate(ToolWindow* window);
+  /// A window has become the active one. It is told when the user comes back to it from another
+  /// window of the program; boxes and dialogs are none.
+  void NoteActive(ToolWindow* window);
+  /// The names of the open windows, the newest last; a hidden one is not open.
   QStringList OpenWindows() const;
   /// True while a modal window that was opened later keeps the user out of this one.
   bool IsBlocked(const ToolWindow* window) const;
@@ -45,8 +51,12 @@ class DesktopPlatform : public Platform {
   /// Windows that belong to one that closes live on with its own parent.
   void AdoptChildren(ToolWindow* closing);
 
+  ToolWindow* MakeWindow(const std::string& name);
+
   SessionState& session_;
   std::vector<ToolWindow*> windows_;  // in the order of opening
+  std::vector<ToolWindow*> hidden_;
+  const ToolWindow* lastActive_ = nullptr;
 };
 
 }  // namespace lignara

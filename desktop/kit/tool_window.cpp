@@ -65,6 +65,12 @@ QMenu* ToolWindow::AddHelpMenu() {
   return menu;
 }
 
+bool ToolWindow::event(QEvent* event) {
+  const bool handled = QMainWindow::event(event);
+  if (event->type() == QEvent::WindowActivate) platform().NoteActive(this);
+  return handled;
+}
+
 void ToolWindow::closeEvent(QCloseEvent* event) {
   if (closingForGood_) {
     event->accept();

@@ -33,6 +33,12 @@ class ToolWindow : public QMainWindow {
   /// Told after another window was closed.
   virtual void WindowClosed(const QString& /*name*/) {}
 
+  /// Told when the user comes back to the window from another window of the program, not from a box
+  /// or a dialog; opening the window is no coming back. A hidden one that is shown again is told.
+  void CameBack() {
+    binding_.Run([this] { Returned(); });
+  }
+
   /// Closes the window for good, without asking its close control.
   void CloseForGood();
 
@@ -44,6 +50,10 @@ class ToolWindow : public QMainWindow {
   /// The "&Help" menu with its item "Help", the same in all windows.
   QMenu* AddHelpMenu();
 
+  /// What the window does when the user comes back to it.
+  virtual void Returned() {}
+
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 

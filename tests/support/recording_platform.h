@@ -26,6 +26,7 @@ class RecordingPlatform : public Platform {
   std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
   void OpenWindow(const std::string& name) override { calls.push_back("open " + name); }
   void CloseWindow(const std::string& name) override { calls.push_back("close " + name); }
+  void HideWindow(const std::string& name) override { calls.push_back("hide " + name); }
   bool HasWindow(const std::string&) const override { return true; }
   void PrintReport(const Report& report) override { printed.push_back(report); }
   void ShowHelp(const std::string& path, const std::string& section) override {
@@ -37,7 +38,8 @@ class RecordingPlatform : public Platform {
   std::vector<std::string> TakeTexts();
 
   std::vector<Message> messages;
-  std::vector<std::string> calls;  ///< "open NAME", "close NAME", "busy on", "busy off"
+  std::vector<std::string>
+      calls;  ///< "open NAME", "close NAME", "hide NAME", "busy on", "busy off"
   std::vector<std::string> asked;
   std::vector<std::string> filters;
   std::vector<Report> printed;
