@@ -28,26 +28,26 @@ constexpr int kUnreadable = 100;
 constexpr std::size_t kMostMembers = 150;
 
 /// The corners aslant of a circle, in which a name is nearest to it.
-NameBox Aslant(CanvasPoint mark, bool right, bool above, NameSize size) {
+NameRoom Aslant(CanvasPoint mark, bool right, bool above, NameSize size) {
   return {right ? mark.x + kAslant : mark.x - kAslant - size.width,
           above ? mark.y - kAslant - size.height : mark.y + kAslant, size.width, size.height};
 }
 
 /// Right or left of a circle; `part` of the name's height lies above the circle's centre.
-NameBox Beside(CanvasPoint mark, bool right, double part, NameSize size) {
+NameRoom Beside(CanvasPoint mark, bool right, double part, NameSize size) {
   return {right ? mark.x + kBeside : mark.x - kBeside - size.width, mark.y - part * size.height,
           size.width, size.height};
 }
 
 /// Above or below a circle; `part` of the name's width lies left of the circle's centre.
-NameBox OverOrUnder(CanvasPoint mark, bool over, double part, NameSize size) {
+NameRoom OverOrUnder(CanvasPoint mark, bool over, double part, NameSize size) {
   return {mark.x - part * size.width, over ? mark.y - kBeside - size.height : mark.y + kBeside,
           size.width, size.height};
 }
 
 /// All places around a circle, the nearer ones first.
-std::vector<NameBox> PlacesAround(CanvasPoint mark, NameSize size) {
-  std::vector<NameBox> places;
+std::vector<NameRoom> PlacesAround(CanvasPoint mark, NameSize size) {
+  std::vector<NameRoom> places;
   for (const bool right : {true, false}) {
     for (const bool above : {false, true}) places.push_back(Aslant(mark, right, above, size));
   }
@@ -61,26 +61,28 @@ std::vector<NameBox> PlacesAround(CanvasPoint mark, NameSize size) {
 }
 
 /// How a line runs across the canvas, read from left to right.
-enum class Run { Level, Upright, Rising, Falling };
+enum class Direction { Level, Upright, Rising, Falling };
 
-Run RunOf(const CanvasLine& line) {
-  if (line.from.x == line.to.x) return Run::Upright;
-  if (line.from.y == line.to.y) return Run::Level;
-  return (line.to.x > line.from.x) == (line.to.y < line.from.y) ? Run::Rising : Run::Falling;
+Direction DirectionOf(const CanvasLine& line) {
+  if (line.from.x == line.to.x) return Direction::Upright;
+  if (line.from.y == line.to.y) return Direction::Level;
+  return (line.to.x > line.from.x) == (line.to.y < line.from.y) ? Direction::Rising
+                                                                : Direction::Falling;
 }
 
 /// The place from which the line leads away: outside of a top chord, to the right of a web.
-NameBox Preferred(Family family, Run run, CanvasPoint mark, NameSize size) {
-  const bool top = family == Family::TL || family == Family::TR;
-  if (run == Run::Upright) return Beside(mark, true, 0.5, size);
-  if (run == Run::Level) return OverOrUnder(mark, true, 0.5, size);
-  if (run == Run::Falling) return Aslant(mark, true, true, size);
-  return Aslant(mark, !top, top, size);
+NameRoom Preferred(Family family, Direction direction, CanvasPoint mark, NameSize size) {
+  // Of the top chord the left rafter alone rises.
+  const bool rafter = family == Family::TL;
+  if (direction == Direction::Upright) return Beside(mark, true, 0.5, size);
+  if (direction == Direction::Level) return OverOrUnder(mark, true, 0.5, size);
+  if (direction == Direction::Falling) return Aslant(mark, true, true, size);
+  return Aslant(mark, !rafter, rafter, size);
 }
 
-NameBox BottomBox(const CanvasLine& line, NameSize size) {
+NameRoom BottomRoom(const CanvasLine& line, NameSize size) {
   const CanvasPoint mark = line.Middle();
-  const double shift = RunOf(line) == Run::Falling ? -size.width : 0.0;
+  const double shift = DirectionOf(line) == Direction::Falling ? -size.width : 0.0;
   return {mark.x + shift, mark.y + kBelow, size.width, size.height};
 }
 
@@ -94,22 +96,22 @@ bool Clip(double start, double delta, double low, double high, double& from, dou
   return from <= to;
 }
 
-/// True where the line comes nearer to the box than its own thickness.
-bool Crosses(const CanvasLine& line, const NameBox& box) {
+/// True where the line comes nearer to the room than its own thickness.
+bool Crosses(const CanvasLine& line, const NameRoom& room) {
   double from = 0, to = 1;
-  return Clip(line.from.x, line.to.x - line.from.x, box.x - kClear, box.x + box.width + kClear,
+  return Clip(line.from.x, line.to.x - line.from.x, room.x - kClear, room.x + room.width + kClear,
               from, to) &&
-         Clip(line.from.y, line.to.y - line.from.y, box.y - kClear, box.y + box.height + kClear,
+         Clip(line.from.y, line.to.y - line.from.y, room.y - kClear, room.y + room.height + kClear,
               from, to);
 }
 
-bool Covers(const NameBox& box, CanvasPoint mark) {
-  const double dx = std::max({box.x - mark.x, 0.0, mark.x - box.x - box.width});
-  const double dy = std::max({box.y - mark.y, 0.0, mark.y - box.y - box.height});
+bool Covers(const NameRoom& room, CanvasPoint mark) {
+  const double dx = std::max({room.x - mark.x, 0.0, mark.x - room.x - room.width});
+  const double dy = std::max({room.y - mark.y, 0.0, mark.y - room.y - room.height});
   return std::hypot(dx, dy) < kMarkRadius;
 }
 
-bool Overlap(const NameBox& a, const NameBox& b) {
+bool Overlap(const NameRoom& a, const NameRoom& b) {
   return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
 }
 
@@ -140,24 +142,24 @@ NamePlacer::NamePlacer(const std::vector<CanvasLine>& lines)
   // The names of the bottom chord have no choice, so the others have to heed them.
   for (const CanvasLine& line : lines_) {
     if (!IsBottom(line.member.family)) continue;
-    taken_.push_back(BottomBox(line, SizeOf(MemberLabel(line.member), height_)));
+    taken_.push_back(BottomRoom(line, SizeOf(MemberLabel(line.member), height_)));
   }
 }
 
-NameBox NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name) {
+NameRoom NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name) {
   const NameSize size = SizeOf(name, height_);
-  if (IsBottom(line.member.family)) return BottomBox(line, size);
+  if (IsBottom(line.member.family)) return BottomRoom(line, size);
   const CanvasPoint mark = line.Middle();
-  const NameBox first = Preferred(line.member.family, RunOf(line), mark, size);
+  const NameRoom first = Preferred(line.member.family, DirectionOf(line), mark, size);
   taken_.push_back(Best(first, PlacesAround(mark, size)));
   return taken_.back();
 }
 
-NameBox NamePlacer::Best(NameBox first, const std::vector<NameBox>& places) const {
+NameRoom NamePlacer::Best(NameRoom first, const std::vector<NameRoom>& places) const {
   if (lines_.size() > kMostMembers) return first;
-  NameBox best = first;
+  NameRoom best = first;
   int least = Flaws(best);
-  for (const NameBox& place : places) {
+  for (const NameRoom& place : places) {
     if (least == 0) break;
     const int flaws = Flaws(place);
     if (flaws >= least) continue;
@@ -167,14 +169,14 @@ NameBox NamePlacer::Best(NameBox first, const std::vector<NameBox>& places) cons
   return best;
 }
 
-int NamePlacer::Flaws(const NameBox& box) const {
-  int flaws = box.x < 0 || box.x + box.width > kCanvasWidth ? kUnreadable : 0;
+int NamePlacer::Flaws(const NameRoom& room) const {
+  int flaws = room.x < 0 || room.x + room.width > kCanvasWidth ? kUnreadable : 0;
   for (const CanvasLine& line : lines_) {
-    if (Crosses(line, box)) ++flaws;
-    if (Covers(box, line.Middle())) flaws += kUnreadable;
+    if (Crosses(line, room)) ++flaws;
+    if (Covers(room, line.Middle())) flaws += kUnreadable;
   }
-  for (const NameBox& other : taken_) {
-    if (Overlap(box, other)) flaws += kUnreadable;
+  for (const NameRoom& other : taken_) {
+    if (Overlap(room, other)) flaws += kUnreadable;
   }
   return flaws;
 }

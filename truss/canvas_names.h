@@ -22,7 +22,7 @@ struct CanvasLine {
 };
 
 /// The room of a name: its top left corner and its size, in canvas units.
-struct NameBox {
+struct NameRoom {
   double x, y, width, height;
 };
 
@@ -39,19 +39,19 @@ class NamePlacer {
 
   /// The place of a member's name. Names of the bottom chord stand 50 units below the midpoint,
   /// always.
-  NameBox PlaceMember(const CanvasLine& line, const std::string& name);
+  NameRoom PlaceMember(const CanvasLine& line, const std::string& name);
 
   /// Height of the names: that of a line of text, but less where panels are narrow.
   double height() const { return height_; }
 
  private:
   /// The place with the fewest flaws, the first one if it has none.
-  NameBox Best(NameBox first, const std::vector<NameBox>& places) const;
-  int Flaws(const NameBox& box) const;
+  NameRoom Best(NameRoom first, const std::vector<NameRoom>& places) const;
+  int Flaws(const NameRoom& room) const;
 
   const std::vector<CanvasLine>& lines_;
   double height_;
-  std::vector<NameBox> taken_;
+  std::vector<NameRoom> taken_;
 };
 
 /// The room of a name at a height of its letters.

@@ -61,8 +61,8 @@ void CanvasPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer
                                            kMarkRadius, Colour::Red});
   const Member& member = line.member;
   const std::string name = member.family == Family::CV ? centreName : MemberLabel(member);
-  const NameBox box = names.PlaceMember(line, name);
-  Text(box.x, box.y, name);
+  const NameRoom room = names.PlaceMember(line, name);
+  Text(room.x, room.y, name);
   marks_[{member.family, member.index}] = {mark.x, mark.y};
 }
 
