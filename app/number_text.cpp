@@ -65,20 +65,34 @@ struct Decimal {
   int point = 0;
 };
 
-Decimal ToDecimal(double number, int significant) {
+/// The digits of a number in scientific form, such as "1.7250000e+00".
+Decimal ToDecimal(bool negative, std::string_view scientific) {
   Decimal d;
-  d.negative = std::signbit(number);
-  if (number == 0.0 || !std::isfinite(number)) return d;
-  std::array<char, 64> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
-                                 std::chars_format::scientific, significant - 1);
-  const std::string_view text(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
-  const std::size_t mark = text.find('e');
-  for (const char c : text.substr(0, mark)) {
+  d.negative = negative;
+  const std::size_t mark = scientific.find('e');
+  for (const char c : scientific.substr(0, mark)) {
     if (IsDigit(c)) d.digits += c;
   }
-  d.point = std::atoi(std::string(text.substr(mark + 1)).c_str()) + 1;
+  d.point = std::atoi(std::string(scientific.substr(mark + 1)).c_str()) + 1;
   return d;
+}
+
+/// Room for all digits that are asked for, with sign, point and exponent.
+using DigitBuffer = std::array<char, 64>;
+
+Decimal ToDecimal(double number, int significant) {
+  DigitBuffer buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
+                                 std::chars_format::scientific, significant - 1);
+  return ToDecimal(std::signbit(number), {buffer.data(), end.ptr});
+}
+
+/// The shortest decimal that reads back as the same number.
+Decimal ShortestDecimal(float number) {
+  DigitBuffer buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
+                                 std::chars_format::scientific);
+  return ToDecimal(std::signbit(number), {buffer.data(), end.ptr});
 }
 
 /// Keeps `keep` digits (none where negative), rounding half away from zero.
@@ -137,6 +151,11 @@ Pattern ReadPattern(std::string_view text) {
   return p;
 }
 
+/// How many digits of a number a pattern shows, from its first digit that counts.
+int DigitsShown(const Decimal& d, const Pattern& p) {
+  return (p.exponentDigits > 0 ? 1 : d.point) + p.decimals;
+}
+
 std::string Mantissa(const Decimal& d, const Pattern& p) {
   std::string text;
   for (int power = std::max(d.point, p.wholeZeros) - 1; power >= 0; --power) {
@@ -161,7 +180,7 @@ std::string ExponentText(int exponent, int digits) {
 std::string Format(Decimal d, std::string_view pattern) {
   const Pattern p = ReadPattern(pattern);
   int exponent = 0;
-  if (p.exponentDigits > 0 && !d.digits.empty()) {
+  if (p.exponentDigits > 0) {
     exponent = d.point - 1;
     d.point = 1;
     RoundDigits(d, 1 + p.decimals);
@@ -214,7 +233,10 @@ std::string FormatNumber(double number, std::string_view pattern) {
 }
 
 std::string FormatNumber(float number, std::string_view pattern) {
-  return Format(ToDecimal(static_cast<double>(number), kDigits32), pattern);
+  const Decimal d = ToDecimal(static_cast<double>(number), kDigits32);
+  // Cents of 123456.79 lie behind the seventh digit, but are in the number all the same.
+  const bool all = DigitsShown(d, ReadPattern(pattern)) >= kDigits32;
+  return Format(all ? ShortestDecimal(number) : d, pattern);
 }
 
 std::string FormatNumber(const Float32& number, std::string_view pattern) {

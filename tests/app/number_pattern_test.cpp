@@ -114,7 +114,7 @@ constexpr WideRow kFifteenDigits[] = {
 };
 INSTANTIATE_TEST_SUITE_P(FifteenDigits, WidePattern, testing::ValuesIn(kFifteenDigits));
 
-// 32-bit numbers: 7 digits count.
+// 32-bit numbers: 7 digits count, but where a pattern shows 7 or more all that the number holds.
 
 struct NarrowRow {
   float number;
@@ -133,13 +133,9 @@ TEST_P(NarrowPattern, Shows) {
 constexpr NarrowRow kSevenDigits[] = {
     {0.125f, "0.00", "0.13"},
     {5.25f, "0.0", "5.3"},
-    {2.675f, "0.00", "2.68"},  // stored as 2.67499995...
-    {1.005f, "0.00", "1.01"},  // stored as 1.00499999...
-    {0.1f, "0.0000000000", "0.1000000000"},
-    {16777216.0f, "0", "16777220"},
-    {123456.789f, "0.00", "123456.80"},
-    {1.0f / 3.0f, "0.0000000000", "0.3333333000"},
-    {2.0f / 3.0f, "0.0000000000", "0.6666667000"},
+    {2.675f, "0.00", "2.68"},         // stored as 2.67499995...
+    {1.005f, "0.00", "1.01"},         // stored as 1.00499999...
+    {1.15f * 1.5f, "0.00", "1.73"},   // 1.725 at seven digits, below it in the eighth
     {9999.995f, "0.00", "10000.00"},  // 9999.995 has seven digits, its five rounds away from zero
     {1600000.0f, "0.00E+00", "1.60E+06"},
     {1e38f, "0.00E+00", "1.00E+38"},
@@ -149,6 +145,29 @@ constexpr NarrowRow kSevenDigits[] = {
     {121.2121f, "0.00", "121.21"},
 };
 INSTANTIATE_TEST_SUITE_P(SevenDigits, NarrowPattern, testing::ValuesIn(kSevenDigits));
+
+// The shortest decimal that reads back as the same number: neighbours of 123456.79 are 0.0078125
+// apart, those of 16777216 are 2 apart above it, those of a third 0.00000003.
+constexpr NarrowRow kAllDigits[] = {
+    {123456.79f, "0.00", "123456.79"},
+    {-123456.79f, "0.00", "-123456.79"},
+    {123456.79f, "0.0", "123456.8"},
+    {123456.79f, "0", "123457"},
+    {12345.679f, "0.00", "12345.68"},
+    {99999.99f, "0.00", "99999.99"},
+    {99999.997f, "0.00", "100000.00"},
+    {16777216.0f, "0", "16777216"},
+    {16777216.0f, "0.00", "16777216.00"},
+    {16777216.0f, "##0.##", "16777216."},
+    {2500000.25f, "0.00", "2500000.25"},
+    {1234567.0f, "0.00000E+00", "1.23457E+06"},
+    {12345678.0f, "0.0000000E+00", "1.2345678E+07"},
+    {0.1f, "0.0000000000", "0.1000000000"},
+    {1.0f / 3.0f, "0.0000000000", "0.3333333400"},
+    {2.0f / 3.0f, "0.0000000000", "0.6666667000"},
+    {1.0f / 3.0f, "0.000000", "0.333333"},
+};
+INSTANTIATE_TEST_SUITE_P(AllDigits, NarrowPattern, testing::ValuesIn(kAllDigits));
 
 /// "0.00" of so many thousandths, by whole numbers alone.
 std::string Hundredths(int thousandths) {

@@ -79,7 +79,8 @@ TEST(NumberReaderRange, TooNearToZeroIsZero) {
   const std::string zeros(400, '0');
   for (const std::string& text :
        {std::string("1e-999"), std::string("-1e-999"), "0." + zeros + "1", "." + zeros + "1",
-        "0." + zeros + "1e5", std::string("1e-99999999999999999999")}) {
+        "0." + zeros + "1e5", "0." + zeros + "1E5", "0." + zeros + "1e+5", "0." + zeros + "1E+5",
+        std::string("1E-999"), std::string("1e-99999999999999999999")}) {
     const Number read = ReadNumber(text);
     EXPECT_EQ(read.fault(), Fault::None) << text;
     EXPECT_EQ(read.value(), 0.0) << text;
