@@ -58,7 +58,7 @@ void CheckMember(TrussJob& job, const TrussTypeInfo& type, const Member& member,
 void TRUSS_ALL_COMP(const Float32& length, const Float32& E, const Float32& B, const Float32& D,
                     Float32& result) {
   result = 0;
-  if (!(B > 0) || !(D > 0)) return;
+  if (!(length > 0) || !(B > 0) || !(D > 0)) return;
   const Number slenderness = kInchesPerFoot * length / SmallerSide(B, D);
   result = 0.3 * E / Square(slenderness);
 }

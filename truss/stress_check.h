@@ -8,8 +8,8 @@
 namespace lignara {
 
 /// Euler value of a column, psi: 0.3 E / (l / d)^2, d being the smaller side. `length` in ft, `E`
-/// in psi, `B` and `D` in inches. 0 where a side is not above 0, or where the length is 0 (a
-/// fault).
+/// in psi, `B` and `D` in inches. 0 where the length or a side is not above 0: a member that is not
+/// there has no Euler value.
 void TRUSS_ALL_COMP(const Float32& length, const Float32& E, const Float32& B, const Float32& D,
                     Float32& result);
 

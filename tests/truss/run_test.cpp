@@ -72,8 +72,8 @@ TEST(Run, EveryTypeRunsFromLoadsToStresses) {
   }
 }
 
-// The stress list of an English truss names diagonals of the end panels, which have no length.
-TEST(Run, EnglishRunsToItsEndWithAFaultForEachEndDiagonal) {
+// The stress list of an English truss names diagonals of the end panels, which are no members.
+TEST(Run, EnglishRunsToItsEndWithoutABox) {
   TestTruss truss = StandardTruss("ENGLISH", 6);
   truss.LoadAllNodes(1000);
   truss.ChooseMembers(10, 1e6);
@@ -82,7 +82,7 @@ TEST(Run, EnglishRunsToItsEndWithAFaultForEachEndDiagonal) {
     group.GroupD = 5.5;
   }
   truss.Run();
-  EXPECT_EQ(truss.platform.TakeTexts(), Texts(2, std::string(FaultText(Fault::DivisionByZero))));
+  EXPECT_TRUE(truss.platform.messages.empty());
   EXPECT_EQ(truss.model().RunState.value(), 1);
 }
 
