@@ -1,7 +1,6 @@
 #include "app/launcher.h"
 
-#include <cstdint>
-#include <limits>
+#include <optional>
 
 #include "app/data_directory.h"
 #include "app/fault.h"
@@ -9,6 +8,19 @@
 #include "app/window_names.h"
 
 namespace lignara {
+namespace {
+
+/// The span field as a whole number, ties to even; nothing where it does not fit, which is shown as
+/// a fault.
+std::optional<Int16> SpanCountOf(const LauncherWindow& window) {
+  const Number count = RoundHalfEven(ReadNumber(window.spanText));
+  Int16 stored;
+  stored = count;
+  if (!(stored == count)) return std::nullopt;
+  return stored;
+}
+
+}  // namespace
 
 void StartSession(SessionState& session, const std::string& currentDirectory) {
   session.DataDirectory = MakeDataDirectory(currentDirectory);
@@ -27,10 +39,12 @@ void StartTruss(const std::string& trussType, SessionState& session, Platform& p
 }
 
 void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Platform& platform) {
-  FaultScope faults(platform);
-  session.SpanCount = ReadNumber(window.spanText);
+  const FaultScope faults(platform);
   session.DesignMode = "BEAM";
-  if (session.SpanCount > 1) {
+  const std::optional<Int16> count = SpanCountOf(window);
+  if (!count) return;
+  session.SpanCount = *count;
+  if (*count > 1) {
     platform.OpenWindow(window_name::kMultiSpan);
   } else {
     platform.ShowMessage({"You must enter at least 2 spans"});
@@ -38,8 +52,9 @@ void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Pla
 }
 
 bool AcceptsSpanCount(const LauncherWindow& window) {
-  const Number count = RoundHalfEven(ReadNumber(window.spanText));
-  return count > 1 && count <= std::numeric_limits<std::int16_t>::max();
+  const SilentFaults nobody;
+  const std::optional<Int16> count = SpanCountOf(window);
+  return count && *count > 1;
 }
 
 void StartSingleSpanBeam(SessionState& session, Platform& platform) {

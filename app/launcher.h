@@ -13,7 +13,6 @@ struct LauncherWindow {
 };
 
 inline constexpr const char* kHelpFile = "LIGNARA.HLP";
-inline constexpr const char* kProgramName = "Lignara";
 
 /// Gives the session its first content: the data directory, the neutral current member, the report
 /// font. `currentDirectory` is without a trailing separator.
@@ -23,7 +22,8 @@ void StartSession(SessionState& session, const std::string& currentDirectory);
 /// one. `trussType` is the keyword of the type.
 void StartTruss(const std::string& trussType, SessionState& session, Platform& platform);
 
-/// "Multi-Span Beam": opens the window when the span field rounds to at least 2.
+/// "Multi-Span Beam": opens the window when the span field rounds to at least 2. A count too large
+/// for 16 bits is a fault; it stores and opens nothing.
 void StartMultiSpanBeam(const LauncherWindow& window, SessionState& session, Platform& platform);
 
 /// True when the span field holds a count that "Multi-Span Beam" would accept.

@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "app/program.h"
+
 namespace lignara {
 
 class Report;
@@ -12,7 +14,7 @@ enum class MessageIcon { None, Stop };
 /// A box with one "OK". A box that has no title of its own bears the program's name.
 struct Message {
   std::string text;
-  std::string title = "Lignara";
+  std::string title = kProgramName;
   MessageIcon icon = MessageIcon::None;
 };
 

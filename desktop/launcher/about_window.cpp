@@ -20,7 +20,7 @@ class AboutForm : public ToolWindow {
     rows->setSpacing(8);
     rows->addWidget(NameLabel(), 0, Qt::AlignCenter);
     rows->addWidget(new QLabel("Wood Design Program"), 0, Qt::AlignCenter);
-    rows->addWidget(new QLabel("Version 6.1"), 0, Qt::AlignCenter);
+    rows->addWidget(new QLabel(QString("Version ") + ProgramVersion()), 0, Qt::AlignCenter);
     rows->addSpacing(12);
     auto* ok = new QPushButton("&OK");
     binding().Press(ok, [this] { CloseControl(); });
