@@ -6,10 +6,14 @@ namespace lignara {
 
 std::string MakeDataDirectory(const std::string& directory) { return directory + "\\"; }
 
-std::string DataPath(const std::string& dataDirectory, const std::string& fileName) {
+std::string FolderOf(const std::string& dataDirectory) {
   std::string directory = dataDirectory;
   if (!directory.empty() && directory.back() == '\\') directory.pop_back();
-  return (std::filesystem::path(directory) / fileName).string();
+  return directory;
+}
+
+std::string DataPath(const std::string& dataDirectory, const std::string& fileName) {
+  return (std::filesystem::path(FolderOf(dataDirectory)) / fileName).string();
 }
 
 }  // namespace lignara

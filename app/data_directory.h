@@ -7,6 +7,9 @@ namespace lignara {
 /// The data directory as the session keeps it: the directory with a trailing backslash.
 std::string MakeDataDirectory(const std::string& directory);
 
+/// The data directory as the user knows it, without the trailing backslash.
+std::string FolderOf(const std::string& dataDirectory);
+
 /// The path of a file in the data directory, in the form of the platform at hand.
 std::string DataPath(const std::string& dataDirectory, const std::string& fileName);
 

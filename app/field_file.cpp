@@ -94,7 +94,8 @@ FieldFile::FieldFile(const std::string& dataDirectory, const std::string& fileNa
   if (!fileName.empty()) text = FileText(DataPath(dataDirectory, fileName));
   missing_ = !text;
   if (missing_) {
-    Report(fileName.empty() ? "This row names no file" : "Cannot open " + fileName);
+    Report(fileName.empty() ? "This row names no file"
+                            : "Cannot open " + fileName + " in " + FolderOf(dataDirectory));
   } else {
     fields_ = FieldStream(std::move(*text));
   }
@@ -116,10 +117,9 @@ double FieldFile::ReadValue() {
 
 int FieldFile::ReadCount() {
   const double count = std::nearbyint(ReadValue());
-  if (std::fabs(count) <= std::numeric_limits<std::int16_t>::max()) {
-    return std::max(static_cast<int>(count), 0);
-  }
-  Report("A number in " + fileName_ + " is too large");
+  const bool large = count > std::numeric_limits<std::int16_t>::max();
+  if (count >= 0 && !large) return static_cast<int>(count);
+  Report("A number in " + fileName_ + (large ? " is too large" : " is too small"));
   return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "app/report_file.h"
 
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
 
 namespace lignara {
@@ -28,7 +29,13 @@ void WriteReportFile(ReportFile& file, const Report& report, Platform& platform)
   errno = 0;
   file.stream << ReportText(report);
   file.stream.close();
-  if (!file.stream) ShowSystemError(file.path, errno == 0 ? EIO : errno, platform);
+  if (file.stream) return;
+  ShowSystemError(file.path, errno == 0 ? EIO : errno, platform);
+  // Half a report could be taken for a whole one. What is no file of its own (a device) stays.
+  std::error_code ignored;
+  if (std::filesystem::is_regular_file(file.path, ignored)) {
+    std::filesystem::remove(file.path, ignored);
+  }
 }
 
 }  // namespace lignara

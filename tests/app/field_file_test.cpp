@@ -143,14 +143,14 @@ TEST_F(FieldFileTest, MissingFileIsShownOnceAndReadsAsNothing) {
   EXPECT_TRUE(file.AtEnd());
   EXPECT_EQ(file.ReadCount(), 0);
   EXPECT_EQ(file.ReadText(), "");
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open NOWHERE.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open NOWHERE.CSV in " + folder.Folder()});
 }
 
 TEST_F(FieldFileTest, DirectoryIsNoFile) {
   std::filesystem::create_directory(folder.Path("SUB.CSV"));
   FieldFile file(folder.DataDirectory(), "SUB.CSV", platform);
   EXPECT_EQ(file.ReadText(), "");
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open SUB.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open SUB.CSV in " + folder.Folder()});
 }
 
 TEST_F(FieldFileTest, EmptyNameIsNoFile) {
@@ -174,14 +174,18 @@ struct CountCase {
 
 TEST_F(FieldFileTest, CountIsA16BitNumber) {
   constexpr const char* kTooLarge = "A number in TEST.CSV is too large";
+  constexpr const char* kTooSmall = "A number in TEST.CSV is too small";
   const CountCase cases[] = {
       {"0", 0},
       {"27", 27},
       {"32767", 32767},
       {"32768", 0, kTooLarge},
       {"99999", 0, kTooLarge},
-      {"-3", 0},
-      {"-32768", 0, kTooLarge},
+      {"-3", 0, kTooSmall},
+      {"-0.6", 0, kTooSmall},
+      {"-0.4", 0},
+      {"-32768", 0, kTooSmall},
+      {"-1e300", 0, kTooSmall},
       {"1e300", 0, kTooLarge},
       {"1e999", 0, kTooLarge},
       {"\"12\"", 12},

@@ -1,8 +1,10 @@
 #include "app/report_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <iterator>
@@ -75,6 +77,39 @@ TEST_F(ReportFileTest, FullDiskShowsTheSystemsWords) {
   ASSERT_TRUE(file);
   WriteReportFile(*file, report, platform);
   EXPECT_EQ(platform.TakeTexts(), std::vector<std::string>{"/dev/full: " + SystemWords(ENOSPC)});
+}
+
+/// While one stands, no file can grow beyond so many bytes, as on a disk that is nearly full.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signal_);
+  }
+
+ private:
+  void (*signal_)(int);
+  rlimit before_{};
+};
+
+TEST_F(ReportFileTest, AReportThatDoesNotFitIsToldAndLeavesNoHalfFile) {
+  const std::string path = Path("report_file_half.txt");
+  platform.fileAnswers = {path};
+  Report report;
+  for (int line = 0; line < 1000; ++line) report.Line("MEMBER(1) = 4829.91");
+  std::optional<ReportFile> file = CreateReportFile(platform);
+  ASSERT_TRUE(file);
+  {
+    const FileSizeLimit limit(10000);
+    WriteReportFile(*file, report, platform);
+  }
+  EXPECT_EQ(platform.TakeTexts(), std::vector<std::string>{path + ": " + SystemWords(EFBIG)});
+  EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 }  // namespace

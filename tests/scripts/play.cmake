@@ -25,6 +25,8 @@ execute_process(COMMAND ${PROGRAM} --data ${WORK} ${NAME}.lig
 if(NOT status EQUAL 0)
   file(APPEND ${WORK}/transcript "${complaint}exit ${status}\n")
 endif()
+# Where the copy lies differs from machine to machine.
+execute_process(COMMAND sed -i "s|${WORK}|(data folder)|g" ${WORK}/transcript)
 
 file(GLOB kept RELATIVE ${SCRIPTS} ${SCRIPTS}/${NAME}.*)
 list(REMOVE_ITEM kept ${NAME}.lig ${NAME}.out ${NAME}.data)

@@ -13,6 +13,8 @@ class DataFolder {
   DataFolder& operator=(const DataFolder&) = delete;
 
   void Write(const std::string& name, const std::string& bytes) const;
+  /// The folder, as boxes name it.
+  const std::string& Folder() const { return path_; }
   std::string Path(const std::string& name) const { return path_ + "/" + name; }
   /// As the session keeps it.
   std::string DataDirectory() const;

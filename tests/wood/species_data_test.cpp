@@ -95,14 +95,14 @@ TEST_F(SpeciesDataTest, MissingIndexHasTheBlankRowOnly) {
   const SpeciesIndex index = ReadSpeciesIndex(folder.DataDirectory(), "WWTRK.CSV", platform);
   EXPECT_EQ(index.names, Texts{""});
   EXPECT_EQ(index.files, Texts{""});
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open WWTRK.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open WWTRK.CSV in " + folder.Folder()});
 }
 
 TEST_F(SpeciesDataTest, MissingSpeciesFileHasTheBlankRowOnly) {
   const SpeciesFile species = ReadSpeciesFile(folder.DataDirectory(), "HEMFIR.CSV", platform);
   EXPECT_EQ(species.woodTypes, "");
   EXPECT_EQ(species.grades.size(), 1U);
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open HEMFIR.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open HEMFIR.CSV in " + folder.Folder()});
 }
 
 TEST_F(SpeciesDataTest, ShortIndexKeepsItsRowsBlank) {
@@ -142,7 +142,7 @@ TEST_F(SpeciesDataTest, CountThatCannotBeReadIsZero) {
   EXPECT_EQ(Index("many\nHem-Fir,HF.CSV\n").names, Texts{""});
   EXPECT_EQ(platform.TakeTexts(), Texts{"A number in INDEX.CSV cannot be read"});
   EXPECT_EQ(Index("-2\nHem-Fir,HF.CSV\n").names, Texts{""});
-  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in INDEX.CSV is too small"});
   EXPECT_EQ(Index("70000\nHem-Fir,HF.CSV\n").names, Texts{""});
   EXPECT_EQ(platform.TakeTexts(), Texts{"A number in INDEX.CSV is too large"});
 }

@@ -100,7 +100,7 @@ TEST_F(WoodDataBaseTest, FamilyClearsBothListsButNotTheSelection) {
 TEST_F(WoodDataBaseTest, FamilyWithoutIndexFileShowsTheFaultAndTheBlankRow) {
   std::remove(folder.Path("WWTRK.CSV").c_str());
   ChooseFamily(window, session, platform, WoodFamily::Western);
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open WWTRK.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open WWTRK.CSV in " + folder.Folder()});
   EXPECT_EQ(window.DataBaseFamily, WoodFamily::Western);
   EXPECT_EQ(window.files.rows, Texts{""});
   ChooseSpeciesFile(window, session, platform, 0);
@@ -155,7 +155,7 @@ TEST_F(WoodDataBaseTest, MissingSpeciesFileShowsTheFaultAndGoesOn) {
   PickGrade(1);
   ChooseFamily(window, session, platform, WoodFamily::MachineRated);
   ChooseSpeciesFile(window, session, platform, 1);
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open NOWHERE.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open NOWHERE.CSV in " + folder.Folder()});
   EXPECT_EQ(window.grades.rows, Texts{""});
   EXPECT_EQ(window.woodTypes, "");
   EXPECT_EQ(session.LastWoodTypes, "");
