@@ -1,5 +1,8 @@
 #include "wood/dressed_size.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace lignara {
 namespace {
 
@@ -97,6 +100,16 @@ constexpr DepthRow kDressedDepths[] = {
 };
 
 // clang-format on
+
+constexpr bool HasRows(int size) {
+  const auto isWidth = [size](const WidthRow& row) { return row.width == size; };
+  const auto isDepth = [size](const DepthRow& row) { return row.depth == size; };
+  return std::any_of(std::begin(kDressedWidths), std::end(kDressedWidths), isWidth) &&
+         std::any_of(std::begin(kDressedDepths), std::end(kDressedDepths), isDepth);
+}
+static_assert(std::all_of(kNominalSizes.begin(), kNominalSizes.end(), HasRows) &&
+                  std::size(kDressedDepths) == kNominalSizes.size(),
+              "each button of a nominal size has its dressed width and depth");
 
 }  // namespace
 
