@@ -45,14 +45,15 @@ struct MemberSelection {
   std::string SizeName = "CUSTOM";
   Float32 AllowFb = 1.0;         ///< bending, psi
   Float32 AllowFc = 1.0;         ///< compression along the grain, psi
-  Float32 AllowFcPerp = 1.0;     ///< compression across the grain, psi
+  Float32 AllowFcPerp = 1.0;     ///< compression across the grain, psi; no analysis reads it
   Float32 AllowFt = 1.0;         ///< tension, psi
   Float32 AllowFv = 1.0;         ///< horizontal shear, psi
   Float32 ModulusE = 1000000.0;  ///< psi
   Float32 DataBaseE;             ///< modulus as last read from a data base panel, psi
   std::string GradeText;
   std::string WoodTypeText = "CUSTOM";
-  std::string BeamGradeLabel;  ///< the text under the beam's size: grade, ", ", wood types
+  std::string BeamGradeLabel;  ///< the text under the beam's size: grade, ", ", wood types; no
+                               ///< analysis reads it
   Int16 DataBaseReturn;        ///< -1 from a visit to the data base until the calculator closes
   Int16 MemberSource;          ///< 0 nothing yet, 1 sawn, 2 glulam
   std::array<TrussMemberGroup, kMemberGroups> Groups;
