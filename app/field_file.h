@@ -50,7 +50,7 @@ class FieldFile {
   /// The next field as a number; 0 where it is empty, no number, or too large.
   double ReadValue();
   /// The next field as the count of the records that follow: 0 to 32767. What is no such number is
-  /// 0, and a negative count too.
+  /// shown and counts as 0.
   int ReadCount();
   /// False where the last field asked for was missing, no number, or too large.
   bool LastFieldRead() const { return lastFieldRead_; }

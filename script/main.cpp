@@ -74,10 +74,11 @@ int PlayScript(std::istream& lines, const QString& name, ScriptPlayer& player) {
   return kDone;
 }
 
-int Run(std::istream& lines, const QString& name) {
+int Run(std::istream& lines, const QString& name, bool show) {
   SessionState session;
   ScriptPlatform platform(session, Print);
   const FaultScope faults(platform);
+  if (!show) platform.PaintNothing();
   StartSession(session, FromQt(QDir::currentPath()));
   platform.OpenWindow(window_name::kLauncher);
   QApplication::processEvents();
@@ -110,7 +111,8 @@ int Main(int argc, char* argv[]) {
     std::cerr << "there is no directory " << FromQt(options.data) << "\n";
     return kWrongUsage;
   }
-  return options.file.isEmpty() ? Run(std::cin, "-") : Run(file, options.file);
+  return options.file.isEmpty() ? Run(std::cin, "-", options.show)
+                                : Run(file, options.file, options.show);
 }
 
 }  // namespace lignara

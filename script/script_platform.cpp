@@ -4,6 +4,7 @@
 
 #include "app/report.h"
 #include "desktop/kit/text.h"
+#include "desktop/kit/tool_window.h"
 #include "script/script_line.h"
 
 namespace lignara {
@@ -28,6 +29,12 @@ class PagePrinter {
 };
 
 }  // namespace
+
+void ScriptPlatform::OpenWindow(const std::string& name) {
+  DesktopPlatform::OpenWindow(name);
+  ToolWindow* window = FindWindow(ToQt(name));
+  if (window != nullptr && !paints_) window->setUpdatesEnabled(false);
+}
 
 void ScriptPlatform::ShowMessage(const Message& message) {
   output_("message " + QuotedText(message.title) + " " + QuotedText(message.text));

@@ -23,6 +23,12 @@ class ScriptPlatform : public DesktopPlatform {
   ScriptPlatform(SessionState& session, ScriptOutput output)
       : DesktopPlatform(session), output_(std::move(output)) {}
 
+  /// Windows that nobody looks at are not painted, but for pictures that the script asks for. Holds
+  /// for windows opened from now on.
+  void PaintNothing() { paints_ = false; }
+
+  void OpenWindow(const std::string& name) override;
+
   void ShowMessage(const Message& message) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
   std::optional<std::string> PromptText(const std::string& title, const std::string& text,
@@ -43,6 +49,7 @@ class ScriptPlatform : public DesktopPlatform {
   ScriptOutput output_;
   std::deque<ScriptAnswer> answers_;
   QString failure_;
+  bool paints_ = true;
 };
 
 }  // namespace lignara

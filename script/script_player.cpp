@@ -113,6 +113,22 @@ QString StateOf(const QWidget* widget) {
   return state;
 }
 
+/// A window that is not painted while nobody looks is painted for a picture of it.
+class PaintForPicture {
+ public:
+  explicit PaintForPicture(QWidget* window) : window_(window), was_(window->updatesEnabled()) {
+    window_->setUpdatesEnabled(true);
+    QApplication::processEvents();
+  }
+  ~PaintForPicture() { window_->setUpdatesEnabled(was_); }
+  PaintForPicture(const PaintForPicture&) = delete;
+  PaintForPicture& operator=(const PaintForPicture&) = delete;
+
+ private:
+  QWidget* window_;
+  bool was_;
+};
+
 }  // namespace
 
 const std::vector<ScriptPlayer::Action>& ScriptPlayer::Actions() {
@@ -331,6 +347,7 @@ void ScriptPlayer::Windows(const Words&) {
 void ScriptPlayer::SavePicture(const Words& words) {
   QWidget* control = Control(words, words.size() - 1, {IsPicture});
   auto* picture = dynamic_cast<Picture*>(control);
+  const PaintForPicture painted(Current());
   const QString path = words.back().text;
   const bool saved =
       picture != nullptr ? picture->SavePng(path) : control->grab().save(path, "PNG");
@@ -338,7 +355,7 @@ void ScriptPlayer::SavePicture(const Words& words) {
 }
 
 void ScriptPlayer::Screenshot(const Words& words) {
-  QApplication::processEvents();
+  const PaintForPicture painted(Current());
   if (!Current()->grab().save(words[0].text, "PNG")) {
     throw ScriptError{"cannot write " + words[0].text};
   }
