@@ -1,5 +1,6 @@
 #include "script/script_platform.h"
 
+#include <QGuiApplication>
 #include <algorithm>
 
 #include "app/report.h"
@@ -65,6 +66,11 @@ std::optional<std::string> ScriptPlatform::ChooseSaveFile(const std::string& fil
 void ScriptPlatform::PrintReport(const Report& report) {
   PagePrinter printer(output_);
   for (const Report::Item& item : report.items()) std::visit(printer, item);
+}
+
+QRect ScriptPlatform::Screen(const ToolWindow& window) const {
+  const bool shown = QGuiApplication::platformName() != "offscreen";
+  return shown ? DesktopPlatform::Screen(window) : QRect(QPoint(0, 0), screen_);
 }
 
 QString ScriptPlatform::TakeFailure() { return std::exchange(failure_, QString()); }

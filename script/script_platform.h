@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <deque>
 #include <optional>
@@ -36,6 +37,10 @@ class ScriptPlatform : public DesktopPlatform {
   std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
   void PrintReport(const Report& report) override;
 
+  /// Without a display a script's windows stand on a screen of this size.
+  QRect Screen(const ToolWindow& window) const override;
+  void SetScreen(const QSize& size) { screen_ = size; }
+
   void KeepAnswer(ScriptAnswer answer) { answers_.push_back(std::move(answer)); }
 
   /// Why a dialog could not be answered since the last call; empty when all could.
@@ -47,6 +52,7 @@ class ScriptPlatform : public DesktopPlatform {
                                          std::initializer_list<ScriptAnswer::Kind> fitting);
 
   ScriptOutput output_;
+  QSize screen_{1366, 900};
   std::deque<ScriptAnswer> answers_;
   QString failure_;
   bool paints_ = true;

@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include "desktop/kit/area_keys.h"
 #include "desktop/kit/field_mark.h"
 #include "desktop/kit/list_notes.h"
 #include "desktop/kit/picture.h"
@@ -149,10 +150,11 @@ void Binding::Shown(QWidget* panel, const bool* shown) {
 }
 
 void Binding::Shown(QWidget* panel, Condition shown) {
-  Follow([panel, shown] {
-    const bool was = !panel->isHidden();
-    if (was != shown()) panel->setVisible(!was);
-  });
+  Follow([this, panel, shown] { panels_.SetShown(panel, shown()); });
+}
+
+void Binding::CloseOnEscape(QWidget* panel, Command close) {
+  SetEscapeCommand(panel, [this, close] { Run(close); });
 }
 
 void Binding::Enabled(QWidget* widget, Condition enabled) {
@@ -184,6 +186,7 @@ void Binding::Refresh() {
 
 void Binding::Run(const Command& command) {
   if (released_) return;
+  beforeCommand_();
   command();
   afterCommand_();
 }

@@ -6,6 +6,7 @@
 
 #include "app/drawing.h"
 #include "app/list_rows.h"
+#include "desktop/kit/open_panels.h"
 
 class QAbstractButton;
 class QAction;
@@ -32,8 +33,11 @@ class Binding {
   using RowCommand = std::function<void(int row)>;
   using Condition = std::function<bool()>;
 
-  /// `afterCommand` makes all open windows show their records.
-  explicit Binding(Command afterCommand) : afterCommand_(std::move(afterCommand)) {}
+  /// `afterCommand` makes all open windows show their records; `beforeCommand` is told of each
+  /// action of the user.
+  explicit Binding(
+      Command afterCommand, Command beforeCommand = [] {})
+      : beforeCommand_(std::move(beforeCommand)), afterCommand_(std::move(afterCommand)) {}
 
   /// A number that the user types. `typed`, if any, runs after each change by the user. A text that
   /// is not wholly a number is marked, with the number that it is read as.
@@ -58,8 +62,12 @@ class Binding {
   void Menu(QAction* action, Command command);
   /// A check box or one option of a group.
   void Check(QAbstractButton* button, bool* checked, Command changed = {});
+  /// A part of the window that is shown or hidden. One that Escape can leave (`SetEscapeButton`, or
+  /// `CloseOnEscape`) takes the focus when it opens and gives it back when it closes.
   void Shown(QWidget* panel, const bool* shown);
   void Shown(QWidget* panel, Condition shown);
+  /// What Escape does to a panel that has no button for it.
+  void CloseOnEscape(QWidget* panel, Command close);
   void Enabled(QWidget* widget, Condition enabled);
   void Enabled(QAction* action, Condition enabled);
   void Show(Picture* picture, const Drawing* drawing);
@@ -73,9 +81,13 @@ class Binding {
   void Run(const Command& command);
   /// From now on nothing that the widgets say reaches the record: the window is gone.
   void Release() { released_ = true; }
+  /// The panels of the window that are open.
+  OpenPanels& panels() { return panels_; }
 
  private:
+  Command beforeCommand_;
   Command afterCommand_;
+  OpenPanels panels_;
   bool released_ = false;
   std::vector<Command> refreshers_;
 };

@@ -1,7 +1,9 @@
 #include "desktop/kit/choice_button.h"
 
-#include <QButtonGroup>
+#include <QKeyEvent>
 #include <algorithm>
+#include <cstdlib>
+#include <limits>
 
 #include "desktop/kit/text.h"
 
@@ -30,6 +32,74 @@ int WidthWhenActive(const QPushButton* button) {
   return QFontMetrics(bold).horizontalAdvance(PlainCaption(button->text())) + kBorder;
 }
 
+/// The step on the screen that an arrow key stands for; null for any other key.
+QPoint StepOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return {-1, 0};
+    case Qt::Key_Right:
+      return {1, 0};
+    case Qt::Key_Up:
+      return {0, -1};
+    case Qt::Key_Down:
+      return {0, 1};
+    default:
+      return {};
+  }
+}
+
+/// Goes from button to button with the arrow keys.
+class ArrowKeys : public QObject {
+ public:
+  explicit ArrowKeys(const std::vector<QPushButton*>& buttons)
+      : QObject(buttons.front()), buttons_(buttons) {
+    for (QPushButton* button : buttons_) button->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const QPoint step = StepOf(static_cast<QKeyEvent*>(event)->key());
+    if (step.isNull()) return false;
+    auto* from = static_cast<QPushButton*>(watched);
+    QPushButton* to = Nearest(from, step);
+    if (to == nullptr && step.y() != 0) to = InOrder(from, step.y());
+    if (to == nullptr) return true;
+    to->setFocus(Qt::TabFocusReason);
+    to->click();
+    return true;
+  }
+
+ private:
+  static bool CanBeChosen(const QPushButton* button) {
+    return button->isVisible() && button->isEnabled();
+  }
+
+  /// The next button in the direction of a step; what lies aside of it counts as farther.
+  QPushButton* Nearest(QPushButton* from, const QPoint& step) const {
+    QPushButton* nearest = nullptr;
+    int least = std::numeric_limits<int>::max();
+    for (QPushButton* button : buttons_) {
+      const QPoint way = button->mapTo(button->window(), button->rect().center()) -
+                         from->mapTo(from->window(), from->rect().center());
+      const int ahead = QPoint::dotProduct(way, step);
+      const int aside = std::abs(way.x() * step.y()) + std::abs(way.y() * step.x());
+      if (!CanBeChosen(button) || ahead <= aside || ahead + aside >= least) continue;
+      least = ahead + aside;
+      nearest = button;
+    }
+    return nearest;
+  }
+
+  QPushButton* InOrder(QPushButton* from, int step) const {
+    auto at = std::find(buttons_.begin(), buttons_.end(), from) - buttons_.begin() + step;
+    const bool inside = at >= 0 && at < static_cast<std::ptrdiff_t>(buttons_.size());
+    QPushButton* button = inside ? buttons_[static_cast<std::size_t>(at)] : nullptr;
+    return button != nullptr && CanBeChosen(button) ? button : nullptr;
+  }
+
+  std::vector<QPushButton*> buttons_;
+};
+
 }  // namespace
 
 QPushButton* MakeChoiceButton(Binding& binding, const QString& caption, Binding::Condition active,
@@ -43,9 +113,7 @@ QPushButton* MakeChoiceButton(Binding& binding, const QString& caption, Binding:
 }
 
 void MakeOneTabStop(Binding& binding, const std::vector<QPushButton*>& buttons) {
-  auto* group = new QButtonGroup(buttons.front());
-  group->setExclusive(false);
-  for (QPushButton* button : buttons) group->addButton(button);
+  new ArrowKeys(buttons);
   binding.Follow([buttons] {
     const auto active = std::find_if(buttons.begin(), buttons.end(),
                                      [](const QPushButton* button) { return button->isChecked(); });

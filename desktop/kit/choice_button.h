@@ -11,8 +11,9 @@ namespace lignara {
 QPushButton* MakeChoiceButton(Binding& binding, const QString& caption, Binding::Condition active,
                               Binding::Command command);
 
-/// Makes choice buttons that belong together one stop of the Tab key: it stops at the active one,
-/// and the arrow keys go from button to button.
+/// Makes choice buttons that belong together one stop of the Tab key: it stops at the active one.
+/// The arrow keys choose the next button as it lies on the screen, as among options; up and down
+/// go on in the next column, or along a row.
 void MakeOneTabStop(Binding& binding, const std::vector<QPushButton*>& buttons);
 
 }  // namespace lignara

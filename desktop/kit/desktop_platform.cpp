@@ -10,6 +10,7 @@
 #include <cassert>
 
 #include "app/window_names.h"
+#include "desktop/kit/form.h"
 #include "desktop/kit/help_window.h"
 #include "desktop/kit/report_printer.h"
 #include "desktop/kit/text.h"
@@ -100,6 +101,7 @@ ToolWindow* DesktopPlatform::MakeWindow(const std::string& name) {
   // A window opened from a modal one belongs to it, so that it is not locked out with the rest.
   if (ToolWindow* modal = NewestModal()) window->setParent(modal, window->windowFlags());
   if (kind->modal) window->setWindowModality(Qt::ApplicationModal);
+  window->Furnish(Screen(*window).size());
   Place(window);
   lastActive_ = window;  // opening it is no coming back
   return window;
@@ -131,13 +133,25 @@ void DesktopPlatform::NoteActive(ToolWindow* window) {
 }
 
 void DesktopPlatform::Place(ToolWindow* window) {
-  const QRect screen = window->screen()->geometry();
-  // A window may name a size of its own; any other gets what it wants, up to the whole screen.
+  const QRect screen = Screen(*window);
+  // A window may name a size of its own, for letters of usual size; any other gets what it wants.
+  // None is larger than the screen.
   const bool named = window->testAttribute(Qt::WA_Resized);
-  const QSize wish = named ? window->size() : window->sizeHint();
+  const QSize size(InLetters(window->width()), InLetters(window->height()));
+  const QSize wish = named ? size.expandedTo(window->minimumSizeHint()) : window->sizeHint();
   window->resize(wish.boundedTo(screen.size()));
   window->move(screen.x() + (screen.width() - window->width()) / 2,
                screen.y() + (screen.height() - window->height()) / 2);
+}
+
+QRect DesktopPlatform::Screen(const ToolWindow& window) const {
+  // The frame that the desktop draws around a window.
+  constexpr int kSides = 8;
+  constexpr int kTitle = 36;
+  const QRect all = window.screen()->geometry();
+  const QSize free = window.screen()->availableSize() - QSize(kSides, kTitle);
+  return {all.topLeft() + QPoint(all.width() - free.width(), all.height() - free.height()) / 2,
+          free};
 }
 
 void DesktopPlatform::CloseWindow(const std::string& name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -41,6 +42,8 @@ class DesktopPlatform : public Platform {
   QStringList OpenWindows() const;
   /// True while a modal window that was opened later keeps the user out of this one.
   bool IsBlocked(const ToolWindow* window) const;
+  /// The room that a window may take on its screen, in the middle of it.
+  virtual QRect Screen(const ToolWindow& window) const;
   /// All open windows show their records again.
   void RefreshWindows();
 

@@ -1,19 +1,27 @@
 #include "desktop/kit/form.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <algorithm>
 
 #include "desktop/kit/text.h"
 
 namespace lignara {
 
+int InLetters(int size) {
+  constexpr int kUsualDigit = 8;
+  const int digit = QFontMetrics(QApplication::font()).horizontalAdvance('0');
+  return std::max(size, size * digit / kUsualDigit);
+}
+
 QLineEdit* MakeField(const QString& name, int width) {
   auto* field = new QLineEdit;
   field->setAccessibleName(PlainCaption(name));
   field->setAlignment(Qt::AlignRight);
-  field->setMinimumWidth(width);
+  field->setMinimumWidth(InLetters(width));
   return field;
 }
 
@@ -28,6 +36,7 @@ QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& capti
 
 void ShowOnly(QLineEdit* field) {
   field->setReadOnly(true);
+  field->setFocusPolicy(Qt::ClickFocus);
   QPalette palette = field->palette();
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   field->setPalette(palette);
@@ -54,7 +63,7 @@ QListWidget* MakeList(const QString& name, int rows) {
   constexpr int kSlack = 2;  // a scaled screen rounds the rows up
   list->setMinimumHeight(list->sizeHintForRow(0) * rows + 2 * list->frameWidth() + kSlack);
   list->clear();
-  list->setMinimumWidth(160);
+  list->setMinimumWidth(InLetters(160));
   return list;
 }
 

@@ -10,6 +10,10 @@ class QListWidget;
 
 namespace lignara {
 
+/// A width or height meant for letters of usual size, in the letters that the user has. All widths
+/// below are taken so.
+int InLetters(int size);
+
 /// Adds a row "caption | field" to a grid. The caption carries the mnemonic; the field is known by
 /// the plain caption. Returns the field.
 QLineEdit* AddField(QGridLayout* grid, const QString& caption, int width = 96);
@@ -21,7 +25,7 @@ QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& capti
 QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width = 96);
 QLineEdit* PutValue(QGridLayout* grid, int row, int column, const QString& caption, int width = 96);
 
-/// Makes a field one that is only shown.
+/// Makes a field one that is only shown. The Tab key passes it by; the mouse can mark its text.
 void ShowOnly(QLineEdit* field);
 
 /// A field without a caption of its own, known by a name.

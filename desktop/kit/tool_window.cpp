@@ -9,27 +9,16 @@
 
 #include "app/launcher.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/focus_mark.h"
+#include "desktop/kit/scroll_page.h"
+#include "desktop/kit/standard_keys.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
 namespace {
 
-constexpr const char* kReturnButton = "returnButton";
-constexpr const char* kEscapeButton = "escapeButton";
-
-void SetKeyButton(QWidget* area, const char* key, QPushButton* button) {
-  area->setProperty(key, QVariant::fromValue<QObject*>(button));
-}
-
-/// The button that a key presses for a widget: that of the innermost area around it.
-QPushButton* KeyButton(QWidget* widget, const char* key) {
-  for (; widget != nullptr; widget = widget->parentWidget()) {
-    auto* button = qobject_cast<QPushButton*>(widget->property(key).value<QObject*>());
-    if (button != nullptr && button->isVisible() && button->isEnabled()) return button;
-    if (widget->isWindow()) break;
-  }
-  return nullptr;
-}
+/// No window insists on more room than this, so that each fits beside others on a small screen.
+constexpr QSize kMostInsisted(1000, 700);
 
 }  // namespace
 
@@ -48,13 +37,17 @@ void ToolWindow::CloseForGood() {
   close();
 }
 
-void SetReturnButton(QWidget* area, QPushButton* button) {
-  SetKeyButton(area, kReturnButton, button);
-  if (qobject_cast<QMainWindow*>(area->parentWidget()) != nullptr) button->setDefault(true);
-}
-
-void SetEscapeButton(QWidget* area, QPushButton* button) {
-  SetKeyButton(area, kEscapeButton, button);
+void ToolWindow::Furnish(const QSize& screen) {
+  QWidget* focus = focusWidget();
+  QWidget* content = takeCentralWidget();
+  auto* page = new ScrollPage(this);
+  page->setWidget(content);
+  setCentralWidget(page);
+  const int menus = menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height();
+  page->SetMost(kMostInsisted.boundedTo(screen) - QSize(0, menus));
+  if (focus != nullptr) focus->setFocus();
+  SetStandardKeys(this);
+  new FocusMark(this);
 }
 
 QMenu* ToolWindow::AddHelpMenu() {
@@ -85,9 +78,10 @@ void ToolWindow::keyPressEvent(QKeyEvent* event) {
   QPushButton* button = nullptr;
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     button = qobject_cast<QPushButton*>(focus);
-    if (button == nullptr) button = KeyButton(focus, kReturnButton);
+    if (button == nullptr) button = ReturnButtonFor(focus);
   } else if (event->key() == Qt::Key_Escape) {
-    button = KeyButton(focus, kEscapeButton);
+    if (binding_.panels().CloseNewest()) return;
+    button = EscapeButtonFor(focus);
   }
   if (button == nullptr) {
     QMainWindow::keyPressEvent(event);

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 #include "app/session_state.h"
+#include "desktop/kit/area_keys.h"
 #include "desktop/kit/binding.h"
 
 class QGroupBox;
@@ -42,6 +43,11 @@ class ToolWindow : public QMainWindow {
   /// Closes the window for good, without asking its close control.
   void CloseForGood();
 
+  /// Gives the window what all windows have: scrolling where the screen is too small, the keys of
+  /// common commands, the mark of the focus. Called once, when its widgets are there. `screen` is
+  /// the room that a window may take.
+  void Furnish(const QSize& screen);
+
  protected:
   SessionState& session() { return context_.session; }
   DesktopPlatform& platform();
@@ -63,11 +69,6 @@ class ToolWindow : public QMainWindow {
   Binding binding_;
   bool closingForGood_ = false;
 };
-
-/// The button that Return presses while the focus is inside `area`.
-void SetReturnButton(QWidget* area, QPushButton* button);
-/// The button that Escape presses while the focus is inside `area`.
-void SetEscapeButton(QWidget* area, QPushButton* button);
 
 /// A panel: a framed part of a window with a caption.
 QGroupBox* MakePanel(const QString& caption);

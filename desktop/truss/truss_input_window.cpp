@@ -49,7 +49,8 @@ class TrussInputForm : public ToolWindow {
     binding().Field(firstField, &record_.first);
     binding().Enabled(firstField, [this] { return record_.firstEnabled; });
     binding().Field(AddField(grid, "&Total Length (ft)"), &record_.totalLength);
-    binding().Field(AddField(grid, "H (&ft)"), &record_.height);
+    height_ = AddField(grid, "H (&ft)");
+    binding().Field(height_, &record_.height);
     return grid;
   }
 
@@ -94,6 +95,7 @@ class TrussInputForm : public ToolWindow {
     binding().Shown(panel, &record_.slopeOpen);
     SetReturnButton(panel, ok);
     SetEscapeButton(panel, cancel);
+    ReturnFocusTo(panel, height_);
     return panel;
   }
 
@@ -109,6 +111,7 @@ class TrussInputForm : public ToolWindow {
   }
 
   TrussInputWindow record_;
+  QLineEdit* height_ = nullptr;
 };
 
 }  // namespace

@@ -46,6 +46,7 @@ QGroupBox* MakeHeadingsPanel(TrussWindow& window, Binding& binding, SessionState
   binding.Press(ok, [&window, &session] { AcceptHeadings(window, session); });
   rows->addWidget(ok, 0, Qt::AlignRight);
   SetReturnButton(panel, ok);
+  binding.CloseOnEscape(panel, [&window] { window.headingsOpen = false; });
   binding.Shown(panel, &window.headingsOpen);
   return panel;
 }
@@ -61,6 +62,7 @@ QGroupBox* MakeFontsPanel(TrussWindow& window, Binding& binding, SessionState& s
   binding.Press(ok, [&window, &session] { AcceptFonts(window, session); });
   rows->addWidget(ok, 0, Qt::AlignRight);
   SetReturnButton(panel, ok);
+  binding.CloseOnEscape(panel, [&window] { window.fontsOpen = false; });
   binding.Shown(panel, &window.fontsOpen);
   return panel;
 }

@@ -79,8 +79,6 @@ class TrussForm : public ToolWindow {
 
   TrussWindow record_;
   QListWidget* nodes_ = nullptr;
-  QLineEdit* lineLoad_ = nullptr;
-  QLineEdit* spacing_ = nullptr;
 };
 
 TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, context) {
@@ -261,16 +259,8 @@ QLayout* TrussForm::NodeLoads() {
                  [this](int row) { SelectNode(record_, session(), platform(), row); });
   rows->addWidget(nodes_, 1);
   rows->addLayout(NodeField());
-  rows->addWidget(Button("&Unif. Load (lb/ft)", [this] {
-    OpenLineLoad(record_);
-    lineLoad_->parentWidget()->show();
-    lineLoad_->setFocus();
-  }));
-  rows->addWidget(Button("&Area Load (lbs/sf)", [this] {
-    OpenAreaLoad(record_);
-    spacing_->parentWidget()->show();
-    spacing_->setFocus();
-  }));
+  rows->addWidget(Button("&Unif. Load (lb/ft)", [this] { OpenLineLoad(record_); }));
+  rows->addWidget(Button("&Area Load (lbs/sf)", [this] { OpenAreaLoad(record_); }));
   return rows;
 }
 
@@ -326,8 +316,7 @@ QLayout* TrussForm::ButtonPair(QGroupBox* panel, const QString& first, Binding::
 QGroupBox* TrussForm::LineLoadPanel() {
   QGroupBox* panel = MakePanel("Uniform Load (Line Load)");
   auto* grid = new QGridLayout(panel);
-  lineLoad_ = AddField(grid, "Load (lb / ft)");
-  binding().Field(lineLoad_, &record_.lineLoad);
+  binding().Field(AddField(grid, "Load (lb / ft)"), &record_.lineLoad);
   grid->addLayout(ButtonPair(
                       panel, "Apply", [this] { ApplyLineLoad(record_, session(), platform()); },
                       [this] { CancelDistributedLoad(record_); }),
@@ -339,8 +328,7 @@ QGroupBox* TrussForm::LineLoadPanel() {
 QGroupBox* TrussForm::AreaLoadPanel() {
   QGroupBox* panel = MakePanel("Area Load ");
   auto* grid = new QGridLayout(panel);
-  spacing_ = AddField(grid, "Truss Spacing (ft)");
-  binding().Field(spacing_, &record_.trussSpacing);
+  binding().Field(AddField(grid, "Truss Spacing (ft)"), &record_.trussSpacing);
   binding().Field(AddField(grid, "Load (lb/sf)"), &record_.areaLoad);
   grid->addLayout(ButtonPair(
                       panel, "Apply", [this] { ApplyAreaLoad(record_, session(), platform()); },

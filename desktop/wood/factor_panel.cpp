@@ -75,7 +75,6 @@ class FactorPanelForm : public QGroupBox {
     binding_.Shown(this, &window_.panel.open);
   }
 
-  QListWidget* first() const { return first_; }
   QPushButton* calculate() const { return calculate_; }
   QPushButton* cancel() const { return cancel_; }
 
@@ -104,7 +103,6 @@ class FactorPanelForm : public QGroupBox {
                                  rows.size(), WidestRow(rows));
     binding_.List(shown, &window_.panel.List(list).rows, &window_.panel.List(list).row,
                   [this, list](int row) { ChooseFactorRow(window_, platform_, list, row); });
-    if (first_ == nullptr) first_ = shown;
     return column;
   }
 
@@ -191,7 +189,6 @@ class FactorPanelForm : public QGroupBox {
   Binding& binding_;
   SessionState& session_;
   Platform& platform_;
-  QListWidget* first_ = nullptr;
   QPushButton* calculate_ = nullptr;
   QPushButton* cancel_ = nullptr;
 };
@@ -201,7 +198,7 @@ class FactorPanelForm : public QGroupBox {
 FactorPanelParts MakeFactorPanel(WoodDataBaseWindow& window, Binding& binding,
                                  SessionState& session, Platform& platform) {
   auto* panel = new FactorPanelForm(window, binding, session, platform);
-  return {panel, panel->first(), panel->calculate(), panel->cancel()};
+  return {panel, panel->calculate(), panel->cancel()};
 }
 
 }  // namespace lignara

@@ -12,10 +12,9 @@ namespace lignara {
 
 struct WoodDataBaseWindow;
 
-/// The panel, the control that its work starts with, and the buttons that Return and Escape press.
+/// The panel, and the buttons that Return and Escape press.
 struct FactorPanelParts {
   QGroupBox* panel = nullptr;
-  QWidget* first = nullptr;
   QPushButton* calculate = nullptr;
   QPushButton* cancel = nullptr;
 };

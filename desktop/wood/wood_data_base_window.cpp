@@ -143,15 +143,15 @@ class WoodDataBaseForm : public ToolWindow {
     auto* row = new QHBoxLayout;
     auto* factors = new QPushButton("Stress &Adjustment Factors");
     binding().Press(factors, [this] { OpenFactorPanel(record_, platform()); });
-    ok_ = new QPushButton("&OK");
-    binding().Press(ok_, [this] { AcceptSelection(record_, session(), platform()); });
+    auto* ok = new QPushButton("&OK");
+    binding().Press(ok, [this] { AcceptSelection(record_, session(), platform()); });
     auto* cancel = new QPushButton("&Cancel");
     binding().Press(cancel, [this] { CloseControl(); });
     row->addWidget(factors);
     row->addStretch();
-    row->addWidget(ok_);
+    row->addWidget(ok);
     row->addWidget(cancel);
-    SetReturnButton(grades_, ok_);
+    SetReturnButton(grades_, ok);
     SetEscapeButton(area, cancel);
     return row;
   }
@@ -172,22 +172,11 @@ class WoodDataBaseForm : public ToolWindow {
     factors.panel->setSizePolicy(policy);
     SetReturnButton(factors.panel, factors.calculate);
     SetEscapeButton(factors.panel, factors.cancel);
-    FollowWithFocus(factors.first);
     return factors.panel;
-  }
-
-  /// The work goes on in the panel when it opens, and at "OK" when it closes.
-  void FollowWithFocus(QWidget* first) {
-    binding().Follow([this, first, was = false]() mutable {
-      const bool open = record_.panel.open;
-      if (open != was) (open ? first : ok_)->setFocus();
-      was = open;
-    });
   }
 
   WoodDataBaseWindow record_;
   QListWidget* grades_ = nullptr;
-  QPushButton* ok_ = nullptr;  ///< of "Final Selection"
 };
 
 }  // namespace

@@ -5,11 +5,13 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QScrollBar>
+#include <QTest>
+#include <QWindow>
 #include <stdexcept>
 
 #include "desktop/kit/picture.h"
@@ -26,12 +28,13 @@ bool IsControl(const QWidget* widget) {
          dynamic_cast<const Picture*>(widget) != nullptr;
 }
 
-/// Bars and corner buttons that a list makes for itself.
+/// Bars and corner buttons that a list or a page makes for itself.
 bool IsPartOfAList(const QWidget* widget) {
   for (const QWidget* at = widget->parentWidget(); at != nullptr; at = at->parentWidget()) {
-    if (qobject_cast<const QAbstractScrollArea*>(at) != nullptr) return true;
+    const bool page = qobject_cast<const QScrollArea*>(at) != nullptr;
+    if (!page && qobject_cast<const QAbstractScrollArea*>(at) != nullptr) return true;
   }
-  return false;
+  return widget->parentWidget()->objectName().startsWith("qt_scrollarea");
 }
 
 }  // namespace
@@ -72,15 +75,25 @@ QString OpenDesktop::FocusIn(const char* window) {
   return focus == nullptr ? QString() : CaptionOf(focus);
 }
 
-void OpenDesktop::PressKey(const char* window, Qt::Key key) {
-  ToolWindow* at = Window(window);
-  QWidget* target = at->focusWidget() != nullptr ? at->focusWidget() : at;
-  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    QKeyEvent event(type, key, Qt::NoModifier);
-    QApplication::sendEvent(target, &event);
-  }
+void OpenDesktop::PressKey(const char* window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(ActiveHandle(window), key, modifiers);
+  // A button under a mnemonic is seen going down before it acts.
+  constexpr int kDown = 130;
+  if (modifiers.testFlag(Qt::AltModifier)) QTest::qWait(kDown);
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QApplication::processEvents();
+}
+
+void OpenDesktop::Type(const char* window, const QString& text) {
+  for (const QChar sign : text) QTest::keyClick(ActiveHandle(window), sign.toLatin1());
+  QApplication::processEvents();
+}
+
+QWindow* OpenDesktop::ActiveHandle(const char* window) {
+  ToolWindow* at = Window(window);
+  if (!at->isActiveWindow()) at->activateWindow();
+  QApplication::processEvents();
+  return at->windowHandle();
 }
 
 std::vector<QWidget*> VisibleControls(ToolWindow* window) {

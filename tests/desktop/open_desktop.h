@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QWindow>
 #include <initializer_list>
 #include <string>
 
@@ -30,14 +31,20 @@ class OpenDesktop {
   /// The control of a window that has the focus, by its caption.
   QString FocusIn(const char* window);
 
-  /// Presses a key where the focus of a window is, as the keyboard does.
-  void PressKey(const char* window, Qt::Key key);
+  /// Presses a key in a window as the keyboard does: the event goes the way of the display's, past
+  /// shortcuts and mnemonics to the widget that has the focus.
+  void PressKey(const char* window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+  /// Types a text where the focus of a window is.
+  void Type(const char* window, const QString& text);
 
   SessionState session;
   QStringList printed;
   ScriptPlatform platform;
 
  private:
+  QWindow* ActiveHandle(const char* window);
+
   FaultScope faults_;
   ScriptPlayer player_;
 };

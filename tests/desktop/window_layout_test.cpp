@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QListWidget>
-#include <QScreen>
 
 #include "desktop/kit/picture.h"
 #include "desktop/kit/text.h"
@@ -47,8 +46,8 @@ TEST_F(WindowLayoutTest, EveryControlHasAName) {
 }
 
 TEST_F(WindowLayoutTest, EveryWindowOpensInTheMiddleOfTheScreen) {
-  const QSize screen = QApplication::primaryScreen()->size();
   ForEachWindow([&](ToolWindow* window) {
+    const QSize screen = desktop.platform.Screen(*window).size();
     if (window->name() == "TRUSS" || window->name() == "TR_INPUT") return;  // grown by its panels
     EXPECT_EQ(window->x(), (screen.width() - window->width()) / 2) << FromQt(window->name());
     EXPECT_EQ(window->y(), (screen.height() - window->height()) / 2) << FromQt(window->name());

@@ -1,0 +1,47 @@
+#include "desktop/kit/scroll_page.h"
+
+#include <QEvent>
+#include <QScrollBar>
+
+namespace lignara {
+
+ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent), most_(1000, 640) {
+  setWidgetResizable(true);
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void ScrollPage::SetMost(const QSize& most) {
+  most_ = most;
+  updateGeometry();
+}
+
+QSize ScrollPage::sizeHint() const {
+  return widget() == nullptr ? QScrollArea::sizeHint() : widget()->sizeHint();
+}
+
+QSize ScrollPage::minimumSizeHint() const {
+  if (widget() == nullptr) return QScrollArea::minimumSizeHint();
+  QSize least = widget()->minimumSizeHint().expandedTo(widget()->minimumSize());
+  // A bar that is needed one way takes room the other way.
+  const bool barBeside = least.height() > most_.height();
+  const bool barBelow = least.width() > most_.width();
+  if (barBeside) least.rwidth() += verticalScrollBar()->sizeHint().width();
+  if (barBelow) least.rheight() += horizontalScrollBar()->sizeHint().height();
+  return least.boundedTo(most_);
+}
+
+bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+void Reveal(QWidget* widget) {
+  constexpr int kMargin = 8;
+  for (QWidget* at = widget->parentWidget(); at != nullptr; at = at->parentWidget()) {
+    auto* area = qobject_cast<QScrollArea*>(at);
+    if (area != nullptr) area->ensureWidgetVisible(widget, kMargin, kMargin);
+  }
+}
+
+}  // namespace lignara

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace lignara {
+
+/// Holds what stands in a window, or in a part of it, and lets the user scroll where the room is
+/// too small for it. It wants the room that its content wants and is content with `most()`.
+class ScrollPage : public QScrollArea {
+ public:
+  explicit ScrollPage(QWidget* parent = nullptr);
+
+  /// The room that it insists on at most.
+  void SetMost(const QSize& most);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QSize most_;
+};
+
+/// Scrolls all areas around a widget so that it can be seen.
+void Reveal(QWidget* widget);
+
+}  // namespace lignara

@@ -1,0 +1,84 @@
+#include "desktop/kit/standard_keys.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "desktop/kit/text.h"
+
+namespace lignara {
+namespace {
+
+struct StandardKey {
+  const char* caption;
+  QKeySequence key;
+};
+
+const StandardKey kMenuKeys[] = {
+    {"Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
+    {"Print Report", QKeySequence(Qt::CTRL | Qt::Key_P)},
+    {"Print Both", QKeySequence(Qt::CTRL | Qt::Key_P)},
+    {"Save Output to Text File...", QKeySequence(Qt::CTRL | Qt::Key_S)},
+    {"Save Output to Text File", QKeySequence(Qt::CTRL | Qt::Key_S)},
+    {"Save Text Output to File...", QKeySequence(Qt::CTRL | Qt::Key_S)},
+};
+
+const StandardKey kButtonKeys[] = {
+    {"Run", QKeySequence(Qt::Key_F5)},
+    {"RUN", QKeySequence(Qt::Key_F5)},
+};
+
+template <typename Table>
+QKeySequence KeyOf(const Table& table, const QString& caption) {
+  for (const StandardKey& row : table) {
+    if (caption == row.caption) return row.key;
+  }
+  return {};
+}
+
+QList<QKeySequence> KeysTaken(const QMainWindow* window) {
+  QList<QKeySequence> taken;
+  for (const QAction* action : window->findChildren<QAction*>()) taken << action->shortcuts();
+  for (const QShortcut* shortcut : window->findChildren<QShortcut*>()) taken << shortcut->key();
+  return taken;
+}
+
+void SetMenuKeys(QMainWindow* window) {
+  for (QAction* action : window->findChildren<QAction*>()) {
+    const QKeySequence key = KeyOf(kMenuKeys, PlainCaption(action->text()));
+    const bool free = action->shortcut().isEmpty() && !KeysTaken(window).contains(key);
+    if (!key.isEmpty() && free) action->setShortcut(key);
+  }
+}
+
+void SetButtonKeys(QMainWindow* window) {
+  for (QPushButton* button : window->findChildren<QPushButton*>()) {
+    const QString caption = PlainCaption(button->text());
+    const QKeySequence key = KeyOf(kButtonKeys, caption);
+    if (key.isEmpty() || KeysTaken(window).contains(key)) continue;
+    QObject::connect(new QShortcut(key, window), &QShortcut::activated, button, [button] {
+      if (button->isVisible() && button->isEnabled()) button->click();
+    });
+    if (button->toolTip().isEmpty()) button->setToolTip(caption + " (" + key.toString() + ")");
+  }
+}
+
+void SetCloseKey(QMainWindow* window) {
+  const QKeySequence close(Qt::CTRL | Qt::Key_W);
+  if (KeysTaken(window).contains(close)) return;
+  QObject::connect(new QShortcut(close, window), &QShortcut::activated, window, &QWidget::close);
+}
+
+}  // namespace
+
+void SetStandardKeys(QMainWindow* window) {
+  SetMenuKeys(window);
+  SetButtonKeys(window);
+  SetCloseKey(window);
+}
+
+}  // namespace lignara
