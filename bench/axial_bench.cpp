@@ -19,15 +19,12 @@ void OneAnalysis(benchmark::State& state, const std::string& type) {
   state.SetComplexityN(state.range(0));
 }
 
-/// King post and scissors trusses have no panels to count.
-bool HasPanels(const std::string& type) { return type != "KINGPOST" && type != "SCI"; }
-
 const bool kRegistered = [] {
   for (const TrussTypeInfo& type : TrussTypes()) {
     auto* bench = benchmark::RegisterBenchmark(("OneAnalysis/" + type.keyword).c_str(), OneAnalysis,
                                                type.keyword);
     bench->Arg(4)->Unit(benchmark::kMicrosecond);
-    if (HasPanels(type.keyword)) {
+    if (type.CountsPanels()) {
       bench->Arg(40)->Arg(400)->Arg(4000)->Complexity(benchmark::oN);
     }
   }

@@ -21,7 +21,7 @@ const bool kRegistered = [] {
     auto* bench =
         benchmark::RegisterBenchmark(("WholeRun/" + type.keyword).c_str(), WholeRun, type.keyword);
     bench->Arg(4)->Unit(benchmark::kMillisecond);
-    if (type.keyword == "KINGPOST" || type.keyword == "SCI") continue;
+    if (!type.CountsPanels()) continue;
     bench->Arg(16)->Arg(64)->Arg(256)->Complexity(benchmark::oNSquared);
   }
   return true;

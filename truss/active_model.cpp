@@ -1,6 +1,7 @@
 #include "truss/active_model.h"
 
 #include "app/platform.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 
@@ -8,6 +9,13 @@ int HalfSpans(const SessionState& session) {
   const Int16 half = Number(session.TrussSpans) / 2;
   return half.value();
 }
+
+TrussJob::TrussJob(ActiveModel& m, const SessionState& s, Platform& p)
+    : model(m),
+      session(s),
+      platform(p),
+      type(TrussTypeOf(s.TrussType)),
+      halfSpans_(lignara::HalfSpans(s)) {}
 
 void TRUSS_ALLOC(TrussJob& job) {
   // NS itself need not fit 16 bits where its half does.

@@ -85,11 +85,12 @@ struct ActiveModel {
 /// does not fit 16 bits, which is an overflow fault.
 int HalfSpans(const SessionState& session);
 
+struct TrussTypeInfo;
+
 /// What every calculation step of a truss works on, for the length of one command.
 class TrussJob {
  public:
-  TrussJob(ActiveModel& m, const SessionState& s, Platform& p)
-      : model(m), session(s), platform(p), halfSpans_(lignara::HalfSpans(s)) {}
+  TrussJob(ActiveModel& model, const SessionState& session, Platform& platform);
 
   /// Number of panels in a half, counted once for the whole job.
   int HalfSpans() const { return halfSpans_; }
@@ -97,6 +98,7 @@ class TrussJob {
   ActiveModel& model;
   const SessionState& session;
   Platform& platform;
+  const TrussTypeInfo& type;  ///< of the session's truss
 
  private:
   int halfSpans_;

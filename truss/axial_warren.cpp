@@ -5,7 +5,8 @@ namespace lignara {
 namespace {
 
 /// How two neighbouring diagonals change a chord's force at the joint between them, by their signs:
-/// factors on the horizontal components of the diagonal at hand and of its neighbour.
+/// factors on the horizontal components of the diagonal at hand and of its neighbour. All pairs of
+/// signs stand here, those too that the walk from the end does not meet.
 struct ChordStep {
   int sign, neighbourSign;
   int factor, neighbourFactor;
@@ -13,10 +14,16 @@ struct ChordStep {
 
 /// Bottom joint; the neighbour is the diagonal before.
 constexpr ChordStep kBottomSteps[] = {
-    {-1, -1, +1, -1}, {-1, +1, +1, +1}, {+1, -1, -1, +1}, {+1, +1, -1, -1}};
+    {.sign = -1, .neighbourSign = -1, .factor = +1, .neighbourFactor = -1},
+    {.sign = -1, .neighbourSign = +1, .factor = +1, .neighbourFactor = +1},
+    {.sign = +1, .neighbourSign = -1, .factor = -1, .neighbourFactor = +1},
+    {.sign = +1, .neighbourSign = +1, .factor = -1, .neighbourFactor = -1}};
 /// Top joint; the neighbour is the diagonal behind it.
 constexpr ChordStep kTopSteps[] = {
-    {-1, -1, +1, -1}, {-1, +1, +1, +1}, {+1, -1, -1, -1}, {+1, +1, -1, +1}};
+    {.sign = -1, .neighbourSign = -1, .factor = +1, .neighbourFactor = -1},
+    {.sign = -1, .neighbourSign = +1, .factor = +1, .neighbourFactor = +1},
+    {.sign = +1, .neighbourSign = -1, .factor = -1, .neighbourFactor = -1},
+    {.sign = +1, .neighbourSign = +1, .factor = -1, .neighbourFactor = +1}};
 
 /// The change of the chord's force at the joint between diagonal `i` and `neighbour`.
 template <std::size_t Count>

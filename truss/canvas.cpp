@@ -3,6 +3,7 @@
 #include "app/fault.h"
 #include "truss/canvas_painter.h"
 #include "truss/geometry_drawn.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 namespace {
@@ -84,12 +85,12 @@ void RecolourTruss(TrussWindow& window, const SessionState& session, Platform& p
 Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
   const TrussShape shape = ShapeOf(window.model, session);
   CanvasPainter painter(window.view);
-  // On paper the post of a Howe truss is numbered like the members beside it.
-  painter.centreName = shape.type == "HOWE" ? "CV1" : "CV";
+  const TrussTypeInfo& type = TrussTypeOf(shape.type);
+  painter.centreName = type.centreNameOnPaper;
   painter.DrawMembers(LayoutOf(shape), [](const Member&) { return Colour::Black; });
-  const bool level = HasLevelTop(shape.type);
   for (const TopNode& node : TopNodesInRows(TopNodesOf(window.model, session))) {
-    painter.DrawNodeName(TopNodePoint(shape, node), node.side, level, NodeLabel(node, shape.type));
+    painter.DrawNodeName(TopNodePoint(shape, node), node.side, type.levelTop,
+                         NodeLabel(node, shape.type));
   }
   return painter.TakeDrawing();
 }

@@ -21,8 +21,8 @@ std::optional<Member> MemberAt(const TrussWindow& window, const SessionState& se
                                double y) {
   if (window.model.RunState.value() == 0) return std::nullopt;
   std::optional<Member> hit;
-  const auto& runs = TrussTypeOf(session.TrussType).checkedMembers;
-  for (const Member& member : MembersOf(runs, HalfSpans(session))) {
+  const auto& ranges = TrussTypeOf(session.TrussType).checkedMembers;
+  for (const Member& member : MembersOf(ranges, HalfSpans(session))) {
     const auto mark = window.view.MemberMark.find({member.family, member.index});
     if (mark == window.view.MemberMark.end()) continue;
     if (IsNear(mark->second.x, x) && IsNear(mark->second.y, y)) hit = member;

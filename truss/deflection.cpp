@@ -4,7 +4,8 @@
 
 #include "app/number_text.h"
 #include "truss/member_signs.h"
-#include "truss/truss_types.h"
+#include "truss/members.h"
+#include "truss/top_nodes.h"
 
 namespace lignara {
 namespace {
@@ -38,10 +39,11 @@ constexpr double kInchesPerFoot = 12;
 
 /// What differs between the three routines; elements are those of DeflL and DeflR.
 struct DeflectionPlan {
-  int firstNode, lastNode;                ///< nodes under a unit load
-  int firstMember;                        ///< members summed, from here to N
-  int firstListed, lastListed, listStep;  ///< rows of the list
-  bool peakListed;
+  int firstNode, lastNode;      ///< nodes under a unit load
+  int firstMember;              ///< members summed, from here to N
+  int firstListed, lastListed;  ///< rows of the list
+  int listStep = 1;
+  bool peakListed = true;
 };
 
 void CreateFields(TrussJob& job) {
@@ -152,20 +154,36 @@ void RESTORE_RESULTS(TrussJob& job) {
 
 void DEFLECTIONS_PEAKED(TrussJob& job, std::vector<std::string>& rows) {
   const int n = job.HalfSpans();
-  const int lastListed = job.session.TrussType == "KINGPOST" ? 0 : n - 1;
-  FindDeflections(job, {1, n - 1, 1, 1, lastListed, 1, true}, rows);
+  const TopNodeRange listed = TopNodesOf(job.model, job.session);
+  FindDeflections(job,
+                  {.firstNode = 1,
+                   .lastNode = n - 1,
+                   .firstMember = 1,
+                   .firstListed = listed.first,
+                   .lastListed = listed.last},
+                  rows);
 }
 
 void DEFLECTIONS_FLAT(TrussJob& job, std::vector<std::string>& rows) {
   const int n = job.HalfSpans();
-  FindDeflections(job, {1, n, 1, 0, n - 1, 1, true}, rows);
+  FindDeflections(
+      job, {.firstNode = 1, .lastNode = n, .firstMember = 1, .firstListed = 0, .lastListed = n - 1},
+      rows);
 }
 
 void DEFLECTIONS_WARREN(TrussJob& job, std::vector<std::string>& rows) {
   const int n = job.HalfSpans();
   const bool top = job.model.WarrenChord == "TOP";
   const int last = top ? n - 1 : n;
-  FindDeflections(job, {0, last, 0, 0, last, 2, top}, rows);
+  FindDeflections(job,
+                  {.firstNode = 0,
+                   .lastNode = last,
+                   .firstMember = 0,
+                   .firstListed = 0,
+                   .lastListed = last,
+                   .listStep = 2,
+                   .peakListed = top},
+                  rows);
 }
 
 }  // namespace lignara

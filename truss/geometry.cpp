@@ -1,6 +1,7 @@
 #include "truss/geometry.h"
 
 #include "truss/half.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 
@@ -13,7 +14,7 @@ void SLOPE_PEAK(TrussJob& job) {
 
 void VERT_LENGTH(TrussJob& job) {
   const SessionState& s = job.session;
-  if (s.TrussType != "KINGPOST") {
+  if (!job.type.onePanelAHalf) {
     const Number slope = Tan(job.model.ANG_A);
     for (TrussHalf& half : HalvesOf(job.model)) {
       for (int i = 1; i <= job.HalfSpans(); ++i) half.LEN_V[i] = s.PanelLength * i * slope;
@@ -25,7 +26,7 @@ void VERT_LENGTH(TrussJob& job) {
 void TOP_LENGTH(TrussJob& job) {
   const SessionState& s = job.session;
   for (TrussHalf& half : HalvesOf(job.model)) {
-    if (s.TrussType == "KINGPOST") {
+    if (job.type.onePanelAHalf) {
       half.LEN_T[1] = Sqrt(Square(s.TrussHeight) + Square(s.TrussLength / 2));
       continue;
     }
@@ -41,8 +42,8 @@ void BOTTOM_LENGTH(TrussJob& job) {
 }
 
 void DIAG_LENGTH(TrussJob& job) {
-  // A diagonal of PRATT1 rises to the vertical ahead, one of ENGLISH falls from the one behind.
-  const int behind = job.session.TrussType == "ENGLISH" ? 1 : 0;
+  // A diagonal rises to the vertical ahead or falls from the one behind.
+  const int behind = job.type.diagonalsFall ? 1 : 0;
   for (TrussHalf& half : HalvesOf(job.model)) {
     for (int i = 2; i <= job.HalfSpans(); ++i) {
       half.LEN_D[i] = Sqrt(Square(half.LEN_V[i - behind]) + Square(half.LEN_C[i]));

@@ -6,7 +6,7 @@
 namespace lignara {
 
 void SetDrawnGeometry(TrussJob& job) {
-  const TrussStep step = TrussTypeOf(job.session.TrussType).drawnGeometry;
+  const TrussStep step = job.type.drawnGeometry;
   if (step != nullptr) step(job);
 }
 

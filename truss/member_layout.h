@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "truss/members.h"
@@ -61,10 +60,7 @@ TrussLayout WARREN_IN(const TrussShape& shape);
 /// The layout by the shape's type; no members for a keyword that is no type.
 TrussLayout LayoutOf(const TrussShape& shape);
 
-/// True for the types with parallel chords.
-bool HasLevelTop(std::string_view trussType);
-
-/// Where a top node lies.
+/// Where a top node lies; at the peak for a keyword that is no type.
 FootPoint TopNodePoint(const TrussShape& shape, const TopNode& node);
 
 }  // namespace lignara

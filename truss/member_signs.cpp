@@ -6,7 +6,7 @@ namespace lignara {
 
 void MEMBER_SIGNS(TrussJob& job) {
   const int n = job.HalfSpans();
-  for (const SignRule& rule : TrussTypeOf(job.session.TrussType).signs) {
+  for (const SignRule& rule : job.type.signs) {
     for (const Family family : rule.members.families) {
       Int16Array& signs = SignOf(job.model, family);
       for (int i = rule.members.first; i <= LastElement(rule.members.last, n); ++i) {
@@ -30,7 +30,7 @@ void APPLY_SIGNS(TrussJob& job) {
 }
 
 void AnalyseTruss(TrussJob& job) {
-  const TrussStep chain = TrussTypeOf(job.session.TrussType).chain;
+  const TrussStep chain = job.type.chain;
   if (chain != nullptr) chain(job);
   MEMBER_SIGNS(job);
   APPLY_SIGNS(job);

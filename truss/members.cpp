@@ -79,11 +79,11 @@ int LastElement(Upper upper, int halfSpans) {
   return 0;
 }
 
-std::vector<Member> MembersOf(const std::vector<MemberRun>& runs, int halfSpans) {
+std::vector<Member> MembersOf(const std::vector<MemberRange>& ranges, int halfSpans) {
   std::vector<Member> members;
-  for (const MemberRun& run : runs) {
-    for (int i = run.first; i <= LastElement(run.last, halfSpans); ++i) {
-      for (const Family family : run.families) members.push_back({family, i, run.plainLabel});
+  for (const MemberRange& range : ranges) {
+    for (int i = range.first; i <= LastElement(range.last, halfSpans); ++i) {
+      for (const Family family : range.families) members.push_back({family, i, range.plainLabel});
     }
   }
   return members;

@@ -42,22 +42,22 @@ std::string RowLabel(const Member& member);
 /// The line over a member's stresses: "TL1" or "(TL 1)".
 std::string StressLabel(const Member& member);
 
-/// Where a run of members ends: at element 1, 2, N or N-1, N being half the panels.
+/// Where a range of members ends: at element 1, 2, N or N-1, N being half the panels.
 enum class Upper { One, Two, Half, BeforeHalf };
 
 /// Members that a list counts through: the elements from `first` to `last`, and of each element the
 /// families by turns.
-struct MemberRun {
+struct MemberRange {
   std::vector<Family> families;
   int first;
   Upper last;
   bool plainLabel = false;
 };
 
-/// The last element of a run. `halfSpans` is the number of panels in a half.
+/// The last element of a range. `halfSpans` is the number of panels in a half.
 int LastElement(Upper upper, int halfSpans);
 
-/// The members of the runs, one after the other.
-std::vector<Member> MembersOf(const std::vector<MemberRun>& runs, int halfSpans);
+/// The members of the ranges, one after the other.
+std::vector<Member> MembersOf(const std::vector<MemberRange>& ranges, int halfSpans);
 
 }  // namespace lignara

@@ -7,6 +7,7 @@
 #include "app/number_text.h"
 #include "truss/canvas.h"
 #include "truss/top_nodes.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 namespace {
@@ -26,18 +27,17 @@ TopNode NodeOfRow(const TopNodeRange& range, int row) {
 
 /// Where "Enter" puts a load; nothing for a row that means nothing to the type.
 std::optional<TopNode> EnterTarget(const TrussWindow& window, const SessionState& session) {
-  if (session.TrussType == "KINGPOST") return TopNode{NodeSide::Peak};
-  if (session.TrussType == "SCI" && window.nodeRow < 1) return std::nullopt;
+  const BlankRowLoad blankRow = TrussTypeOf(session.TrussType).blankRow;
+  if (window.nodeRow < 1 && blankRow == BlankRowLoad::Nowhere) return std::nullopt;
+  if (window.nodeRow < 1 && blankRow == BlankRowLoad::Peak) return TopNode{NodeSide::Peak};
   return NodeOfRow(TopNodesOf(window.model, session), window.nodeRow);
 }
 
-/// The elements that "All" fills: one more than the list shows on a Warren truss with a midspan
-/// node on top, and those of the unused nodes of a king post.
+/// The elements that "All" fills.
 TopNodeRange AllRange(const TrussWindow& window, const SessionState& session) {
-  TopNodeRange range = TopNodesOf(window.model, session);
-  if (session.TrussType == "KINGPOST") range.last = HalfSpans(session) - 1;
-  if (session.TrussType == "WARREN" && range.peak) ++range.last;
-  return range;
+  const TopNodeRule filled = TrussTypeOf(session.TrussType).filledByAll;
+  if (filled == nullptr) return TopNodesOf(window.model, session);
+  return filled(window.model, HalfSpans(session));
 }
 
 }  // namespace

@@ -5,9 +5,9 @@ namespace {
 
 /// The nodes of a half by their index.
 struct LoadedNodes {
-  int overSupport;  ///< the node over the support, -1 where the heel bears no load
-  int first, last;  ///< the nodes between support and midspan
-  bool midspan;     ///< PT stands on a node
+  int overSupport = -1;  ///< the node over the support, -1 where the heel bears no load
+  int first = 1, last;   ///< the nodes between support and midspan
+  bool midspan = true;   ///< PT stands on a node
 };
 
 bool HasLength(TrussJob& job) {
@@ -43,14 +43,14 @@ void ShareLoads(TrussJob& job, const LoadedNodes& nodes, Distance distance) {
 
 void REACTIONS(TrussJob& job) {
   if (!HasLength(job)) return;
-  ShareLoads(job, {-1, 1, job.HalfSpans() - 1, true},
+  ShareLoads(job, {.last = job.HalfSpans() - 1},
              [&](int i) { return i * job.session.PanelLength; });
 }
 
 void REACTIONS_FINK(TrussJob& job) {
   if (!HasLength(job)) return;
   const Number cosine = Cos(job.model.ANG_A);
-  ShareLoads(job, {-1, 1, job.HalfSpans() - 1, true},
+  ShareLoads(job, {.last = job.HalfSpans() - 1},
              [&](int i) { return cosine * job.model.ARM_L[i]; });
 }
 
@@ -64,12 +64,12 @@ void REACTIONS_KINGPOST(TrussJob& job) {
 
 void REACTIONS_SCI(TrussJob& job) {
   if (!HasLength(job)) return;
-  ShareLoads(job, {-1, 1, 1, true}, [&](int) { return Number(job.model.ARM_D[1]); });
+  ShareLoads(job, {.last = 1}, [&](int) { return Number(job.model.ARM_D[1]); });
 }
 
 void REACTIONS_FLAT(TrussJob& job) {
   if (!HasLength(job)) return;
-  ShareLoads(job, {1, 2, job.HalfSpans(), true},
+  ShareLoads(job, {.overSupport = 1, .first = 2, .last = job.HalfSpans()},
              [&](int i) { return (i - 1) * job.session.PanelLength; });
 }
 
@@ -79,7 +79,8 @@ void REACTIONS_WARREN(TrussJob& job) {
   if (!top && job.model.WarrenChord != "BOTTOM") return;
   const int n = job.HalfSpans();
   const int last = top ? n / 2 - 1 : (n - 1) / 2;
-  ShareLoads(job, {0, 1, last, top}, [&](int i) { return 2 * i * job.session.PanelLength; });
+  ShareLoads(job, {.overSupport = 0, .last = last, .midspan = top},
+             [&](int i) { return 2 * i * job.session.PanelLength; });
 }
 
 }  // namespace lignara

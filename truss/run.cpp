@@ -18,7 +18,7 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   SHOW_REACTIONS(window);
   SHOW_AXIAL(window, session);
 
-  const DeflectionStep deflections = TrussTypeOf(session.TrussType).deflections;
+  const DeflectionStep deflections = job.type.deflections;
   if (deflections != nullptr) deflections(job, window.deflectionRows);
   if (HasAreas(session.Member)) {
     CheckStresses(job, window.stressRows);

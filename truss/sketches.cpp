@@ -4,6 +4,7 @@
 
 #include "app/sketch_pen.h"
 #include "truss/member_layout.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 namespace {
@@ -19,28 +20,21 @@ constexpr double kHeightNameWidth = 280;
 constexpr double kRiseNameWidth = 550;
 
 constexpr double kExampleLength = 30;
-constexpr double kFlatHeight = 5;
-constexpr double kPitchedHeight = 9;
-constexpr double kScissorsHeight = 10;
-constexpr double kScissorsInnerHeight = 4;
 constexpr int kExampleHalf = 3;
 
 /// The truss that stands for its type.
 TrussShape ExampleShape(std::string_view trussType) {
   TrussShape s;
-  s.type = std::string(trussType);
+  const TrussTypeInfo& type = TrussTypeOf(trussType);
+  s.type = type.keyword;
   s.halfSpans = kExampleHalf;
   s.length = kExampleLength;
-  s.panel = kExampleLength / (2 * kExampleHalf);
-  s.height = HasLevelTop(trussType) ? kFlatHeight : kPitchedHeight;
-  if (trussType == "KINGPOST") s.panel = kExampleLength / 2;
-  if (trussType == "SCI") {
-    s.height = kScissorsHeight;
-    s.innerHeight = kScissorsInnerHeight;
-    // Where the bottom chord of the other half, drawn on in line, meets the rafter.
-    s.sciRun = s.length * s.innerHeight / (s.height + s.innerHeight);
-    s.sciRise = s.sciRun * s.height / (s.length / 2);
-  }
+  s.panel = kExampleLength / (type.onePanelAHalf ? 2 : 2 * kExampleHalf);
+  s.height = type.example.height;
+  s.innerHeight = type.example.innerHeight;
+  // Scissors: where the bottom chord of the other half, drawn on in line, meets the rafter.
+  s.sciRun = s.length * s.innerHeight / (s.height + s.innerHeight);
+  s.sciRise = s.sciRun * s.height / (s.length / 2);
   return s;
 }
 
@@ -72,7 +66,7 @@ class Sketch : public SketchPen {
 void AddHeight(Sketch& sketch, const TrussShape& shape) {
   const double x = sketch.X(kExampleLength) + kDimensionGap;
   const double top = sketch.Y(shape.height.value());
-  const double corner = HasLevelTop(shape.type) ? kExampleLength : kExampleLength / 2;
+  const double corner = TrussTypeOf(shape.type).levelTop ? kExampleLength : kExampleLength / 2;
   sketch.Line(sketch.X(corner) + sketch.tick(), top, x, top, Colour::Gray);
   sketch.UprightDimension(x, top, sketch.Y(0), "H");
 }
@@ -90,8 +84,8 @@ Drawing ExampleSketch(std::string_view trussType) {
   sketch.LevelDimension(sketch.X(0), sketch.X(kExampleLength), sketch.Y(0) + kDimensionGap,
                         "Total Length");
   AddHeight(sketch, shape);
-  if (trussType == "SCI") {
-    sketch.UprightDimension(sketch.X(kExampleLength / 2), sketch.Y(kScissorsInnerHeight),
+  if (shape.innerHeight > 0) {
+    sketch.UprightDimension(sketch.X(kExampleLength / 2), sketch.Y(shape.innerHeight.value()),
                             sketch.Y(0), "H1");
   }
   return sketch.drawing();

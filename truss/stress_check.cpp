@@ -40,14 +40,13 @@ std::string AllowableLine(const ActiveModel& m) {
          " psi with full lateral bracing" + (tension ? "." : "");
 }
 
-void CheckMember(TrussJob& job, const TrussTypeInfo& type, const Member& member,
-                 std::vector<std::string>& rows) {
+void CheckMember(TrussJob& job, const Member& member, std::vector<std::string>& rows) {
   ActiveModel& m = job.model;
   const TrussMemberGroup& group = job.session.Member.Group(GroupOf(member.family));
   SetWorkingValues(m, group, LengthOf(m, member.family)[member.index]);
   const Float32 actual = Abs(AxialOf(m, member.family)[member.index] / group.GroupArea);
   rows.push_back(StressLabel(member));
-  rows.push_back(ActualLine(type, member, actual));
+  rows.push_back(ActualLine(job.type, member, actual));
   rows.push_back(AllowableLine(m));
   rows.push_back("Assumes min. lateral bracing of " +
                  FormatNumber(m.MinBracingLength, kTwoDecimals) + " ft");
@@ -69,10 +68,9 @@ bool HasAreas(const MemberSelection& selection) {
 }
 
 void CheckStresses(TrussJob& job, std::vector<std::string>& rows) {
-  const TrussTypeInfo& type = TrussTypeOf(job.session.TrussType);
   rows = RowsBelowBlank();
-  for (const Member& member : MembersOf(type.checkedMembers, job.HalfSpans())) {
-    CheckMember(job, type, member, rows);
+  for (const Member& member : MembersOf(job.type.checkedMembers, job.HalfSpans())) {
+    CheckMember(job, member, rows);
   }
 }
 

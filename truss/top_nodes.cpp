@@ -1,6 +1,7 @@
 #include "truss/top_nodes.h"
 
 #include "app/number_text.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 namespace {
@@ -13,9 +14,8 @@ void AddPeak(const TopNodeRange& range, std::vector<TopNode>& nodes) {
   if (range.peak) nodes.push_back({NodeSide::Peak});
 }
 
-/// A scissors truss has one node a half and needs no blank before its number.
 std::string IndexText(int index, const std::string& trussType) {
-  return trussType == "SCI" ? std::to_string(index) : NumberText(index);
+  return TrussTypeOf(trussType).blankBeforeNodeNumber ? NumberText(index) : std::to_string(index);
 }
 
 template <typename Model>
@@ -26,16 +26,24 @@ auto& LoadIn(Model& model, const TopNode& node) {
 
 }  // namespace
 
+TopNodeRange PitchedNodes(const ActiveModel&, int half) { return {.last = half - 1}; }
+TopNodeRange PeakNode(const ActiveModel&, int) { return {}; }
+TopNodeRange FlatNodes(const ActiveModel&, int half) { return {.last = half}; }
+
+TopNodeRange WarrenNodes(const ActiveModel& model, int half) {
+  if (model.WarrenChord == "TOP") return {.first = 0, .last = half / 2 - 1};
+  const int last = model.WarrenChord == "BOTTOM" ? half / 2 : -1;
+  return {.first = 0, .last = last, .peak = false};
+}
+
+TopNodeRange WarrenElements(const ActiveModel& model, int half) {
+  TopNodeRange range = WarrenNodes(model, half);
+  if (range.peak) ++range.last;
+  return range;
+}
+
 TopNodeRange TopNodesOf(const ActiveModel& model, const SessionState& session) {
-  const std::string& type = session.TrussType;
-  if (type == "KINGPOST") return {1, 0, true};
-  const int half = HalfSpans(session);
-  if (type == "WARREN") {
-    if (model.WarrenChord == "TOP") return {0, half / 2 - 1, true};
-    return {0, model.WarrenChord == "BOTTOM" ? half / 2 : -1, false};
-  }
-  const bool flat = type == "PRATT2" || type == "HOWE";
-  return {1, flat ? half : half - 1, true};
+  return TrussTypeOf(session.TrussType).topNodes(model, HalfSpans(session));
 }
 
 std::vector<TopNode> TopNodesInRows(const TopNodeRange& range) {

@@ -24,8 +24,21 @@ struct TopNodeRange {
   int count() const { return last - first + 1; }
 };
 
-/// The nodes by type. A Warren truss counts them from 0, over the support; its midspan node is on
-/// the top chord or not, as `WarrenChord` says.
+// The nodes of the types, by the number of panels in a half.
+
+/// One on each inner panel point, and the peak.
+TopNodeRange PitchedNodes(const ActiveModel& model, int halfSpans);
+/// The peak alone.
+TopNodeRange PeakNode(const ActiveModel& model, int halfSpans);
+/// One on each panel point, counted from 1 over the support, and the one at midspan.
+TopNodeRange FlatNodes(const ActiveModel& model, int halfSpans);
+/// One on every second panel point, counted from 0 over the support; the one at midspan is on the
+/// top chord or not, as `WarrenChord` says.
+TopNodeRange WarrenNodes(const ActiveModel& model, int halfSpans);
+/// The same, and before a midspan node on top the element that no node has.
+TopNodeRange WarrenElements(const ActiveModel& model, int halfSpans);
+
+/// The nodes of the session's truss.
 TopNodeRange TopNodesOf(const ActiveModel& model, const SessionState& session);
 
 /// The nodes in the order of the node list: left half, peak, right half.
@@ -40,9 +53,9 @@ const Float32& NodeLoad(const ActiveModel& model, const TopNode& node);
 /// The deflection of a node, in.
 const Float32& NodeDeflection(const ActiveModel& model, const TopNode& node);
 
-/// "PL 1", "PT": the name of a node's load. Scissors trusses write "PL1".
+/// "PL 1", "PT": the name of a node's load. A type with one node a half writes "PL1".
 std::string LoadLabel(const TopNode& node, const std::string& trussType);
-/// "LN 1", "TN": the name of a node in the report. Scissors trusses write "LN1".
+/// "LN 1", "TN": the name of a node in the report. A type with one node a half writes "LN1".
 std::string NodeLabel(const TopNode& node, const std::string& trussType);
 
 }  // namespace lignara

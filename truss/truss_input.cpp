@@ -31,10 +31,12 @@ Message Refusal(const std::string& text) { return {text, kErrorTitle, MessageIco
 
 /// The checks of a type, in the order in which the user is told.
 std::vector<Check> ChecksOf(const std::string& trussType, const Dimensions& d) {
+  const TrussTypeInfo& type = TrussTypeOf(trussType);
   std::vector<Check> checks;
-  if (trussType == "SCI") {
+  if (type.HasInnerHeight()) {
     checks.push_back({d.first, 0.0, {"You need to enter a value for H1"}});
-  } else if (trussType != "KINGPOST") {
+  }
+  if (type.CountsPanels()) {
     checks.push_back({d.first, 3.0, Refusal("You must enter at least 4 spans ")});
   }
   checks.push_back({d.length, 0.0, Refusal("You must enter a total length.")});
@@ -51,14 +53,11 @@ bool Accepted(const std::vector<Check>& checks, Platform& platform) {
   return true;
 }
 
-/// The two types of fixed shape are kept in arrays for four panels.
-bool HasFixedSpans(const std::string& trussType) {
-  return trussType == "SCI" || trussType == "KINGPOST";
-}
-
 void StoreDimensions(const Dimensions& d, SessionState& session) {
-  if (session.TrussType == "SCI") session.TrussInnerHeight = d.first;
-  session.TrussSpans = HasFixedSpans(session.TrussType) ? Number(4.0) : Number(d.first);
+  const TrussTypeInfo& type = TrussTypeOf(session.TrussType);
+  if (type.HasInnerHeight()) session.TrussInnerHeight = d.first;
+  // Types of a fixed shape are kept in arrays for four panels.
+  session.TrussSpans = type.CountsPanels() ? Number(d.first) : Number(4.0);
   session.TrussLength = d.length;
   session.TrussHeight = d.height;
 }
@@ -72,12 +71,13 @@ bool IsEven(const Float32& spans) {
 
 TrussInputWindow OpenTrussInput(const SessionState& session) {
   TrussInputWindow window;
-  window.firstCaption = session.TrussType == "SCI" ? "H1 (ft)" : "Number of Spans";
-  if (session.TrussType == "KINGPOST") {
+  const TrussTypeInfo& type = TrussTypeOf(session.TrussType);
+  window.firstCaption = type.HasInnerHeight() ? "H1 (ft)" : "Number of Spans";
+  if (type.firstField == FirstField::Nothing) {
     window.first = "   2";
     window.firstEnabled = false;
   }
-  window.exampleCaption = TrussTypeOf(session.TrussType).exampleCaption;
+  window.exampleCaption = type.exampleCaption;
   window.sketch = ExampleSketch(session.TrussType);
   window.slopeSketch = SlopeSketch();
   return window;

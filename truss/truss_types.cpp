@@ -5,70 +5,71 @@
 #include "truss/axial_loads.h"
 #include "truss/deflection.h"
 #include "truss/geometry_drawn.h"
+#include "truss/member_layout_rules.h"
 
 namespace lignara {
 namespace {
 
-using Runs = std::vector<MemberRun>;
+using Ranges = std::vector<MemberRange>;
 
-MemberRun Each(Family family, int first, Upper last) { return {{family}, first, last}; }
+MemberRange Each(Family family, int first, Upper last) { return {{family}, first, last}; }
 
 /// Members named one by one: element 1 of each family.
-MemberRun Single(std::vector<Family> families, Upper last = Upper::One) {
+MemberRange Single(std::vector<Family> families, Upper last = Upper::One) {
   return {std::move(families), 1, last, true};
 }
 
-MemberRun CentreVertical() { return {{Family::CV}, 1, Upper::One}; }
+MemberRange CentreVertical() { return {{Family::CV}, 1, Upper::One}; }
 
-Runs Joined(Runs runs, const Runs& more) {
-  runs.insert(runs.end(), more.begin(), more.end());
-  return runs;
+Ranges Joined(Ranges ranges, const Ranges& more) {
+  ranges.insert(ranges.end(), more.begin(), more.end());
+  return ranges;
 }
 
-Runs Chords() {
+Ranges Chords() {
   return {Each(Family::TL, 1, Upper::Half), Each(Family::TR, 1, Upper::Half),
           Each(Family::CL, 1, Upper::Half), Each(Family::CR, 1, Upper::Half)};
 }
 
-Runs ChordsAndDiagonals(int firstDiagonal) {
+Ranges ChordsAndDiagonals(int firstDiagonal) {
   return Joined(Chords(), {Each(Family::DL, firstDiagonal, Upper::Half),
                            Each(Family::DR, firstDiagonal, Upper::Half)});
 }
 
-Runs Verticals(Upper last) { return {Each(Family::VL, 1, last), Each(Family::VR, 1, last)}; }
+Ranges Verticals(Upper last) { return {Each(Family::VL, 1, last), Each(Family::VR, 1, last)}; }
 
-Runs KingPostMembers() {
+Ranges KingPostMembers() {
   return {Single({Family::TL, Family::TR, Family::CL, Family::CR}), CentreVertical()};
 }
 
-Runs ScissorsMembers() {
+Ranges ScissorsMembers() {
   return {Single({Family::TL, Family::TR}, Upper::Two),
           Single({Family::VL, Family::VR, Family::CL, Family::CR}), CentreVertical()};
 }
 
-Runs Pratt1AxialRows() {
+Ranges Pratt1AxialRows() {
   return Joined(Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)), {CentreVertical()});
 }
 
-Runs EnglishAxialRows() {
-  const MemberRun byTurns = {{Family::VL, Family::VR}, 1, Upper::BeforeHalf};
+Ranges EnglishAxialRows() {
+  const MemberRange byTurns = {{Family::VL, Family::VR}, 1, Upper::BeforeHalf};
   return Joined(ChordsAndDiagonals(2), {byTurns, CentreVertical()});
 }
 
-Runs FlatAxialRows() {
+Ranges FlatAxialRows() {
   return Joined(Joined(ChordsAndDiagonals(1), Verticals(Upper::Half)), {CentreVertical()});
 }
 
-Runs WarrenRows(int firstDiagonal) {
+Ranges WarrenRows(int firstDiagonal) {
   return Joined(ChordsAndDiagonals(firstDiagonal), {Single({Family::VL, Family::VR})});
 }
 
-Runs Pratt1Checked() { return Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)); }
+Ranges Pratt1Checked() { return Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)); }
 
 /// The end panel's diagonal and the vertical next to midspan are left out of the check.
-Runs FlatChecked() { return Joined(Pratt1Checked(), {CentreVertical()}); }
+Ranges FlatChecked() { return Joined(Pratt1Checked(), {CentreVertical()}); }
 
-Runs EnglishChecked() { return FlatAxialRows(); }
+Ranges EnglishChecked() { return FlatAxialRows(); }
 
 using Signs = std::vector<SignRule>;
 constexpr int kCompression = -1;
@@ -130,6 +131,9 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "PRATT1",
        .title = "PRATT1 TRUSS",
        .exampleCaption = "Example:(6 Span Pratt1)",
+       .layout = PRATT1_IN,
+       .topNodePlace = RafterPlace,
+       .spread = SpreadPitched,
        .chain = PRATT1_AXIAL,
        .signs = Pratt1Signs(),
        .deflections = DEFLECTIONS_PEAKED,
@@ -138,6 +142,9 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "FINK",
        .title = "FINK TRUSS",
        .exampleCaption = "Example:(6 Span Fink)",
+       .layout = FINK_IN,
+       .topNodePlace = FinkPlace,
+       .spread = SpreadFink,
        .drawnGeometry = FinkDrawnGeometry,
        .chain = FINK_AXIAL,
        .signs = Pratt1Signs(),
@@ -147,6 +154,10 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "ENGLISH",
        .title = "ENGLISH TRUSS",
        .exampleCaption = "Example:(6 Span English)",
+       .diagonalsFall = true,
+       .layout = ENGLISH_IN,
+       .topNodePlace = RafterPlace,
+       .spread = SpreadPitched,
        .chain = ENGLISH_AXIAL,
        .signs = EnglishSigns(),
        .deflections = DEFLECTIONS_PEAKED,
@@ -156,6 +167,14 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "KINGPOST",
        .title = "KING POST TRUSS",
        .exampleCaption = "Example:(KING POST)",
+       .firstField = FirstField::Nothing,
+       .onePanelAHalf = true,
+       .layout = KINGPOST_IN,
+       .topNodePlace = PeakPlace,
+       .topNodes = PeakNode,
+       .filledByAll = PitchedNodes,
+       .blankRow = BlankRowLoad::Peak,
+       .spread = SpreadKingPost,
        .chain = KINGPOST_AXIAL,
        .signs = KingPostSigns(),
        .deflections = DEFLECTIONS_PEAKED,
@@ -165,6 +184,13 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "SCI",
        .title = "SCISSORS TRUSS",
        .exampleCaption = "Example:(Scissors Truss)",
+       .firstField = FirstField::InnerHeight,
+       .example = {.height = 10, .innerHeight = 4},
+       .layout = SCI_IN,
+       .topNodePlace = ScissorsPlace,
+       .blankRow = BlankRowLoad::Nowhere,
+       .blankBeforeNodeNumber = false,
+       .spread = SpreadScissors,
        .drawnGeometry = ScissorsDrawnGeometry,
        .chain = SCI_AXIAL,
        .signs = ScissorsSigns(),
@@ -174,15 +200,28 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "HOWE",
        .title = "HOWE TRUSS",
        .exampleCaption = "Example:(6 Span HOWE Truss)",
+       .levelTop = true,
+       .example = {.height = 5},
+       .layout = HOWE_IN,
+       .topNodePlace = FlatNodePlace,
+       .topNodes = FlatNodes,
+       .spread = SpreadFlat,
        .chain = HOWE_AXIAL,
        .signs = HoweSigns(),
        .deflections = DEFLECTIONS_FLAT,
        .axialRows = FlatAxialRows(),
        .checkedMembers = FlatChecked(),
-       .stressWordings = SpacedTop()},
+       .stressWordings = SpacedTop(),
+       .centreNameOnPaper = "CV1"},
       {.keyword = "PRATT2",
        .title = "PRATT2 TRUSS",
        .exampleCaption = "Example:(6 Span PRATT2 Truss)",
+       .levelTop = true,
+       .example = {.height = 5},
+       .layout = PRATT2_IN,
+       .topNodePlace = FlatNodePlace,
+       .topNodes = FlatNodes,
+       .spread = SpreadFlat,
        .chain = PRATT2_AXIAL,
        .signs = Pratt2Signs(),
        .deflections = DEFLECTIONS_FLAT,
@@ -192,6 +231,13 @@ std::vector<TrussTypeInfo> MakeTypes() {
       {.keyword = "WARREN",
        .title = "WARREN TRUSS",
        .exampleCaption = "Example:(6 Span WARREN Truss)",
+       .levelTop = true,
+       .example = {.height = 5},
+       .layout = WARREN_IN,
+       .topNodePlace = WarrenNodePlace,
+       .topNodes = WarrenNodes,
+       .filledByAll = WarrenElements,
+       .spread = SpreadWarren,
        .drawnGeometry = WarrenDrawnGeometry,
        .chain = WARREN_AXIAL,
        .deflections = DEFLECTIONS_WARREN,

@@ -9,8 +9,8 @@ namespace {
 
 /// A king post truss has a panel on each side of its post, though its arrays are made for four.
 void SetPanelLength(SessionState& session) {
-  const bool kingPost = session.TrussType == "KINGPOST";
-  session.PanelLength = session.TrussLength / (kingPost ? Number(2) : Number(session.TrussSpans));
+  const bool two = TrussTypeOf(session.TrussType).onePanelAHalf;
+  session.PanelLength = session.TrussLength / (two ? Number(2) : Number(session.TrussSpans));
 }
 
 void ShowReportChoices(TrussWindow& window, const SessionState& session) {

@@ -6,7 +6,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <array>
 
 #include "app/launcher.h"
 #include "app/window_names.h"
@@ -19,9 +18,6 @@
 
 namespace lignara {
 namespace {
-
-constexpr std::array<const char*, 8> kTrussPictures = {"PRATT1", "FINK", "ENGLISH", "KINGPOST",
-                                                       "SCI",    "HOWE", "PRATT2",  "WARREN"};
 
 class LauncherForm : public ToolWindow {
  public:
@@ -60,12 +56,13 @@ class LauncherForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Trusses");
     auto* grid = new QGridLayout(panel);
     grid->setSpacing(8);
-    for (std::size_t i = 0; i < kTrussPictures.size(); ++i) {
-      const char* type = kTrussPictures[i];
-      auto* button =
-          Named(type, new PictureButton(TypePicture(type), ToQt(TrussTypeOf(type).title)));
-      binding().Press(button, [this, type] { StartTruss(type, session(), platform()); });
-      grid->addWidget(button, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
+    int place = 0;
+    for (const TrussTypeInfo& type : TrussTypes()) {
+      auto* button = Named(type.keyword.c_str(),
+                           new PictureButton(TypePicture(type.keyword), ToQt(type.title)));
+      binding().Press(button, [this, &type] { StartTruss(type.keyword, session(), platform()); });
+      grid->addWidget(button, place / 2, place % 2);
+      ++place;
     }
     return panel;
   }

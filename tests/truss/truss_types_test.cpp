@@ -7,10 +7,10 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-Texts Labels(const std::vector<MemberRun>& runs, int halfSpans,
+Texts Labels(const std::vector<MemberRange>& ranges, int halfSpans,
              std::string (*label)(const Member& member)) {
   Texts labels;
-  for (const Member& member : MembersOf(runs, halfSpans)) labels.push_back(label(member));
+  for (const Member& member : MembersOf(ranges, halfSpans)) labels.push_back(label(member));
   return labels;
 }
 
