@@ -103,16 +103,24 @@ FieldFile::FieldFile(const std::string& dataDirectory, const std::string& fileNa
 
 std::string FieldFile::ReadText() { return Next().value_or(""); }
 
-double FieldFile::ReadValue() {
-  const std::string field = Next().value_or("");
+double FieldFile::ReadValue() { return ValueOf(Next().value_or("")); }
+
+double FieldFile::ReadFilledValue() {
+  const std::optional<std::string> field = Next();
+  if (field && field->empty()) FailNumber(" cannot be read");
+  return ValueOf(field.value_or(""));
+}
+
+double FieldFile::ValueOf(const std::string& field) {
   const Number number = ReadNumber(field);
-  const auto fail = [this](const char* how) {
-    lastFieldRead_ = false;
-    Report("A number in " + fileName_ + how);
-  };
-  if (number.fault() != Fault::None) fail(" is too large");
-  if (!field.empty() && !StartsWithNumber(field)) fail(" cannot be read");
+  if (number.fault() != Fault::None) FailNumber(" is too large");
+  if (!field.empty() && !StartsWithNumber(field)) FailNumber(" cannot be read");
   return number.value();
+}
+
+void FieldFile::FailNumber(const char* how) {
+  lastFieldRead_ = false;
+  Report("A number in " + fileName_ + how);
 }
 
 int FieldFile::ReadCount() {

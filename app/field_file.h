@@ -49,6 +49,8 @@ class FieldFile {
   std::string ReadText();
   /// The next field as a number; 0 where it is empty, no number, or too large.
   double ReadValue();
+  /// The same where a number has to stand: an empty field is told as one that cannot be read.
+  double ReadFilledValue();
   /// The next field as the count of the records that follow: 0 to 32767. What is no such number is
   /// shown and counts as 0.
   int ReadCount();
@@ -59,6 +61,8 @@ class FieldFile {
 
  private:
   std::optional<std::string> Next();
+  double ValueOf(const std::string& field);
+  void FailNumber(const char* how);
   /// Shows what happened, unless the file has shown the same before.
   void Report(const std::string& text);
 

@@ -227,6 +227,21 @@ TEST_F(FieldFileTest, KnowsWhetherTheLastFieldWasRead) {
   EXPECT_FALSE(file.LastFieldRead());
 }
 
+TEST_F(FieldFileTest, AnEmptyFieldIsZeroButNoNumberWhereOneHasToStand) {
+  FieldFile file = Open(",,\"\",7\n");
+  EXPECT_EQ(file.ReadValue(), 0.0);
+  EXPECT_TRUE(file.LastFieldRead());
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(file.ReadFilledValue(), 0.0);
+  EXPECT_FALSE(file.LastFieldRead());
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in TEST.CSV cannot be read"});
+  file.ReadText();
+  EXPECT_EQ(file.ReadFilledValue(), 7.0);
+  EXPECT_TRUE(file.LastFieldRead());
+  EXPECT_EQ(file.ReadFilledValue(), 0.0);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"The file TEST.CSV is too short"});
+}
+
 /// Whatever the bytes are, the stream gives at most one field a byte, none with a line end in it,
 /// and comes to its end.
 void ExpectStreamSurvives(const std::string& bytes) {

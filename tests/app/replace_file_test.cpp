@@ -1,0 +1,77 @@
+#include "app/replace_file.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "tests/support/data_folder.h"
+
+namespace lignara {
+namespace {
+
+std::size_t FilesIn(const DataFolder& folder) {
+  std::size_t count = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder.Path("."))) {
+    count += entry.exists() ? 1 : 0;
+  }
+  return count;
+}
+
+TEST(ReplaceFile, MakesAFile) {
+  const DataFolder folder;
+  EXPECT_TRUE(ReplaceFile(folder.Path("A"), "new\n"));
+  EXPECT_EQ(FileBytes(folder.Path("A")), "new\n");
+}
+
+TEST(ReplaceFile, ReplacesAFileAndLeavesNothingBeside) {
+  const DataFolder folder;
+  folder.Write("A", "old and longer\n");
+  EXPECT_TRUE(ReplaceFile(folder.Path("A"), "new\n"));
+  EXPECT_EQ(FileBytes(folder.Path("A")), "new\n");
+  EXPECT_EQ(FilesIn(folder), 1U);
+}
+
+TEST(ReplaceFile, FailsWithoutItsFolder) {
+  const DataFolder folder;
+  EXPECT_FALSE(ReplaceFile(folder.Path("none/A"), "new\n"));
+}
+
+TEST(ReplaceFile, ADirectoryOfThatNameStays) {
+  const DataFolder folder;
+  std::filesystem::create_directories(folder.Path("A/inside"));
+  EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
+  EXPECT_TRUE(std::filesystem::is_directory(folder.Path("A/inside")));
+  EXPECT_EQ(FilesIn(folder), 1U);
+}
+
+// What stands in the way of the file beside it leaves the old one whole.
+TEST(ReplaceFile, AFileThatCannotBeWrittenBesideLeavesTheOldOne) {
+  const DataFolder folder;
+  folder.Write("A", "old\n");
+  std::filesystem::create_directories(folder.Path("A.new/inside"));
+  EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
+  EXPECT_EQ(FileBytes(folder.Path("A")), "old\n");
+}
+
+TEST(ReplaceFile, AWriteThatBreaksOffLeavesTheOldOne) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no full device here";
+  const DataFolder folder;
+  folder.Write("A", "old\n");
+  std::filesystem::create_symlink("/dev/full", folder.Path("A.new"));
+  EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
+  EXPECT_EQ(FileBytes(folder.Path("A")), "old\n");
+  EXPECT_EQ(FilesIn(folder), 1U);
+}
+
+TEST(ReplaceFile, AFileThatMustNotBeWrittenStays) {
+  if (geteuid() == 0) GTEST_SKIP() << "the superuser may write any file";
+  const DataFolder folder;
+  folder.Write("A", "old\n");
+  std::filesystem::permissions(folder.Path("A"), std::filesystem::perms::owner_read);
+  EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
+  EXPECT_EQ(FileBytes(folder.Path("A")), "old\n");
+}
+
+}  // namespace
+}  // namespace lignara
