@@ -1,0 +1,52 @@
+#include "glulam/user_factors.h"
+
+#include <optional>
+
+#include "app/data_directory.h"
+#include "app/fault.h"
+#include "app/field_file.h"
+#include "app/field_number.h"
+#include "app/number_text.h"
+#include "app/replace_file.h"
+
+namespace lignara {
+namespace {
+
+constexpr const char* kFactorFile = "USERADJ.CSV";
+
+/// The next factor; nothing where there is none that can be read.
+std::optional<Float32> ReadFactor(FieldFile& file) {
+  const double number = file.ReadFilledValue();
+  return file.LastFieldRead() ? FieldNumber(number) : std::nullopt;
+}
+
+/// A factor as a line of its file: one leading blank where it is not negative.
+std::string FactorLine(const Float32& factor) {
+  return (factor < 0 ? "" : " ") + PlainNumber(factor) + "\n";
+}
+
+}  // namespace
+
+void ShowDefaultFactors(GlulamWindow& window, const SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  window.factors.fill(FormatNumber(1.0, kTwoDecimals));
+  FieldFile file(session.DataDirectory, kFactorFile, platform);
+  for (std::string& factor : window.factors) {
+    const std::optional<Float32> number = ReadFactor(file);
+    if (!number) return;
+    factor = FormatNumber(*number, kTwoDecimals);
+  }
+}
+
+void SaveUserFactors(const GlulamWindow& window, const SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  std::string lines;
+  for (const std::string& text : window.factors) {
+    const std::optional<Float32> factor = FieldNumber(ReadNumber(text));
+    if (!factor) return;
+    lines += FactorLine(*factor);
+  }
+  ReplaceFile(DataPath(session.DataDirectory, kFactorFile), lines);
+}
+
+}  // namespace lignara

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "glulam/glulam_window.h"
+
+namespace lignara {
+
+/// Sets all user factors to 1, then to the user's defaults, as far as their file can be read.
+void ShowDefaultFactors(GlulamWindow& window, const SessionState& session, Platform& platform);
+
+}  // namespace lignara
