@@ -12,6 +12,9 @@ TEST(Colours, BearTheNameThatAUserWouldSay) {
   EXPECT_STREQ(ColourName(Colour::Black), "black");
   EXPECT_STREQ(ColourName(Colour::Red), "red");
   EXPECT_STREQ(ColourName(Colour::Blue), "blue");
+  EXPECT_STREQ(ColourName(Colour::Gray), "gray");
+  EXPECT_STREQ(ColourName(Colour::RoyalBlue), "royalblue");
+  EXPECT_STREQ(ColourName(Colour::DarkOrange), "darkorange");
 }
 
 TEST(Colours, HaveNamesOfTheirOwn) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "tests/support/expect_box.h"
 #include "tests/support/expect_forces.h"
 #include "tests/support/truss_fixture.h"
@@ -33,6 +35,36 @@ TEST(AxialPratt2, SymmetricLoadsByHand) {
   for (const auto* t : {&m.AX_TL, &m.AX_TR}) ExpectForces(*t, {2000, 2666.67});
   for (const auto* c : {&m.AX_CL, &m.AX_CR}) ExpectForces(*c, {0, 2000});
   EXPECT_EQ(m.AX_CV[1].value(), 1000);
+}
+
+// Loads of 100 lbs on all nodes of 4 panels that are as high as long: reactions 250, shear of the
+// end panel 150, which the diagonal at 45 degrees takes with 150 x sqrt(2).
+TEST(AxialFlat, PanelsOfAFootAndLessAreTrussesLikeOthers) {
+  for (const char* type : {"PRATT2", "HOWE"}) {
+    for (const double panel : {1.0, 0.5}) {
+      TestTruss truss(type, 4, 4 * panel, panel);
+      truss.LoadAllNodes(100);
+      truss.Analyse();
+      const ActiveModel& m = truss.model();
+      EXPECT_TRUE(truss.platform.messages.empty()) << type << panel;
+      EXPECT_EQ(m.ErrorFlag.value(), 0) << type << panel;
+      EXPECT_FLOAT_EQ(m.NODE_RL.value(), 250) << type << panel;
+      EXPECT_NEAR(std::fabs(m.AX_DL[1].value()), 212.132, 0.001) << type << panel;
+    }
+  }
+}
+
+// Top nodes over the supports and at midspan only: reactions 150, 50 behind the end node.
+TEST(AxialFlat, WarrenPanelsOfAFootAndLess) {
+  for (const double panel : {1.0, 0.5}) {
+    TestTruss truss("WARREN", 4, 4 * panel, panel);
+    truss.LoadAllNodes(100);
+    truss.Analyse();
+    const ActiveModel& m = truss.model();
+    EXPECT_TRUE(truss.platform.messages.empty()) << panel;
+    EXPECT_FLOAT_EQ(m.NODE_RL.value(), 150) << panel;
+    EXPECT_NEAR(m.AX_DL[1].value(), 70.711, 0.001) << panel;
+  }
 }
 
 TEST(AxialPratt2, ShearThatTurnsRoundIsTakenAsItsMagnitude) {

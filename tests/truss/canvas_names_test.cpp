@@ -77,6 +77,37 @@ TEST(CanvasNames, LevelBottomChordNamesStartAtTheMidpoint) {
   EXPECT_EQ(members.at("CR 1").name.x, members.at("CR 1").circle.x);
 }
 
+/// Where there is room a name stands aslant of its circle, 40 units from the centre to its corner.
+void ExpectAslant(const DrawnMember& member, bool right, bool above) {
+  const TextShape& name = member.name;
+  const double x = right ? 40 : -40 - Width(name);
+  const double y = above ? -40 - kHeight : 40;
+  EXPECT_EQ(name.x, member.circle.x + x) << name.text;
+  EXPECT_EQ(name.y, member.circle.y + y) << name.text;
+}
+
+TEST(CanvasNames, OfRaftersStandOutside) {
+  const auto members = DrawnByName(Picture("KINGPOST"));
+  ExpectAslant(members.at("TL 1"), false, true);
+  ExpectAslant(members.at("TR 1"), true, true);
+}
+
+TEST(CanvasNames, OfWebsStandToTheRight) {
+  const auto falling = DrawnByName(Picture("PRATT2", 4));  // towards midspan
+  ExpectAslant(falling.at("DL 1"), true, true);
+  ExpectAslant(falling.at("DR 1"), true, false);
+  const auto rising = DrawnByName(Picture("HOWE", 4));
+  ExpectAslant(rising.at("DL 1"), true, false);
+  ExpectAslant(rising.at("DR 1"), true, true);
+}
+
+// On these the places that the names of the webs would like best are those of the bottom chord's
+// names, which are drawn behind some of them and have no choice.
+TEST(CanvasNames, HeedThoseOfTheBottomChord) {
+  ExpectReadable(OpenedTruss("FINK", 4, 24, 2).window.view.drawing, "flat FINK");
+  ExpectReadable(OpenedTruss("FINK", 6, 30, 30).window.view.drawing, "steep FINK");
+}
+
 TEST(CanvasNames, StandBesideTheirCircles) {
   for (const char* type : kTypes) {
     for (const DrawnMember& member : DrawnMembers(Picture(type))) {

@@ -197,6 +197,20 @@ TEST(EnterLoad, NumberTooLargeToKeepChangesNothing) {
   }
 }
 
+// Below 1e-45 a 32-bit number is 0, which is a load like any other and no fault.
+TEST(EnterLoad, NumberTooSmallToKeepIsNoLoad) {
+  OpenedTruss truss = Example("PRATT1");
+  for (const char* load : {"1e-50", "-1e-50", "1e-400"}) {
+    Enter(truss, 1, "100");
+    Enter(truss, 1, load);
+    EXPECT_EQ(truss.window.nodeRows[1], "PL 1 = 0.00") << load;
+    EnterAll(truss, "100");
+    EnterAll(truss, load);
+    EXPECT_EQ(truss.window.nodeRows[3], "PT = 0.00") << load;
+  }
+  EXPECT_TRUE(truss.platform.messages.empty());
+}
+
 /// The elements of PL (PR is the same) after "All" with 7, and PT.
 struct Filled {
   const char* type;

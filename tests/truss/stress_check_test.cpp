@@ -59,6 +59,7 @@ TEST(EulerValue, SidesNotAboveZeroGiveZero) {
   RecordingPlatform platform;
   const FaultScope faults(platform);
   EXPECT_EQ(EulerValue(10, 1600000, 0, 5.5), 0);
+  EXPECT_EQ(EulerValue(10, 1600000, 1.5, 0), 0);
   EXPECT_EQ(EulerValue(10, 1600000, 1.5, -1), 0);
   EXPECT_TRUE(platform.messages.empty());
 }
@@ -192,7 +193,9 @@ TEST(StressCheck, WordingOfTheTopLeftChord) {
     const Texts rows = StressList(truss);
     for (const char* label : {"(TL 1)", "(TL 3)"}) {
       const std::string line = LinesOf(rows, label).at(1);
-      EXPECT_EQ(line.substr(0, line.find_first_of("0123456789")), words) << type;
+      const std::size_t value = line.find_first_of("0123456789");
+      EXPECT_EQ(line.substr(0, value), words) << type;
+      EXPECT_EQ(line.substr(line.find('.', value) + 3), " psi") << type;
     }
     for (const char* label : {"(TR 1)", "(CL 3)", "(CR 1)", "(DL 2)", "(DR 3)"}) {
       const std::string line = LinesOf(rows, label).at(1);
