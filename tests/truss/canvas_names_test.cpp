@@ -101,6 +101,17 @@ TEST(CanvasNames, OfWebsStandToTheRight) {
   ExpectAslant(rising.at("DR 1"), true, true);
 }
 
+// So steep and far apart that a name beside a diagonal would be clear of it above and below.
+TEST(CanvasNames, OfFallingWebsStandAboveWhereBelowIsFreeToo) {
+  const auto members = DrawnByName(Picture("WARREN", 12));
+  for (const char* name : {"DL 1", "DL 3", "DR 2", "DR 4"}) {
+    ExpectAslant(members.at(name), true, true);
+  }
+  for (const char* name : {"DL 2", "DL 4", "DR 3", "DR 5"}) {
+    ExpectAslant(members.at(name), true, false);
+  }
+}
+
 // On these the places that the names of the webs would like best are those of the bottom chord's
 // names, which are drawn behind some of them and have no choice.
 TEST(CanvasNames, HeedThoseOfTheBottomChord) {
