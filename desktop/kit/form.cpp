@@ -67,6 +67,12 @@ QListWidget* MakeList(const QString& name, int rows) {
   return list;
 }
 
+void KeepRoom(QWidget* widget) {
+  QSizePolicy policy = widget->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(policy);
+}
+
 QLabel* MakeHeading(const QString& text) {
   auto* label = new QLabel(text);
   QFont font = label->font();

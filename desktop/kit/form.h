@@ -7,6 +7,7 @@ class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QWidget;
 
 namespace lignara {
 
@@ -33,6 +34,9 @@ QLineEdit* MakeField(const QString& name, int width = 96);
 
 /// A list known by a name, high enough to show `rows` rows whole.
 QListWidget* MakeList(const QString& name, int rows = 8);
+
+/// Keeps the room of a widget while it is hidden, so that nothing moves when it shows.
+void KeepRoom(QWidget* widget);
 
 /// A label in bold letters.
 QLabel* MakeHeading(const QString& text);

@@ -5,10 +5,10 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "desktop/kit/form.h"
+#include "desktop/kit/option_frame.h"
 #include "desktop/kit/tool_window.h"
 #include "truss/report.h"
 
@@ -18,15 +18,9 @@ namespace {
 /// Two options of which one is on.
 QGroupBox* OptionPair(Binding& binding, const QString& caption, const QString& first,
                       const QString& second, bool* firstIsOn) {
-  QGroupBox* panel = MakePanel(caption);
-  auto* column = new QVBoxLayout(panel);
-  for (const bool isFirst : {true, false}) {
-    auto* option = new QRadioButton(isFirst ? first : second);
-    binding.Press(option, [firstIsOn, isFirst] { *firstIsOn = isFirst; });
-    binding.Follow([option, firstIsOn, isFirst] { option->setChecked(*firstIsOn == isFirst); });
-    column->addWidget(option);
-  }
-  return panel;
+  return MakeOptionFrame(
+      binding, caption, {first, second}, [firstIsOn] { return *firstIsOn ? 0 : 1; },
+      [firstIsOn](int at) { *firstIsOn = at == 0; });
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/truss/truss_report_panels.h"
 #include "desktop/windows.h"
@@ -132,11 +133,7 @@ QLayout* TrussForm::CanvasFrame() {
   canvas->OnPress(
       [this](double x, double y) { binding().Run([&] { HitTruss(record_, session(), x, y); }); });
   canvas->OnHover([this](double x, double y) { return IsOverMember(record_, session(), x, y); });
-  canvas->OnSave([this, canvas] {
-    if (const auto path = platform().ChooseSaveFile("PNG(*.png)|*.png|")) {
-      if (!canvas->SavePng(ToQt(*path))) platform().ShowMessage({"Cannot write " + *path});
-    }
-  });
+  LetUserSave(canvas, platform());
   grid->addWidget(canvas, 0, 0);
   auto* rise = Named("Rise", new QScrollBar(Qt::Vertical));
   rise->setRange(0, kPanSteps);

@@ -166,10 +166,7 @@ class WoodDataBaseForm : public ToolWindow {
 
   QGroupBox* Factors() {
     const FactorPanelParts factors = MakeFactorPanel(record_, binding(), session(), platform());
-    // Its room is kept, so that nothing moves when it opens.
-    QSizePolicy policy = factors.panel->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    factors.panel->setSizePolicy(policy);
+    KeepRoom(factors.panel);
     SetReturnButton(factors.panel, factors.calculate);
     SetEscapeButton(factors.panel, factors.cancel);
     return factors.panel;
