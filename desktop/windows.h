@@ -13,5 +13,6 @@ ToolWindow* MakeTrussInputWindow(WindowContext context);
 ToolWindow* MakeTrussWindow(WindowContext context);
 ToolWindow* MakeMemberSizeWindow(WindowContext context);
 ToolWindow* MakeWoodDataBaseWindow(WindowContext context);
+ToolWindow* MakePlyWindow(WindowContext context);
 
 }  // namespace lignara

@@ -15,8 +15,8 @@ struct Box {
 constexpr Box kSheet = {60, 60, 4740, 2340};
 constexpr Box kBorder = {600, 360, 4200, 2040};
 constexpr Box kInnerBorder = {660, 420, 4140, 1980};
-constexpr double kTextHeight = 300;
-constexpr std::array<double, 3> kTextTops = {500, 1030, 1560};
+constexpr double kTextHeight = 260;
+constexpr std::array<double, 3> kTextTops = {540, 1070, 1600};
 
 void AddBox(Drawing& drawing, const Box& box, Colour colour) {
   const auto& [left, top, right, bottom] = box;
@@ -50,8 +50,8 @@ void AddGrain(Drawing& drawing, bool stamped) {
 
 /// The width of a letter in the usual screen fonts, as a share of the text height.
 double LetterWidth(char letter) {
-  if (std::string_view(" -/I").find(letter) != std::string_view::npos) return 0.3;
-  return std::isupper(static_cast<unsigned char>(letter)) != 0 ? 0.62 : 0.54;
+  if (std::string_view(" -/I").find(letter) != std::string_view::npos) return 0.33;
+  return std::isupper(static_cast<unsigned char>(letter)) != 0 ? 0.68 : 0.61;
 }
 
 void AddCentred(Drawing& drawing, const std::string& text, double top) {

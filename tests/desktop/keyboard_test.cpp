@@ -233,6 +233,17 @@ TEST_F(MnemonicTest, AreDistinctInTheSmallWindows) {
   ExpectDistinct("ABOUT");
 }
 
+TEST_F(MnemonicTest, AreDistinctInEachPlywoodPanel) {
+  desktop.Play({"press \"Ply Wood\"", "window ply"});
+  for (const char* panel : {"Standard Live Loads", "Glued Floors", "Sub Floors", "Heavy Duty",
+                            "Truck Duty", "Wall Sheathing", "Shear Walls", "Roof Sheeting"}) {
+    desktop.Play({("press \"" + std::string(panel) + "\"").c_str()});
+    ExpectDistinct("ply");
+  }
+  desktop.Play({"menu \"Options\" \"Veneer Grades...\""});
+  ExpectDistinct("ply");
+}
+
 TEST_F(MnemonicTest, AreDistinctInTheLumberWindows) {
   for (const char* client : {"press \"TRUSS\"", "press \"BEAM\""}) {
     desktop.Play({"window main", "press \"Pure Wood Data Base\"", "window QUESTION", client});

@@ -19,6 +19,7 @@
 
 #include "app/fault.h"
 #include "app/launcher.h"
+#include "app/window_names.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
@@ -44,6 +45,9 @@ class Monkey {
     StartSession(session_, LIGNARA_DATA_DIRECTORY);
     platform_.OpenWindow("main");
   }
+
+  /// From here on the window is the newest, which the monkey likes best.
+  void Open(const char* window) { platform_.OpenWindow(window); }
 
   void Play(int actions) {
     for (int i = 0; i < actions && !testing::Test::HasFailure(); ++i) {
@@ -181,6 +185,20 @@ TEST_P(MonkeyTest, FindsNoCrashAndNoInternal) {
   monkey.Play(1500);
   EXPECT_GT(monkey.heard(), 0);
 }
+
+/// Windows that a walk from the launcher reaches too seldom.
+class MonkeyInAWindowTest : public testing::TestWithParam<const char*> {};
+
+TEST_P(MonkeyInAWindowTest, FindsNoCrashAndNoInternal) {
+  for (const unsigned seed : {21U, 22U}) {
+    Monkey monkey(seed);
+    monkey.Open(GetParam());
+    monkey.Play(600);
+    EXPECT_GT(monkey.heard(), 0);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, MonkeyInAWindowTest, testing::Values(window_name::kPlywood));
 
 INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Range(1u, 9u));
 

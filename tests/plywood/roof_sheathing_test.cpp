@@ -116,6 +116,31 @@ TEST_F(RoofSheathingTest, Rating12_0At16CarriesNothingButHasSpanAndThickness) {
   EXPECT_EQ(Values(), (Texts{"0", "12", "5/16", "6D"}));
 }
 
+// What the help tells: load and span are looked up each by its own key.
+TEST_F(RoofSheathingTest, TenLoadsStandBeyondTheSpanThatIsShown) {
+  Texts beyond;
+  for (int grade = 0; grade < 2; ++grade) {
+    for (const char* edge : {"Edge Support", "No Edge Support"}) {
+      Choose(kGrade, grade);
+      Choose(kEdge, edge);
+      for (const std::string& rating : Texts(Entries(kRating))) {
+        for (const std::string& spacing : Texts(Entries(kSpacing))) {
+          Choose(kRating, rating);
+          Choose(kSpacing, spacing);
+          const bool farther = std::stoi(spacing) > std::stoi(Value("Max. Panel Span (in)"));
+          if (!farther || Value("Allowable Live Load (psf)") == "0") continue;
+          beyond.push_back(std::string(edge) + ": " + rating + " at " + spacing);
+        }
+      }
+    }
+  }
+  EXPECT_EQ(beyond, (Texts{"No Edge Support: 24/0 at 24", "No Edge Support: 32/16 at 32",
+                           "No Edge Support: 40/20 at 40", "No Edge Support: 48/24 at 40",
+                           "No Edge Support: 48/24 at 48", "Edge Support: 24 oc at 48",
+                           "No Edge Support: 24 oc at 40", "No Edge Support: 24 oc at 48",
+                           "No Edge Support: 32 oc at 48", "No Edge Support: 48 oc at 60"}));
+}
+
 TEST_F(RoofSheathingTest, Note3StandsWhereEdgesAreSupportedOrPanelsLieAlong) {
   EXPECT_EQ(Lines(), kAllNotes);  // also without a rating
   Choose(kEdge, "No Edge Support");
