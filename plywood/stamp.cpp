@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "app/sketch_pen.h"
+
 namespace lignara {
 namespace {
 
@@ -18,18 +20,12 @@ constexpr Box kInnerBorder = {660, 420, 4140, 1980};
 constexpr double kTextHeight = 260;
 constexpr std::array<double, 3> kTextTops = {540, 1070, 1600};
 
-void AddBox(Drawing& drawing, const Box& box, Colour colour) {
-  const auto& [left, top, right, bottom] = box;
-  for (const LineShape& side :
-       {LineShape{left, top, right, top, colour}, LineShape{right, top, right, bottom, colour},
-        LineShape{right, bottom, left, bottom, colour},
-        LineShape{left, bottom, left, top, colour}}) {
-    drawing.shapes.emplace_back(side);
-  }
+void AddBox(SketchPen& pen, const Box& box, Colour colour) {
+  pen.Box(box.left, box.top, box.right, box.bottom, colour);
 }
 
 /// Veneer runs along the sheet; the lines stop at a stamp and leave it clear.
-void AddGrain(Drawing& drawing, bool stamped) {
+void AddGrain(SketchPen& pen, bool stamped) {
   constexpr double kStep = 190;
   constexpr double kGap = 60;
   constexpr double kRagged = 110;
@@ -40,10 +36,10 @@ void AddGrain(Drawing& drawing, bool stamped) {
     const double right = kSheet.right - (longer ? kGap + kRagged : kGap);
     const bool broken = stamped && y > kBorder.top - kGap && y < kBorder.bottom + kGap;
     if (broken) {
-      drawing.shapes.emplace_back(LineShape{left, y, kBorder.left - kGap, y, Colour::Gray});
-      drawing.shapes.emplace_back(LineShape{kBorder.right + kGap, y, right, y, Colour::Gray});
+      pen.Line(left, y, kBorder.left - kGap, y, Colour::Gray);
+      pen.Line(kBorder.right + kGap, y, right, y, Colour::Gray);
     } else {
-      drawing.shapes.emplace_back(LineShape{left, y, right, y, Colour::Gray});
+      pen.Line(left, y, right, y, Colour::Gray);
     }
   }
 }
@@ -54,34 +50,30 @@ double LetterWidth(char letter) {
   return std::isupper(static_cast<unsigned char>(letter)) != 0 ? 0.68 : 0.61;
 }
 
-void AddCentred(Drawing& drawing, const std::string& text, double top) {
+void AddCentred(SketchPen& pen, const std::string& text, double top) {
   double width = 0;
   for (const char letter : text) width += LetterWidth(letter) * kTextHeight;
-  drawing.shapes.emplace_back(
-      TextShape{(kBorder.left + kBorder.right - width) / 2, top, text, Colour::Black});
+  pen.Text((kBorder.left + kBorder.right - width) / 2, top, text);
 }
 
-Drawing Sheet(bool stamped) {
-  Drawing drawing;
-  drawing.width = kSheet.left + kSheet.right;
-  drawing.height = kSheet.top + kSheet.bottom;
-  drawing.textHeight = kTextHeight;
-  AddBox(drawing, kSheet, Colour::Gray);
-  AddGrain(drawing, stamped);
-  return drawing;
+SketchPen Sheet(bool stamped) {
+  SketchPen pen(kSheet.left + kSheet.right, kSheet.top + kSheet.bottom, kTextHeight);
+  AddBox(pen, kSheet, Colour::Gray);
+  AddGrain(pen, stamped);
+  return pen;
 }
 
 }  // namespace
 
 Drawing PanelStamp(const std::string& panelClass, const std::string& gradeMark) {
-  Drawing drawing = Sheet(true);
-  AddBox(drawing, kBorder, Colour::Black);
-  AddBox(drawing, kInnerBorder, Colour::Black);
+  SketchPen pen = Sheet(true);
+  AddBox(pen, kBorder, Colour::Black);
+  AddBox(pen, kInnerBorder, Colour::Black);
   const std::array<std::string, 3> texts = {"APA", panelClass, gradeMark};
-  for (std::size_t i = 0; i < texts.size(); ++i) AddCentred(drawing, texts[i], kTextTops[i]);
-  return drawing;
+  for (std::size_t i = 0; i < texts.size(); ++i) AddCentred(pen, texts[i], kTextTops[i]);
+  return pen.drawing();
 }
 
-Drawing UnstampedSheet() { return Sheet(false); }
+Drawing UnstampedSheet() { return Sheet(false).drawing(); }
 
 }  // namespace lignara
