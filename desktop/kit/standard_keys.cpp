@@ -30,6 +30,8 @@ const StandardKey kMenuKeys[] = {
 const StandardKey kButtonKeys[] = {
     {"Run", QKeySequence(Qt::Key_F5)},
     {"RUN", QKeySequence(Qt::Key_F5)},
+    {"Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
+    {"Save Output to Text File", QKeySequence(Qt::CTRL | Qt::Key_S)},
 };
 
 template <typename Table>
@@ -55,12 +57,15 @@ void SetMenuKeys(QMainWindow* window) {
   }
 }
 
+/// Panels that take each other's place may each have such a button: the key is that of the visible
+/// one.
 void SetButtonKeys(QMainWindow* window) {
+  const QList<QKeySequence> taken = KeysTaken(window);
   for (QPushButton* button : window->findChildren<QPushButton*>()) {
     const QString caption = PlainCaption(button->text());
     const QKeySequence key = KeyOf(kButtonKeys, caption);
-    if (key.isEmpty() || KeysTaken(window).contains(key)) continue;
-    QObject::connect(new QShortcut(key, window), &QShortcut::activated, button, [button] {
+    if (key.isEmpty() || taken.contains(key)) continue;
+    QObject::connect(new QShortcut(key, button), &QShortcut::activated, button, [button] {
       if (button->isVisible() && button->isEnabled()) button->click();
     });
     if (button->toolTip().isEmpty()) button->setToolTip(caption + " (" + key.toString() + ")");
