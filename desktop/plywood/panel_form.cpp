@@ -49,6 +49,15 @@ Qt::Orientation OrientationFor(const std::vector<QString>& options) {
   return letters <= kLetters ? Qt::Horizontal : Qt::Vertical;
 }
 
+/// Notes or a picture beside the fields leave them less room.
+int WidthOfValues(const PlyPanelKind& kind) {
+  constexpr int kNarrow = 120;
+  constexpr int kMiddle = 190;
+  constexpr int kWide = 280;  // for nails described in words
+  if (!kind.linesCaption.empty()) return kNarrow;
+  return kind.pictureName.empty() ? kWide : kMiddle;
+}
+
 }  // namespace
 
 PlyPanelForm::PlyPanelForm(PlyPanelWindow& window, PlyPanel panel, Binding& binding,
@@ -71,15 +80,6 @@ PlyPanelForm::PlyPanelForm(PlyPanelWindow& window, PlyPanel panel, Binding& bind
     rows->addWidget(note);
   }
   rows->addLayout(Commands());
-}
-
-void PlyPanelForm::FocusFirst() {
-  for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
-    const auto* option = qobject_cast<const QRadioButton*>(widget);
-    const bool stop = qobject_cast<const QListWidget*>(widget) != nullptr ||
-                      (option != nullptr && option->isChecked());
-    if (stop && isAncestorOf(widget)) return widget->setFocus();
-  }
 }
 
 /// The keys in their order, side by side; frames of options that follow each other share a column.
@@ -147,19 +147,13 @@ QWidget* PlyPanelForm::Stamp() {
 
 /// The fields, and beside them the notes or the picture where the panel has such.
 QLayout* PlyPanelForm::Results() {
-  constexpr int kNarrow = 120;
-  constexpr int kMiddle = 190;
-  constexpr int kWide = 280;  // for nails described in words
   auto* columns = new QHBoxLayout;
   if (kind_.results.empty()) return columns;
   const bool hasLines = !kind_.linesCaption.empty();
   const bool hasPicture = !kind_.pictureName.empty();
   auto* grid = new QGridLayout;
   for (PlyResult& result : state_.results) {
-    QLineEdit* value = AddValue(grid, ToQt(result.caption),
-                                hasLines     ? kNarrow
-                                : hasPicture ? kMiddle
-                                             : kWide);
+    QLineEdit* value = AddValue(grid, ToQt(result.caption), WidthOfValues(kind_));
     value->setAlignment(Qt::AlignLeft);
     binding_.Text(value, &result.value);
     auto* label = static_cast<QLabel*>(grid->itemAtPosition(grid->rowCount() - 1, 0)->widget());
@@ -195,8 +189,7 @@ QLayout* PlyPanelForm::Commands() {
   };
   add("&Print", [this] { PrintPlyReport(window_, panel_, platform_); });
   add("&Save Output to Text File", [this] { SavePlyReport(window_, panel_, platform_); });
-  close_ = add("&Close", [this] { ClosePanel(window_); });
-  SetEscapeButton(this, close_);
+  SetEscapeButton(this, add("&Close", [this] { ClosePanel(window_); }));
   return row;
 }
 

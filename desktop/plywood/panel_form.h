@@ -7,9 +7,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "plywood/ply_window.h"
 
-class QBoxLayout;
 class QLabel;
-class QPushButton;
 
 namespace lignara {
 
@@ -18,10 +16,6 @@ namespace lignara {
 class PlyPanelForm : public QGroupBox {
  public:
   PlyPanelForm(PlyPanelWindow& window, PlyPanel panel, Binding& binding, DesktopPlatform& platform);
-
-  /// The first key: where the work in the panel starts.
-  void FocusFirst();
-  QPushButton* close() const { return close_; }
 
  private:
   QLayout* Keys();
@@ -39,7 +33,6 @@ class PlyPanelForm : public QGroupBox {
   PlyPanelState& state_;
   Binding& binding_;
   DesktopPlatform& platform_;
-  QPushButton* close_ = nullptr;
 };
 
 }  // namespace lignara

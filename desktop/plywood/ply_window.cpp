@@ -10,6 +10,7 @@
 
 #include "app/window_names.h"
 #include "desktop/kit/form.h"
+#include "desktop/kit/open_panels.h"
 #include "desktop/kit/text.h"
 #include "desktop/plywood/panel_form.h"
 #include "desktop/windows.h"
@@ -32,7 +33,6 @@ class PlyForm : public ToolWindow {
     columns->setSpacing(12);
     columns->addLayout(Strip());
     columns->addLayout(Panels(), 1);
-    FollowWithFocus();
     strip_[0]->setFocus();
   }
 
@@ -44,7 +44,7 @@ class PlyForm : public ToolWindow {
     for (std::size_t i = kPlyStripPanels; i < kPlyPanels; ++i) {
       const auto panel = static_cast<PlyPanel>(i);
       binding().Menu(options->addAction(ToQt(PlyPanelKindOf(panel).opener)),
-                     [this, panel] { Open(panel); });
+                     [this, panel] { ShowPanel(record_, panel); });
     }
     AddHelpMenu();
   }
@@ -55,7 +55,7 @@ class PlyForm : public ToolWindow {
       const auto panel = static_cast<PlyPanel>(i);
       auto* button = new QPushButton(ToQt(PlyPanelKindOf(panel).opener));
       button->setMinimumWidth(WidthInBold(button));
-      binding().Press(button, [this, panel] { Open(panel); });
+      binding().Press(button, [this, panel] { ShowPanel(record_, panel); });
       binding().Follow([this, button, panel] { SetBold(button, record_.open == panel); });
       rows->addWidget(button);
       strip_[i] = button;
@@ -73,35 +73,13 @@ class PlyForm : public ToolWindow {
     place->addWidget(none, 0, 0, Qt::AlignCenter);
     for (std::size_t i = 0; i < kPlyPanels; ++i) {
       const auto panel = static_cast<PlyPanel>(i);
-      panels_[i] = new PlyPanelForm(record_, panel, binding(), platform());
-      KeepRoom(panels_[i]);
-      binding().Shown(panels_[i], [this, panel] { return record_.open == panel; });
-      place->addWidget(panels_[i], 0, 0);
+      QGroupBox* form = new PlyPanelForm(record_, panel, binding(), platform());
+      KeepRoom(form);
+      if (i < kPlyStripPanels) ReturnFocusTo(form, strip_[i]);
+      binding().Shown(form, [this, panel] { return record_.open == panel; });
+      place->addWidget(form, 0, 0);
     }
     return place;
-  }
-
-  void Open(PlyPanel panel) {
-    ShowPanel(record_, panel);
-    moveFocus_ = true;
-  }
-
-  /// The work goes on in the panel that opens, and at its button when it closes.
-  void FollowWithFocus() {
-    binding().Follow([this, was = record_.open]() mutable {
-      if (record_.open && moveFocus_) Form(*record_.open)->FocusFirst();
-      if (!record_.open && was) ButtonOf(*was)->setFocus();
-      was = record_.open;
-      moveFocus_ = false;
-    });
-  }
-
-  PlyPanelForm* Form(PlyPanel panel) { return panels_[static_cast<std::size_t>(panel)]; }
-
-  /// A panel of the menu has no button of its own; the strip starts at its first.
-  QPushButton* ButtonOf(PlyPanel panel) {
-    const auto at = static_cast<std::size_t>(panel);
-    return strip_[at < kPlyStripPanels ? at : 0];
   }
 
   static int WidthInBold(const QPushButton* button) {
@@ -119,8 +97,6 @@ class PlyForm : public ToolWindow {
 
   PlyPanelWindow record_;
   std::array<QPushButton*, kPlyStripPanels> strip_ = {};
-  std::array<PlyPanelForm*, kPlyPanels> panels_ = {};
-  bool moveFocus_ = false;
 };
 
 }  // namespace

@@ -157,6 +157,28 @@ TEST_F(PlyWindowByKeyboard, ArrowsChooseInTheListsAndTheOptionsAnswerAtOnce) {
   EXPECT_EQ(Read("read \"Nail Spacing, edges (in)\""), "value \"12\"");
 }
 
+TEST_F(PlyWindowByKeyboard, PrintAndSaveHaveTheirKeysInEachPanel) {
+  for (const char* panel : {"press \"Sub Floors\"", "press \"Shear Walls\""}) {
+    desktop.printed.clear();
+    desktop.Play({panel});
+    desktop.PressKey("ply", Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(FromQt(desktop.printed.value(0)), "page 1") << panel;
+    desktop.printed.clear();
+    desktop.Play({"answer cancel"});
+    desktop.PressKey("ply", Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(FromQt(desktop.printed.value(0)), "dialog save \"Text(*.txt)|*.txt|All(*.*)|*.*|\"")
+        << panel;
+  }
+}
+
+TEST_F(PlyWindowByKeyboard, AltAndALetterOpenAPanelFromWithinAnother) {
+  desktop.Play({"press \"Heavy Duty\""});
+  desktop.PressKey("ply", Qt::Key_G, Qt::AltModifier);
+  EXPECT_EQ(FromQt(desktop.FocusIn("ply")), "Joist Wood Type");
+  desktop.PressKey("ply", Qt::Key_L, Qt::AltModifier);
+  EXPECT_EQ(FromQt(desktop.FocusIn("ply")), "Panel  Rating");
+}
+
 TEST_F(PlyWindowByKeyboard, EscapeLeadsBackToTheButtonOfThePanel) {
   desktop.Play({"press \"Truck Duty\""});
   desktop.PressKey("ply", Qt::Key_Escape);
