@@ -3,10 +3,21 @@
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "desktop/kit/tool_window.h"
 
 namespace lignara {
+namespace {
+
+void SetOn(QRadioButton* option, bool on) {
+  // One of several that exclude each other cannot be switched off by itself.
+  option->setAutoExclusive(false);
+  option->setChecked(on);
+  option->setAutoExclusive(true);
+}
+
+}  // namespace
 
 QGroupBox* MakeOptionFrame(Binding& binding, const QString& caption,
                            const std::vector<QString>& options, std::function<int()> chosen,
@@ -19,9 +30,10 @@ QGroupBox* MakeOptionFrame(Binding& binding, const QString& caption,
     auto* option = new QRadioButton(text);
     binding.Press(option, [choose, at] { choose(at); });
     binding.Follow([option, chosen, at] {
-      const bool on = chosen() == at;
-      option->setChecked(on);
-      option->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+      const int on = chosen();
+      SetOn(option, on == at);
+      const bool stop = at == std::max(on, 0);
+      option->setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
     });
     places->addWidget(option);
     ++at;
