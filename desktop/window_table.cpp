@@ -18,6 +18,7 @@ constexpr std::array kWindows = {
     WindowKind{window_name::kMemberSize, true, MakeMemberSizeWindow},
     WindowKind{window_name::kWoodDataBase, true, MakeWoodDataBaseWindow},
     WindowKind{window_name::kPlywood, false, MakePlyWindow},
+    WindowKind{window_name::kGlulam, false, MakeGlulamWindow},
 };
 
 }  // namespace

@@ -14,5 +14,6 @@ ToolWindow* MakeTrussWindow(WindowContext context);
 ToolWindow* MakeMemberSizeWindow(WindowContext context);
 ToolWindow* MakeWoodDataBaseWindow(WindowContext context);
 ToolWindow* MakePlyWindow(WindowContext context);
+ToolWindow* MakeGlulamWindow(WindowContext context);
 
 }  // namespace lignara

@@ -15,6 +15,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <filesystem>
 #include <random>
 
 #include "app/fault.h"
@@ -42,8 +43,10 @@ class Monkey {
         platform_(session_, [this](const QString& line) { Heard(line); }),
         faults_(platform_) {
     EXPECT_TRUE(directory_.isValid());
-    StartSession(session_, LIGNARA_DATA_DIRECTORY);
-    platform_.OpenWindow("main");
+    // A copy, since the monkey saves the user's defaults as well.
+    std::filesystem::copy(LIGNARA_DATA_DIRECTORY, FromQt(directory_.path()));
+    StartSession(session_, FromQt(directory_.path()));
+    platform_.OpenWindow(window_name::kLauncher);
   }
 
   /// From here on the window is the newest, which the monkey likes best.
@@ -198,7 +201,8 @@ TEST_P(MonkeyInAWindowTest, FindsNoCrashAndNoInternal) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, MonkeyInAWindowTest, testing::Values(window_name::kPlywood));
+INSTANTIATE_TEST_SUITE_P(Windows, MonkeyInAWindowTest,
+                         testing::Values(window_name::kPlywood, window_name::kGlulam));
 
 INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Range(1u, 9u));
 
