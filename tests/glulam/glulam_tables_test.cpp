@@ -46,6 +46,78 @@ INSTANTIATE_TEST_SUITE_P(
         ColumnCase{GlulamValue::Fc, "Fc, Compression parallel to grain", 0.73, true},
         ColumnCase{GlulamValue::Ea, "Ea, Mod. of Elasticity, Axial Load", 0.833, true}));
 
+TEST(GlulamLabels, OfTheSingleSpanCheck) {
+  const char* const labels[] = {"Bending stress, tension zone (psi) = ",
+                                "Bending stress, compression zone (psi) = ",
+                                "Compression perp. to grain, tension face (psi) = ",
+                                "Compression perp. to grain, compression face (psi) = ",
+                                "Horizontal Shear (psi) = ",
+                                "Mod. of elasticity for bending about X (psi) = ",
+                                "Bending stress about Y (psi) = ",
+                                "Compression perp. to grain Y axis (psi) = ",
+                                "Horiz. shear Y axis (psi) = ",
+                                "Horiz. shear, no edge glue (psi) = ",
+                                "Mod. of elasticity for bending about Y (psi) = ",
+                                "Axial Tension parallel to grain (psi) = ",
+                                "Axial Compression parallel to grain (psi) = ",
+                                "Mod. of elasticity for axial loading (psi) = "};
+  for (std::size_t i = 0; i < kGlulamValues; ++i) {
+    EXPECT_STREQ(kGlulamColumns[i].beamLabel, labels[i]);
+  }
+}
+
+TEST(GlulamLabels, OfTheMultiSpanCheck) {
+  const char* const labels[] = {"Allowable Bending tension zone (psi) = ",
+                                "Allowable Bending compression zone (psi) = ",
+                                "Compression perp. to grain,tension face (psi) = ",
+                                "Compression perp. to grain,compression face (psi) = ",
+                                "Horizontal Shear (psi) = ",
+                                "Mod. of elasticity, bending about X (psi) = ",
+                                "Allowable Bending about Y axis (psi) = ",
+                                "Compression perp. to grain, Y axis (psi) = ",
+                                "Horizontal Shear, Y axis (psi) = ",
+                                "Horizontal Shear, no edge glue (psi) = ",
+                                "Mod. of elasticity, bending about Y (psi) = ",
+                                "Allowable tension parallel to grain (psi) = ",
+                                "Allowable compression parallel to grain (psi) = ",
+                                "Mod. of elasticity, axial loading (psi) = "};
+  for (std::size_t i = 0; i < kGlulamValues; ++i) {
+    EXPECT_STREQ(kGlulamColumns[i].spanLabel, labels[i]);
+  }
+}
+
+struct UseLines {
+  const char* beam;
+  const char* span;
+};
+
+void ExpectLines(const GlulamUseCondition* use, const UseLines& lines) {
+  ASSERT_NE(use, nullptr);
+  EXPECT_STREQ(use->beamLine, lines.beam);
+  EXPECT_STREQ(use->spanLine, lines.span);
+}
+
+TEST(GlulamUseConditions, LinesOfTheChecksByCode) {
+  ExpectLines(FindGlulamDuration(1),
+              {"Load duration is > 10 years.", "Load duration is greater than 10 years."});
+  ExpectLines(FindGlulamDuration(2), {"Load duration is 2 months.", "Load duration is 2 months."});
+  ExpectLines(FindGlulamDuration(3),
+              {"Load type is wind/earthquake.", "Load type is wind/earthquake."});
+  ExpectLines(FindGlulamDuration(4), {"Load duration is 7 days.", "Load duration is 7 days."});
+  ExpectLines(FindGlulamDuration(5), {"Load type is impact.", "Load type is impact."});
+  ExpectLines(FindUseCondition(kGlulamLoadTypes, 1), {"Primary load is single consentrated.",
+                                                      "Primary load type is single consentrated."});
+  ExpectLines(FindUseCondition(kGlulamLoadTypes, 2),
+              {"Primary load is uniform.", "Primary load type is uniform."});
+  ExpectLines(
+      FindUseCondition(kGlulamLoadTypes, 3),
+      {"Primary load is multiple point loads.", "Primary load type is multiple point loads."});
+  ExpectLines(FindUseCondition(kGlulamMoistures, 1),
+              {"Member is considered dry.", "Wood is considered Dry."});
+  ExpectLines(FindUseCondition(kGlulamMoistures, 2),
+              {"Member is considered wet.", "Wood is considered Wet."});
+}
+
 TEST(GlulamUseConditions, CodesOfDurationsPutWindBeforeSevenDays) {
   EXPECT_STREQ(FindGlulamDuration(1)->caption, "> 10 yr.");
   EXPECT_STREQ(FindGlulamDuration(2)->caption, "2 Month");
