@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "desktop/kit/text.h"
@@ -32,6 +33,12 @@ QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& capti
   grid->addWidget(label, row, column);
   grid->addWidget(field, row, column + 1);
   return field;
+}
+
+QWidget* CaptionBeside(const QGridLayout* grid, const QLineEdit* field) {
+  int row = 0, column = 0, rows = 0, columns = 0;
+  grid->getItemPosition(grid->indexOf(field), &row, &column, &rows, &columns);
+  return grid->itemAtPosition(row, column - 1)->widget();
 }
 
 void ShowOnly(QLineEdit* field) {
@@ -71,6 +78,17 @@ void KeepRoom(QWidget* widget) {
   QSizePolicy policy = widget->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget->setSizePolicy(policy);
+}
+
+QWidget* MakeCaptionedList(const QString& caption, QListWidget* list) {
+  auto* box = new QWidget;
+  auto* rows = new QVBoxLayout(box);
+  rows->setContentsMargins(0, 0, 0, 0);
+  auto* label = new QLabel(caption);
+  label->setBuddy(list);
+  rows->addWidget(label);
+  rows->addWidget(list, 1);
+  return box;
 }
 
 QLabel* MakeHeading(const QString& text) {

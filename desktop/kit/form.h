@@ -26,6 +26,9 @@ QLineEdit* PutField(QGridLayout* grid, int row, int column, const QString& capti
 QLineEdit* AddValue(QGridLayout* grid, const QString& caption, int width = 96);
 QLineEdit* PutValue(QGridLayout* grid, int row, int column, const QString& caption, int width = 96);
 
+/// The caption that stands beside a field of a grid.
+QWidget* CaptionBeside(const QGridLayout* grid, const QLineEdit* field);
+
 /// Makes a field one that is only shown. The Tab key passes it by; the mouse can mark its text.
 void ShowOnly(QLineEdit* field);
 
@@ -37,6 +40,9 @@ QListWidget* MakeList(const QString& name, int rows = 8);
 
 /// Keeps the room of a widget while it is hidden, so that nothing moves when it shows.
 void KeepRoom(QWidget* widget);
+
+/// A list below its caption, which carries the mnemonic.
+QWidget* MakeCaptionedList(const QString& caption, QListWidget* list);
 
 /// A label in bold letters.
 QLabel* MakeHeading(const QString& text);

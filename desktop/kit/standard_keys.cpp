@@ -32,6 +32,7 @@ const StandardKey kButtonKeys[] = {
     {"RUN", QKeySequence(Qt::Key_F5)},
     {"Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
     {"Save Output to Text File", QKeySequence(Qt::CTRL | Qt::Key_S)},
+    {"Compute", QKeySequence(Qt::Key_F5)},
 };
 
 template <typename Table>
@@ -51,6 +52,7 @@ QList<QKeySequence> KeysTaken(const QMainWindow* window) {
 
 void SetMenuKeys(QMainWindow* window) {
   for (QAction* action : window->findChildren<QAction*>()) {
+    if (action->menu() != nullptr) continue;  // a menu in a menu has the captions of its own items
     const QKeySequence key = KeyOf(kMenuKeys, PlainCaption(action->text()));
     const bool free = action->shortcut().isEmpty() && !KeysTaken(window).contains(key);
     if (!key.isEmpty() && free) action->setShortcut(key);
