@@ -81,7 +81,7 @@ void DrawMainMember(SketchPen& pen, double top, double bottom, const char* name)
 }  // namespace
 
 Drawing JointSketch(bool singleShear) {
-  SketchPen pen(4300, 1900, kTextHeight);
+  SketchPen pen(4500, 1900, kTextHeight);
   if (singleShear) {
     DrawSideMember(pen, 500, 850, "L2");
     DrawMainMember(pen, 850, 1350, "L1(main)");
@@ -121,7 +121,7 @@ Drawing TensionRodSketch() {
   constexpr double kTimberTop = 560, kTimberBottom = 1160;
   constexpr double kRod = 45, kNut = 110, kPlate = 320;  // half widths
   constexpr double kPlateTop = 480, kNutTop = 380, kRodTop = 300, kRodEnd = 1420;
-  SketchPen pen(1500, 1900, kTextHeight);
+  SketchPen pen(1500, 1900, 140);
   DrawTimber(pen, {150, kTimberTop, 1350, kTimberBottom, true, true});
   pen.Box(kX - kPlate, kPlateTop, kX + kPlate, kTimberTop, kSteel);
   pen.Box(kX - kNut, kNutTop, kX + kNut, kPlateTop, kSteel);

@@ -25,6 +25,14 @@ ShearJoint ReadJoint(BoltWindow& window) {
   return joint;
 }
 
+ShearInput ShearInputOf(const BoltWindow& w) {
+  return {w.L1, w.L2, w.L3, w.A, w.bolts.row, w.options};
+}
+
+TensionInput TensionInputOf(const BoltWindow& w) {
+  return {w.boltStress, w.woodStress, w.rods.row};
+}
+
 }  // namespace
 
 void OpenBoltWindow(BoltWindow& window, const SessionState& session, Platform& platform) {
@@ -60,6 +68,11 @@ void ComputeShear(BoltWindow& window, Platform& platform) {
   window.parallel = FormatNumber(loads.parallel, kTwoDecimals);
   window.perpendicular = FormatNumber(loads.perpendicular, kTwoDecimals);
   window.atAngle = FormatNumber(atAngle, kTwoDecimals);
+  window.shearComputedFrom = ShearInputOf(window);
+}
+
+bool ShearIsOutOfDate(const BoltWindow& window) {
+  return window.shearComputedFrom && *window.shearComputedFrom != ShearInputOf(window);
 }
 
 void ChooseRod(BoltWindow& window, Platform& platform, int row) {
@@ -85,6 +98,11 @@ void ComputeTension(BoltWindow& window, Platform& platform) {
   window.load = FormatNumber(load, kTwoDecimals);
   window.plateSide = FormatNumber(side, kTwoDecimals);
   window.plateThickness = rod.plateThickness;
+  window.tensionComputedFrom = TensionInputOf(window);
+}
+
+bool TensionIsOutOfDate(const BoltWindow& window) {
+  return window.tensionComputedFrom && *window.tensionComputedFrom != TensionInputOf(window);
 }
 
 }  // namespace lignara

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/drawing.h"
@@ -10,6 +11,23 @@
 #include "connections/joint_options.h"
 
 namespace lignara {
+
+/// What the shear results were worked out from, as it stood on the screen.
+struct ShearInput {
+  std::string L1, L2, L3, A;
+  int bolt = -1;
+  JointOptions options;
+
+  bool operator==(const ShearInput&) const = default;
+};
+
+/// What the tension results were worked out from.
+struct TensionInput {
+  std::string boltStress, woodStress;
+  int rod = -1;
+
+  bool operator==(const TensionInput&) const = default;
+};
 
 /// The window `bolts`, "Bolt and Rod Connectors". All lengths are typed as decimal inches.
 struct BoltWindow {
@@ -34,6 +52,9 @@ struct BoltWindow {
   std::string plateSide;       ///< "Min. Plate Side Dim (in)"
   std::string plateThickness;  ///< "Min. Plate Thk. (in)"
 
+  std::optional<ShearInput> shearComputedFrom;  ///< nothing before the first results
+  std::optional<TensionInput> tensionComputedFrom;
+
   Drawing jointSketch;
   Drawing angleSketch;
   Drawing rodSketch;
@@ -50,12 +71,18 @@ void ChooseBolt(BoltWindow& window, int row);
 /// The command of "Allowable Shear". A refused joint leaves the results as they were.
 void ComputeShear(BoltWindow& window, Platform& platform);
 
+/// True where the input has changed since the shear results were computed.
+bool ShearIsOutOfDate(const BoltWindow& window);
+
 /// A click on a row of the list of rods, also on the one chosen already: computes. A row outside
 /// changes nothing.
 void ChooseRod(BoltWindow& window, Platform& platform, int row);
 /// Computes the rod; runs after each change of one of the two stresses. Refused stresses leave the
 /// results as they were.
 void ComputeTension(BoltWindow& window, Platform& platform);
+
+/// True where the input has changed since the tension results were computed, that is: was refused.
+bool TensionIsOutOfDate(const BoltWindow& window);
 
 /// Menu "Files", "Print", its three items.
 void PrintTensionResults(const BoltWindow& window, Platform& platform);

@@ -14,6 +14,7 @@ struct JointOptions {
   std::int16_t WoodType = 0;
 
   bool IsSingleShear() const { return ShearKind == 1; }
+  bool operator==(const JointOptions&) const = default;
 };
 
 /// One choice of a group.

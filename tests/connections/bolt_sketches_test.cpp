@@ -24,7 +24,7 @@ void ExpectInside(const Drawing& drawing) {
     } else if (const auto* text = std::get_if<TextShape>(&shape)) {
       inside(text->x, text->y);
       const double letters = static_cast<double>(text->text.size());
-      inside(text->x + letters * drawing.textHeight * 0.55, text->y + drawing.textHeight);
+      inside(text->x + letters * drawing.textHeight * 0.6, text->y + drawing.textHeight);
     }
   }
 }

@@ -93,6 +93,19 @@ TEST_F(BoltTensionTest, RefusalLeavesTheOlderResults) {
   EXPECT_EQ(Results(), (Texts{"1560.00", "1.97", "3/16"}));
 }
 
+TEST_F(BoltTensionTest, ResultsAreOutOfDateWhileTheInputIsRefused) {
+  EnterStresses("", "400");
+  EXPECT_FALSE(TensionIsOutOfDate(window));
+  EnterStresses("20", "400");
+  EXPECT_FALSE(TensionIsOutOfDate(window));
+  EnterStresses("0", "400");
+  EXPECT_TRUE(TensionIsOutOfDate(window));
+  ChooseRod(window, platform, 2);
+  EXPECT_TRUE(TensionIsOutOfDate(window));
+  EnterStresses("20", "400");
+  EXPECT_FALSE(TensionIsOutOfDate(window));
+}
+
 TEST_F(BoltTensionTest, ClickOnTheChosenRodComputes) {
   ChooseRod(window, platform, 0);
   EXPECT_EQ(platform.TakeTexts(), Texts{kRefusal});

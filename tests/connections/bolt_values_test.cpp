@@ -66,7 +66,7 @@ TEST_F(BoltValuesTest, FileIsAStreamOfFields) {
 TEST_F(BoltValuesTest, MissingFileIsOneBoxAndAnEmptyTable) {
   const BoltValueTable table = ReadBoltValues(folder.DataDirectory(), platform);
   EXPECT_EQ(table.size(), 0);
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open BV.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open BV.CSV in " + folder.Folder()});
 }
 
 TEST_F(BoltValuesTest, CountThatCannotBeReadIsABoxAndAnEmptyTable) {

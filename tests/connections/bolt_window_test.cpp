@@ -50,7 +50,7 @@ TEST_F(BoltWindowTest, MissingTableIsOneBoxAndAWindowThatWorks) {
   DataFolder folder;
   session.DataDirectory = folder.DataDirectory();
   OpenBoltWindow(window, session, platform);
-  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open BV.CSV"});
+  EXPECT_EQ(platform.TakeTexts(), Texts{"Cannot open BV.CSV in " + folder.Folder()});
   EXPECT_EQ(window.bolts.rows.size(), 7U);
   window.boltStress = "20";
   window.woodStress = "400";
@@ -143,6 +143,32 @@ TEST_F(BoltWindowTest, WindowOpensWithPlatesAndPermanentLoad) {
   Compute("1.5", 0);
   // 940 x 1.25 x 0.9 = 1057.5, 430 x 0.9 = 387.
   EXPECT_EQ(Loads(), (Texts{"1057.50", "387.00"}));
+}
+
+TEST_F(BoltWindowTest, ShearResultsAreOutOfDateWhileAnyOfTheirInputIsAnother) {
+  EXPECT_FALSE(ShearIsOutOfDate(window));
+  Compute("1.5", 0);
+  EXPECT_FALSE(ShearIsOutOfDate(window));
+  for (std::string* text : {&window.L1, &window.L2, &window.L3, &window.A}) {
+    const std::string before = *text;
+    *text = "1.4";
+    EXPECT_TRUE(ShearIsOutOfDate(window));
+    *text = before;
+    EXPECT_FALSE(ShearIsOutOfDate(window));
+  }
+  for (const JointOptionGroup& group : JointOptionGroups()) {
+    ChooseJointOption(window, group, 1);
+    EXPECT_TRUE(ShearIsOutOfDate(window)) << group.caption;
+    ChooseJointOption(window, group, 0);
+  }
+  ChooseBolt(window, 1);
+  EXPECT_TRUE(ShearIsOutOfDate(window));
+  // A refused computation leaves them so.
+  window.L1 = "1";
+  ComputeShear(window, platform);
+  EXPECT_TRUE(ShearIsOutOfDate(window));
+  Compute("2", 1);
+  EXPECT_FALSE(ShearIsOutOfDate(window));
 }
 
 TEST_F(BoltWindowTest, LengthTooLargeIsToldAndCountsAsNone) {

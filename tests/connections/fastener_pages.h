@@ -1,6 +1,6 @@
 #pragma once
 
-// The pages of the fastener tables, typed apart from the program's own tables: one line a row, the
+// The pages of the fastener tables, copied apart from the program's own tables: one line a row, the
 // cells between bars.
 
 #include <string>
