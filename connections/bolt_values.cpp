@@ -13,7 +13,7 @@ constexpr BoltWood kColumns[] = {BoltWood::Dense, BoltWood::Medium, BoltWood::Op
 
 /// The next field into a 32-bit number. False where it could not be read or does not fit.
 bool ReadInto(Float32& number, FieldFile& file) {
-  const double value = file.ReadValue();
+  const double value = file.ReadFilledValue();
   number = value;
   return file.LastFieldRead() && std::fabs(value) <= std::numeric_limits<float>::max();
 }

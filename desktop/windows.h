@@ -13,6 +13,8 @@ ToolWindow* MakeTrussInputWindow(WindowContext context);
 ToolWindow* MakeTrussWindow(WindowContext context);
 ToolWindow* MakeMemberSizeWindow(WindowContext context);
 ToolWindow* MakeWoodDataBaseWindow(WindowContext context);
+ToolWindow* MakeFastenerWindow(WindowContext context);
+ToolWindow* MakeBoltWindow(WindowContext context);
 ToolWindow* MakePlyWindow(WindowContext context);
 ToolWindow* MakeGlulamWindow(WindowContext context);
 

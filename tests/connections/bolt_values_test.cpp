@@ -95,6 +95,11 @@ TEST_F(BoltValuesTest, WordForANumberIsABoxAndTakesItsRowAway) {
   EXPECT_EQ(platform.TakeTexts(), Texts{"A number in BV.CSV cannot be read"});
 }
 
+TEST_F(BoltValuesTest, EmptyNumberIsABoxAndTakesItsRowAway) {
+  EXPECT_EQ(Read("1\na,b,1.5,0.5,1,,3,4,5,6\n").Row(1), nullptr);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in BV.CSV cannot be read"});
+}
+
 TEST_F(BoltValuesTest, NumberTooLargeIsABoxAndTakesItsRowAway) {
   EXPECT_EQ(Read("1\na,b,1.5,0.5,1e39,2,3,4,5,6\n").Row(1), nullptr);
   EXPECT_EQ(platform.TakeTexts(), Texts{"The number is too large"});

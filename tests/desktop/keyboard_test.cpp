@@ -256,5 +256,14 @@ TEST_F(MnemonicTest, AreDistinctInTheLumberWindows) {
   ExpectDistinct("wdb");
 }
 
+TEST_F(MnemonicTest, AreDistinctInTheWindowsOfConnections) {
+  desktop.Play({"press \"Fastener Data Base\"", "window FASTENER", "press \"Bolts\""});
+  ExpectDistinct("bolts");
+  for (const char* kind : {"press \"Nails\"", "press \"Lag Screws\""}) {
+    desktop.Play({"window FASTENER", kind});
+    ExpectDistinct("FASTENER");
+  }
+}
+
 }  // namespace
 }  // namespace lignara

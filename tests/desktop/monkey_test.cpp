@@ -104,16 +104,21 @@ class Monkey {
 
   void UseMenu(ToolWindow* window) {
     std::vector<QAction*> items;
-    for (const QAction* menu : window->menuBar()->actions()) {
-      for (QAction* item : menu->menu()->actions()) {
-        if (item->isEnabled() && !item->isSeparator() && item->text() != "E&xit") {
-          items.push_back(item);
-        }
-      }
-    }
+    for (const QAction* menu : window->menuBar()->actions()) AddItems(menu->menu(), items);
     if (items.empty()) return;
     PrepareAnswer();
     items[static_cast<std::size_t>(Pick(items.size()))]->trigger();
+  }
+
+  /// The items of a menu and of the menus in it.
+  static void AddItems(const QMenu* menu, std::vector<QAction*>& items) {
+    for (QAction* item : menu->actions()) {
+      if (item->menu() != nullptr) {
+        AddItems(item->menu(), items);
+      } else if (item->isEnabled() && !item->isSeparator() && item->text() != "E&xit") {
+        items.push_back(item);
+      }
+    }
   }
 
   void UseControl(ToolWindow* window) {
@@ -202,7 +207,8 @@ TEST_P(MonkeyInAWindowTest, FindsNoCrashAndNoInternal) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, MonkeyInAWindowTest,
-                         testing::Values(window_name::kPlywood, window_name::kGlulam));
+                         testing::Values(window_name::kPlywood, window_name::kGlulam,
+                                         window_name::kFasteners, window_name::kBolts));
 
 INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Range(1u, 9u));
 
