@@ -139,7 +139,9 @@ QWidget* PlyPanelForm::Options(std::size_t key) {
 QWidget* PlyPanelForm::Stamp() {
   auto* picture = new Picture;
   picture->setAccessibleName(ToQt(kind_.pictureName));
-  picture->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as high as the results
+  // As high as the results, and as wide as they leave room.
+  picture->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  picture->setMinimumWidth(InLetters(240));
   LetUserSave(picture, platform_);
   binding_.Show(picture, &state_.picture);
   return picture;
