@@ -30,17 +30,6 @@ int WidthFor(const QWidget* list, const Texts& texts) {
   return width + kFrame;
 }
 
-/// A list below its caption.
-QWidget* Captioned(QLabel* caption, QListWidget* list) {
-  auto* box = new QWidget;
-  auto* rows = new QVBoxLayout(box);
-  rows->setContentsMargins(0, 0, 0, 0);
-  caption->setBuddy(list);
-  rows->addWidget(caption);
-  rows->addWidget(list, 1);
-  return box;
-}
-
 /// Short options stand in a row: so many letters, all together, are read at one glance.
 Qt::Orientation OrientationFor(const std::vector<QString>& options) {
   constexpr qsizetype kLetters = 32;
@@ -113,9 +102,9 @@ QWidget* PlyPanelForm::List(std::size_t key) {
   list->setMinimumWidth(WidthFor(list, state.choice.rows));
   binding_.List(list, &state.choice.rows, &state.choice.row,
                 [this, key](int row) { ChoosePlyRow(window_, panel_, key, row); });
-  auto* caption = new QLabel;
-  FollowCaption(caption, list, &state.caption);
-  return Captioned(caption, list);
+  QWidget* captioned = MakeCaptionedList(ToQt(state.caption), list);
+  FollowCaption(captioned->findChild<QLabel*>(), list, &state.caption);
+  return captioned;
 }
 
 QWidget* PlyPanelForm::Options(std::size_t key) {
@@ -158,8 +147,7 @@ QLayout* PlyPanelForm::Results() {
     QLineEdit* value = AddValue(grid, ToQt(result.caption), WidthOfValues(kind_));
     value->setAlignment(Qt::AlignLeft);
     binding_.Text(value, &result.value);
-    auto* label = static_cast<QLabel*>(grid->itemAtPosition(grid->rowCount() - 1, 0)->widget());
-    FollowCaption(label, value, &result.caption);
+    FollowCaption(static_cast<QLabel*>(CaptionBeside(grid, value)), value, &result.caption);
   }
   grid->setRowStretch(grid->rowCount(), 1);
   columns->addLayout(grid);
@@ -177,7 +165,8 @@ QWidget* PlyPanelForm::Lines() {
   list->setMinimumWidth(list->fontMetrics().averageCharWidth() * kLetters);
   list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as high as those rows
   binding_.List(list, &state_.lines);
-  return Captioned(new QLabel(ToQt(kind_.linesCaption)), list);
+  if (kind_.results.empty()) binding_.WhyEmpty(list, [] { return "Choose a row on the left."; });
+  return MakeCaptionedList(ToQt(kind_.linesCaption), list);
 }
 
 QLayout* PlyPanelForm::Commands() {
