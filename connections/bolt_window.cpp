@@ -10,6 +10,7 @@
 namespace lignara {
 namespace {
 
+/// As many decimals as tables of the trade are worked out with.
 constexpr double kPi = 3.14159;
 
 /// Reads the fields. Single shear has no third member, so its field is emptied first.
