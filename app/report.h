@@ -25,6 +25,7 @@ std::string PrintZones(std::size_t empty, const std::vector<std::string>& items)
 struct ReportLine {
   std::size_t emptyZones = 0;
   std::vector<std::string> items;
+  bool heads = false;  ///< heads of the columns below, until the next blank line
 
   /// The line as columns of characters.
   std::string Text() const { return PrintZones(emptyZones, items); }
@@ -47,6 +48,10 @@ class Report {
   /// A line of items in print zones.
   void Columns(std::vector<std::string> items, std::size_t emptyZones = 0) {
     items_.emplace_back(ReportLine{emptyZones, std::move(items)});
+  }
+  /// The heads of columns, which paper repeats where they go on on a further page.
+  void Heads(std::vector<std::string> items, std::size_t emptyZones = 0) {
+    items_.emplace_back(ReportLine{emptyZones, std::move(items), true});
   }
   void StartPage() { items_.emplace_back(NewPage{}); }
   void Draw(Drawing drawing) { items_.emplace_back(std::move(drawing)); }

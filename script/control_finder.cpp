@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
+#include "desktop/kit/readers.h"
 #include "desktop/kit/text.h"
 #include "script/script_error.h"
 #include "script/script_line.h"
@@ -76,6 +77,7 @@ bool IsNearer(const Found& a, const Found& b) {
 }  // namespace
 
 QString CaptionOf(const QWidget* widget) {
+  if (const QString name = ScriptNameOf(widget); !name.isEmpty()) return name;
   if (!widget->accessibleName().isEmpty()) return PlainCaption(widget->accessibleName());
   if (const auto* panel = qobject_cast<const QGroupBox*>(widget)) {
     return PlainCaption(panel->title());

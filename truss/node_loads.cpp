@@ -70,6 +70,13 @@ void EnterNodeLoad(TrussWindow& window, const SessionState& session, Platform& p
   SHOW_NODE_LOADS(window, session);
 }
 
+void EnterNodeLoadAndGoOn(TrussWindow& window, const SessionState& session, Platform& platform) {
+  EnterNodeLoad(window, session, platform);
+  const int next = window.nodeRow + 1;
+  const bool onRow = window.nodeRow >= 0 && next < static_cast<int>(window.nodeRows.size());
+  if (onRow) SelectNode(window, session, platform, next);
+}
+
 void EnterAllNodeLoads(TrussWindow& window, const SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   const std::optional<Float32> load = FieldNumber(ReadNumber(window.nodeLoad));

@@ -63,6 +63,9 @@ class TrussReport {
   void Columns(std::vector<std::string> items, std::size_t emptyZones = 0) {
     report.Columns(std::move(items), indent_ + emptyZones);
   }
+  void Heads(std::vector<std::string> items, std::size_t emptyZones = 0) {
+    report.Heads(std::move(items), indent_ + emptyZones);
+  }
   /// A heading with a blank line behind it.
   void Heading(const std::string& text);
   void MemberRow(const Member& member);
@@ -105,8 +108,8 @@ void TrussReport::Members() {
   report.Line();
   Heading("MEMBER INFORMATION");
   Line("Note, if Area = 10000 then no member types were selected.");
-  Columns({"MEMBER", "TYPE", "AREA", "LENGTH", "AXIAL"});
-  Columns({"in^2", "ft", "LOAD(lb)"}, 2);
+  Heads({"MEMBER", "TYPE", "AREA", "LENGTH", "AXIAL"});
+  Heads({"in^2", "ft", "LOAD(lb)"}, 2);
   const auto members =
       MembersOf(TrussTypeOf(session_.TrussType).checkedMembers, HalfSpans(session_));
   for (const MemberSection& section : kMemberSections) {

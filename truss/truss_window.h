@@ -86,6 +86,9 @@ void OpenTruss(TrussWindow& window, SessionState& session, Platform& platform);
 void SelectNode(TrussWindow& window, const SessionState& session, Platform& platform, int row);
 /// "Enter": the field becomes the load of the selected row.
 void EnterNodeLoad(TrussWindow& window, const SessionState& session, Platform& platform);
+/// Return in the field: "Enter", then the next row of the list is selected, so that the loads of a
+/// truss can be typed one after the other. At the last row it stays.
+void EnterNodeLoadAndGoOn(TrussWindow& window, const SessionState& session, Platform& platform);
 /// "All": the field becomes the load of all nodes.
 void EnterAllNodeLoads(TrussWindow& window, const SessionState& session, Platform& platform);
 /// Clears and refills the node list.

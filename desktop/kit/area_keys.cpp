@@ -11,6 +11,7 @@ namespace {
 using Command = std::function<void()>;
 
 constexpr const char* kReturnButton = "returnButton";
+constexpr const char* kReturnCommand = "returnCommand";
 constexpr const char* kEscapeButton = "escapeButton";
 constexpr const char* kEscapeCommand = "escapeCommand";
 
@@ -18,17 +19,16 @@ QPushButton* ButtonOf(const QWidget* area, const char* key) {
   return qobject_cast<QPushButton*>(area->property(key).value<QObject*>());
 }
 
-bool CanBePressed(const QPushButton* button) {
-  return button != nullptr && button->isVisible() && button->isEnabled();
+bool Click(QPushButton* button) {
+  const bool able = button != nullptr && button->isVisible() && button->isEnabled();
+  if (able) button->click();
+  return able;
 }
 
-QPushButton* ButtonFor(QWidget* widget, const char* key) {
-  for (; widget != nullptr; widget = widget->parentWidget()) {
-    QPushButton* button = ButtonOf(widget, key);
-    if (CanBePressed(button)) return button;
-    if (widget->isWindow()) break;
-  }
-  return nullptr;
+bool RunCommand(const QWidget* widget, const char* key) {
+  const QVariant command = widget->property(key);
+  if (command.isValid()) command.value<Command>()();
+  return command.isValid();
 }
 
 void SetButton(QWidget* area, const char* key, QPushButton* button) {
@@ -46,6 +46,10 @@ void SetReturnButton(QWidget* area, QPushButton* button) {
   }
 }
 
+void SetReturnCommand(QWidget* field, Command command) {
+  field->setProperty(kReturnCommand, QVariant::fromValue(std::move(command)));
+}
+
 void SetEscapeButton(QWidget* area, QPushButton* button) { SetButton(area, kEscapeButton, button); }
 
 void SetEscapeCommand(QWidget* panel, Command command) {
@@ -57,17 +61,24 @@ bool HasEscape(const QWidget* area) {
 }
 
 bool PressEscape(QWidget* area) {
-  if (const QVariant command = area->property(kEscapeCommand); command.isValid()) {
-    command.value<Command>()();
-    return true;
-  }
-  QPushButton* button = ButtonOf(area, kEscapeButton);
-  if (!CanBePressed(button)) return false;
-  button->click();
-  return true;
+  return RunCommand(area, kEscapeCommand) || Click(ButtonOf(area, kEscapeButton));
 }
 
-QPushButton* ReturnButtonFor(QWidget* widget) { return ButtonFor(widget, kReturnButton); }
-QPushButton* EscapeButtonFor(QWidget* widget) { return ButtonFor(widget, kEscapeButton); }
+bool LeaveArea(QWidget* widget) {
+  for (; widget != nullptr; widget = widget->parentWidget()) {
+    if (PressEscape(widget)) return true;
+    if (widget->isWindow()) break;
+  }
+  return false;
+}
+
+bool PressReturn(QWidget* widget) {
+  if (RunCommand(widget, kReturnCommand)) return true;
+  for (; widget != nullptr; widget = widget->parentWidget()) {
+    if (Click(ButtonOf(widget, kReturnButton))) return true;
+    if (widget->isWindow()) break;
+  }
+  return false;
+}
 
 }  // namespace lignara

@@ -11,6 +11,9 @@ namespace lignara {
 /// double click on a row presses it too.
 void SetReturnButton(QWidget* area, QPushButton* button);
 
+/// What Return does in a field, where that is not the work of a button.
+void SetReturnCommand(QWidget* field, std::function<void()> command);
+
 /// The button that Escape presses while the focus is inside `area`; in a panel, also while the
 /// panel is the one opened last.
 void SetEscapeButton(QWidget* area, QPushButton* button);
@@ -24,9 +27,11 @@ bool HasEscape(const QWidget* area);
 /// Leaves an area as Escape does. False where its button cannot be pressed now.
 bool PressEscape(QWidget* area);
 
-/// The button that Return or Escape presses for a widget: that of the innermost area around it.
-/// Null where there is none that can be pressed.
-QPushButton* ReturnButtonFor(QWidget* widget);
-QPushButton* EscapeButtonFor(QWidget* widget);
+/// Leaves the innermost area around a widget that Escape can leave. False where there is none.
+bool LeaveArea(QWidget* widget);
+
+/// Does what Return does for a widget: its own command, or the button of the innermost area around
+/// it that can be pressed. False where there is neither.
+bool PressReturn(QWidget* widget);
 
 }  // namespace lignara

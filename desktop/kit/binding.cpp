@@ -130,6 +130,10 @@ void Binding::Press(QAbstractButton* button, Command command) {
   QObject::connect(button, &QAbstractButton::clicked, [this, command] { Run(command); });
 }
 
+void Binding::OnReturn(QLineEdit* field, Command command) {
+  SetReturnCommand(field, [this, command] { Run(command); });
+}
+
 void Binding::Menu(QAction* action, Command command) {
   QObject::connect(action, &QAction::triggered, [this, command] { Run(command); });
 }

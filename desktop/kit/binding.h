@@ -59,6 +59,8 @@ class Binding {
   /// Greys a result while it is older than what it was worked out from.
   void OutOfDate(QWidget* result, Condition outOfDate);
   void Press(QAbstractButton* button, Command command);
+  /// What Return does in a field, instead of pressing the button of the area around it.
+  void OnReturn(QLineEdit* field, Command command);
   void Menu(QAction* action, Command command);
   /// A check box or one option of a group.
   void Check(QAbstractButton* button, bool* checked, Command changed = {});

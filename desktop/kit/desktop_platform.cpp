@@ -1,17 +1,22 @@
 #include "desktop/kit/desktop_platform.h"
 
 #include <QApplication>
-#include <QFileDialog>
+#include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
+#include <QStandardPaths>
 #include <algorithm>
 #include <cassert>
 
+#include "app/launcher.h"
 #include "app/window_names.h"
+#include "desktop/kit/dialogs.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/help_window.h"
+#include "desktop/kit/program_icon.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/report_printer.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
@@ -26,18 +31,15 @@ ToolWindow* FindIn(const std::vector<ToolWindow*>& windows, const QString& name)
   return found == windows.end() ? nullptr : *found;
 }
 
-/// "Text(*.txt)|*.txt|All(*.*)|*.*|" as Qt writes it: "Text(*.txt);;All(*)".
-QString QtFilter(const std::string& filter) {
-  const QStringList parts = ToQt(filter).split('|', Qt::SkipEmptyParts);
-  QStringList names;
-  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-    const QString label = parts[i].section('(', 0, 0);
-    names << label + " (" + (parts[i + 1] == "*.*" ? QString("*") : parts[i + 1]) + ")";
-  }
-  return names.join(";;");
-}
-
 }  // namespace
+
+DesktopPlatform::DesktopPlatform(SessionState& session)
+    : session_(session),
+      folder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+  if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
+  QApplication::setWindowIcon(ProgramIcon());
+  TellReadersOfPictures();
+}
 
 DesktopPlatform::~DesktopPlatform() {
   windows_.insert(windows_.begin(), hidden_.begin(), hidden_.end());
@@ -49,16 +51,29 @@ DesktopPlatform::~DesktopPlatform() {
   }
 }
 
+void DesktopPlatform::BeginCommand(ToolWindow* window) {
+  repeated_.BeginCommand();
+  if (!commandWindow_) commandWindow_ = window;
+}
+
+void DesktopPlatform::EndCommand() {
+  repeated_.EndCommand();
+  if (!repeated_.InCommand()) commandWindow_ = nullptr;
+}
+
+QString DesktopPlatform::DocumentName() const {
+  return commandWindow_ ? commandWindow_->DocumentName() : QString(kProgramName);
+}
+
 void DesktopPlatform::ShowMessage(const Message& message) {
-  QMessageBox box(QApplication::activeWindow());
-  box.setWindowTitle(ToQt(message.title));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(ToQt(message.text));
-  box.setIcon(message.icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::NoIcon);
-  box.exec();
+  const RepeatedMessages::Box box = repeated_.Next(message);
+  if (box == RepeatedMessages::Box::None) return;
+  const bool noMore = ShowMessageBox(message, box == RepeatedMessages::Box::WithOffer);
+  if (noMore) repeated_.Silence(message);
 }
 
 bool DesktopPlatform::AskYesNo(const std::string& title, const std::string& text) {
+  const ArrowPointer arrow;
   return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==
          QMessageBox::Yes;
 }
@@ -66,6 +81,7 @@ bool DesktopPlatform::AskYesNo(const std::string& title, const std::string& text
 std::optional<std::string> DesktopPlatform::PromptText(const std::string& title,
                                                        const std::string& text,
                                                        const std::string& initial) {
+  const ArrowPointer arrow;
   bool accepted = false;
   const QString answer =
       QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(text),
@@ -74,9 +90,16 @@ std::optional<std::string> DesktopPlatform::PromptText(const std::string& title,
 }
 
 std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& filter) {
-  const QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), "Save As",
-                                                    QString(), QtFilter(filter));
-  return path.isEmpty() ? std::nullopt : std::optional(FromQt(path));
+  const bool pdf = filter == kPdfFilter;
+  SaveProposal proposal;
+  proposal.caption = pdf ? "There is no printer: a PDF file is written" : "Save As";
+  proposal.folder = folder_;
+  proposal.name = FileNameOf(DocumentName());
+  proposal.filter = ToQt(filter);
+  const std::optional<QString> path = AskSaveFile(proposal);
+  if (!path) return std::nullopt;
+  folder_ = QFileInfo(*path).absolutePath();
+  return FromQt(*path);
 }
 
 void DesktopPlatform::OpenWindow(const std::string& name) {
@@ -139,9 +162,9 @@ void DesktopPlatform::Place(ToolWindow* window) {
   const bool named = window->testAttribute(Qt::WA_Resized);
   const QSize size(InLetters(window->width()), InLetters(window->height()));
   const QSize wish = named ? size.expandedTo(window->minimumSizeHint()) : window->sizeHint();
-  window->resize(wish.boundedTo(screen.size()));
-  window->move(screen.x() + (screen.width() - window->width()) / 2,
-               screen.y() + (screen.height() - window->height()) / 2);
+  QRect place(QPoint(), wish.boundedTo(screen.size()));
+  place.moveCenter(screen.center());
+  places_.Put(window, place, screen);
 }
 
 QRect DesktopPlatform::Screen(const ToolWindow& window) const {
@@ -162,6 +185,7 @@ void DesktopPlatform::CloseWindow(const std::string& name) {
   std::erase(windows_, window);
   std::erase(hidden_, window);
   if (lastActive_ == window) lastActive_ = nullptr;
+  places_.Remember(window);
   AdoptChildren(window);
   window->CloseForGood();
   window->deleteLater();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QRect>
 #include <QString>
 #include <QStringList>
@@ -7,6 +8,8 @@
 
 #include "app/platform.h"
 #include "app/session_state.h"
+#include "desktop/kit/repeated_messages.h"
+#include "desktop/kit/window_places.h"
 
 namespace lignara {
 
@@ -15,7 +18,7 @@ class ToolWindow;
 /// The program's surroundings on a desktop: real windows, dialogs, printer and help.
 class DesktopPlatform : public Platform {
  public:
-  explicit DesktopPlatform(SessionState& session) : session_(session) {}
+  explicit DesktopPlatform(SessionState& session);
   ~DesktopPlatform() override;
 
   void ShowMessage(const Message& message) override;
@@ -30,6 +33,12 @@ class DesktopPlatform : public Platform {
   void PrintReport(const Report& report) override;
   void ShowHelp(const std::string& path, const std::string& section) override;
   void SetBusyPointer(bool busy) override;
+
+  /// A command of the user begins in a window, or ends. Commands nest.
+  void BeginCommand(ToolWindow* window);
+  void EndCommand();
+  /// The name of what the command at hand writes or prints.
+  QString DocumentName() const;
 
   /// The open window of a name, not hidden; null where there is none.
   ToolWindow* FindWindow(const QString& name) const;
@@ -57,6 +66,10 @@ class DesktopPlatform : public Platform {
   ToolWindow* MakeWindow(const std::string& name);
 
   SessionState& session_;
+  QString folder_;  ///< in which a file was saved last
+  RepeatedMessages repeated_;
+  QPointer<ToolWindow> commandWindow_;
+  WindowPlaces places_;
   std::vector<ToolWindow*> windows_;  // in the order of opening
   std::vector<ToolWindow*> hidden_;
   const ToolWindow* lastActive_ = nullptr;

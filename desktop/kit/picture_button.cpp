@@ -3,6 +3,7 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "desktop/kit/form.h"
 #include "desktop/kit/picture.h"
 
 namespace lignara {
@@ -10,7 +11,7 @@ namespace lignara {
 PictureButton::PictureButton(const Drawing& drawing, const QString& caption)
     : drawing_(drawing), caption_(caption) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  setMinimumSize(140, 96);
+  setMinimumSize(InLetters(140), InLetters(90));
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {

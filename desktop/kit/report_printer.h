@@ -2,6 +2,9 @@
 
 namespace lignara {
 
+/// What the save dialog of a PDF file offers.
+inline constexpr const char* kPdfFilter = "PDF(*.pdf)|*.pdf|";
+
 class DesktopPlatform;
 class Report;
 

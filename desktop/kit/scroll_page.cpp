@@ -38,9 +38,12 @@ bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {
 
 void Reveal(QWidget* widget) {
   constexpr int kMargin = 8;
+  const QSize half = widget->size() / 2 + QSize(kMargin, kMargin);
   for (QWidget* at = widget->parentWidget(); at != nullptr; at = at->parentWidget()) {
     auto* area = qobject_cast<QScrollArea*>(at);
-    if (area != nullptr) area->ensureWidgetVisible(widget, kMargin, kMargin);
+    if (area == nullptr || area->widget() == nullptr) continue;
+    const QPoint centre = widget->mapTo(area->widget(), widget->rect().center());
+    area->ensureVisible(centre.x(), centre.y(), half.width(), half.height());
   }
 }
 

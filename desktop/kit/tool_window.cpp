@@ -23,7 +23,14 @@ constexpr QSize kMostInsisted(1000, 700);
 }  // namespace
 
 ToolWindow::ToolWindow(const char* name, WindowContext context)
-    : name_(name), context_(context), binding_([this] { platform().RefreshWindows(); }) {
+    : name_(name),
+      context_(context),
+      binding_(
+          [this] {
+            platform().RefreshWindows();
+            platform().EndCommand();
+          },
+          [this] { platform().BeginCommand(this); }) {
   setObjectName(name_);
 }
 
@@ -75,19 +82,18 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
 
 void ToolWindow::keyPressEvent(QKeyEvent* event) {
   QWidget* focus = focusWidget() != nullptr ? focusWidget() : this;
-  QPushButton* button = nullptr;
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    button = qobject_cast<QPushButton*>(focus);
-    if (button == nullptr) button = ReturnButtonFor(focus);
-  } else if (event->key() == Qt::Key_Escape) {
-    if (binding_.panels().CloseNewest()) return;
-    button = EscapeButtonFor(focus);
-  }
-  if (button == nullptr) {
-    QMainWindow::keyPressEvent(event);
-  } else {
-    button->click();
-  }
+  const bool entered = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool left = event->key() == Qt::Key_Escape;
+  if (entered && Enter(focus)) return;
+  if (left && (binding_.panels().CloseNewest() || LeaveArea(focus))) return;
+  QMainWindow::keyPressEvent(event);
+}
+
+bool ToolWindow::Enter(QWidget* focus) {
+  auto* button = qobject_cast<QPushButton*>(focus);
+  if (button == nullptr) return PressReturn(focus);
+  button->click();
+  return true;
 }
 
 QGroupBox* MakePanel(const QString& caption) {

@@ -40,6 +40,10 @@ class ToolWindow : public QMainWindow {
     binding_.Run([this] { Returned(); });
   }
 
+  /// The name that is proposed for a file of the window's report or picture, and the title of what
+  /// it prints.
+  virtual QString DocumentName() const { return windowTitle(); }
+
   /// Closes the window for good, without asking its close control.
   void CloseForGood();
 
@@ -50,6 +54,7 @@ class ToolWindow : public QMainWindow {
 
  protected:
   SessionState& session() { return context_.session; }
+  const SessionState& session() const { return context_.session; }
   DesktopPlatform& platform();
   Binding& binding() { return binding_; }
 
@@ -64,6 +69,9 @@ class ToolWindow : public QMainWindow {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  /// What Return does where the focus is.
+  static bool Enter(QWidget* focus);
+
   QString name_;
   WindowContext context_;
   Binding binding_;

@@ -10,9 +10,12 @@
 #include "app/launcher.h"
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/form.h"
 #include "desktop/kit/picture_button.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
+#include "truss/description.h"
 #include "truss/sketches.h"
 #include "truss/truss_types.h"
 
@@ -58,8 +61,8 @@ class LauncherForm : public ToolWindow {
     grid->setSpacing(8);
     int place = 0;
     for (const TrussTypeInfo& type : TrussTypes()) {
-      auto* button = Named(type.keyword.c_str(),
-                           new PictureButton(TypePicture(type.keyword), ToQt(type.title)));
+      auto* button = new PictureButton(TypePicture(type.keyword), ToQt(type.title));
+      SetSpokenName(button, ToQt(type.keyword), ToQt(TypeInWords(type.keyword)));
       binding().Press(button, [this, &type] { StartTruss(type.keyword, session(), platform()); });
       grid->addWidget(button, place / 2, place % 2);
       ++place;
@@ -72,7 +75,7 @@ class LauncherForm : public ToolWindow {
     auto* rows = new QVBoxLayout(panel);
     auto* count = new QHBoxLayout;
     auto* field = Named("Enter No. of Spans", new QLineEdit);
-    field->setMaximumWidth(64);
+    field->setMaximumWidth(InLetters(64));
     auto* caption = new QLabel("&Enter No. of Spans");
     caption->setBuddy(field);
     count->addWidget(caption);

@@ -77,7 +77,7 @@ class TrussInputForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Slope Calculator");
     auto* rows = new QVBoxLayout(panel);
     auto* triangle = Named("Slope", new Picture);
-    triangle->setFixedHeight(120);
+    triangle->setFixedHeight(InLetters(100));
     binding().Show(triangle, &record_.slopeSketch);
     rows->addWidget(triangle);
     auto* grid = new QGridLayout;
@@ -104,7 +104,7 @@ class TrussInputForm : public ToolWindow {
     auto* caption = MakeHeading(ToQt(record_.exampleCaption));
     rows->addWidget(caption, 0, Qt::AlignHCenter);
     auto* sketch = Named("Example", new Picture);
-    sketch->setMinimumSize(400, 240);
+    sketch->setMinimumSize(InLetters(320), InLetters(200));
     binding().Show(sketch, &record_.sketch);
     rows->addWidget(sketch, 1);
     return rows;

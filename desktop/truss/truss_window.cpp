@@ -16,10 +16,12 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/truss/truss_report_panels.h"
 #include "desktop/windows.h"
+#include "truss/description.h"
 #include "truss/report.h"
 
 namespace lignara {
@@ -54,6 +56,9 @@ QLayout* LegendEntry(Colour colour, const char* meaning) {
 class TrussForm : public ToolWindow {
  public:
   explicit TrussForm(WindowContext context);
+
+  /// The title of the report, or the type where it has none.
+  QString DocumentName() const override;
 
  private:
   void AddMenus();
@@ -96,6 +101,11 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, co
   nodes_->setFocus();  // a truss starts with its loads
 }
 
+QString TrussForm::DocumentName() const {
+  const QString title = ToQt(session().ReportTitle).trimmed();
+  return title.isEmpty() ? windowTitle() : title;
+}
+
 void TrussForm::AddMenus() {
   QMenu* files = menuBar()->addMenu("&Files");
   binding().Menu(files->addAction("&Headings..."), [this] { OpenHeadings(record_); });
@@ -130,6 +140,7 @@ QLayout* TrussForm::CanvasFrame() {
   auto* canvas = Named("Truss", new Picture);
   canvas->setMinimumSize(480, 300);
   binding().Show(canvas, &record_.view.drawing);
+  binding().Follow([this, canvas] { Describe(canvas, ToQt(DescribeTruss(record_, session()))); });
   canvas->OnPress(
       [this](double x, double y) { binding().Run([&] { HitTruss(record_, session(), x, y); }); });
   canvas->OnHover([this](double x, double y) { return IsOverMember(record_, session(), x, y); });
@@ -267,11 +278,15 @@ QLayout* TrussForm::NodeField() {
   binding().Field(field, &record_.nodeLoad);
   rows->addWidget(field);
   auto* pair = new QHBoxLayout;
-  QPushButton* enter = Button("&Enter", [this] { EnterNodeLoad(record_, session(), platform()); });
-  pair->addWidget(enter);
+  pair->addWidget(Button("&Enter", [this] { EnterNodeLoad(record_, session(), platform()); }));
   pair->addWidget(Button("A&ll", [this] { EnterAllNodeLoads(record_, session(), platform()); }));
   rows->addLayout(pair);
-  SetReturnButton(field, enter);
+  binding().OnReturn(field, [this, field] {
+    EnterNodeLoadAndGoOn(record_, session(), platform());
+    // The load of the next node is there to be typed over.
+    binding().Refresh();
+    field->selectAll();
+  });
   return rows;
 }
 

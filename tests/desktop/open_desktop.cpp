@@ -46,10 +46,13 @@ const std::initializer_list<const char*> kOpenAllTrussPanels = {"window TRUSS",
                                                                 "menu \"Files\" \"Fonts...\"",
                                                                 "press \"Area Load (lbs/sf)\""};
 
-OpenDesktop::OpenDesktop()
+OpenDesktop::OpenDesktop() : OpenDesktop(QSize(1366, 900)) {}
+
+OpenDesktop::OpenDesktop(const QSize& screen)
     : platform(session, [this](const QString& line) { printed << line; }),
       faults_(platform),
       player_(platform, [this](const QString& line) { printed << line; }) {
+  platform.SetScreen(screen);
   StartSession(session, LIGNARA_DATA_DIRECTORY);
   platform.OpenWindow("main");
   QApplication::processEvents();
@@ -111,7 +114,8 @@ void ExpectNoCaptionCutOff(const ToolWindow* window) {
     const bool caption = (label != nullptr && !label->wordWrap()) ||
                          qobject_cast<const QAbstractButton*>(widget) != nullptr;
     if (!caption || !widget->isVisible() || CaptionOf(widget).isEmpty()) continue;
-    const QSize text = widget->fontMetrics().size(Qt::TextShowMnemonic, CaptionOf(widget));
+    const QString shown = label != nullptr ? PlainCaption(label->text()) : CaptionOf(widget);
+    const QSize text = widget->fontMetrics().size(Qt::TextShowMnemonic, shown);
     const std::string name = FromQt(window->name()) + ": " + FromQt(CaptionOf(widget));
     EXPECT_GE(widget->width(), text.width()) << name;
     EXPECT_GE(widget->height(), text.height()) << name;

@@ -18,6 +18,8 @@ namespace lignara {
 class OpenDesktop {
  public:
   OpenDesktop();
+  /// The same on a screen of this size.
+  explicit OpenDesktop(const QSize& screen);
 
   /// Plays lines of a script. Throws ScriptError as the script tool does.
   void Play(std::initializer_list<const char*> lines);

@@ -39,6 +39,40 @@ TEST_F(HelpWindowTest, MovesToTheSectionOfTheWindowThatAsksNext) {
   EXPECT_EQ(desktop.platform.OpenWindows(), QStringList({"main", "HELP", "TRUSS"}));
 }
 
+TEST_F(HelpWindowTest, GoesBackToTheSectionBeforeAndToTheContents) {
+  desktop.Play({"menu \"Help\" \"Help\"", "window HELP", "state \"Back\""});
+  EXPECT_EQ(desktop.printed.last(), "state visible disabled");
+  desktop.OpenKingPost();
+  desktop.Play({"menu \"Help\" \"Help\"", "window HELP", "press \"Back\""});
+  EXPECT_EQ(TopLine(), "The launcher");
+  desktop.Play({"press \"Contents\""});
+  EXPECT_EQ(TopLine(), "Lignara Help");
+}
+
+TEST_F(HelpWindowTest, FindsAWordAndGoesOnFromTheTop) {
+  desktop.Play({"menu \"Help\" \"Help\"", "window HELP"});
+  desktop.PressKey("HELP", Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(desktop.FocusIn("HELP"), "Find");
+  desktop.Type("HELP", "slope calculator");
+  desktop.PressKey("HELP", Qt::Key_Return);
+  const auto* browser = desktop.Window("HELP")->findChild<QTextBrowser*>();
+  EXPECT_EQ(browser->textCursor().selectedText().toLower(), "slope calculator");
+  const int first = browser->textCursor().position();
+  int place = first;
+  int steps = 0;
+  do {
+    desktop.PressKey("HELP", Qt::Key_F3);
+    place = browser->textCursor().position();
+  } while (place != first && ++steps < 50);
+  EXPECT_EQ(place, first);
+}
+
+TEST_F(HelpWindowTest, ClosesWithEscape) {
+  desktop.Play({"menu \"Help\" \"Help\""});
+  desktop.PressKey("HELP", Qt::Key_Escape);
+  EXPECT_EQ(desktop.platform.OpenWindows(), QStringList({"main"}));
+}
+
 TEST_F(HelpWindowTest, SaysNothingWhereTheDocumentIsMissing) {
   QTemporaryDir empty;
   desktop.session.DataDirectory = MakeDataDirectory(FromQt(empty.path()));

@@ -76,6 +76,18 @@ TEST_F(ReportPrinterTest, WritesAPdfWithEachPage) {
   EXPECT_TRUE(platform.texts.empty());
 }
 
+TEST_F(ReportPrinterTest, GivesThePdfItsTitle) {
+  FilePlatform platform(session_, Path("titled.pdf"));
+  platform.PrintReport(ThreePages());
+  QFile file(ToQt(Path("titled.pdf")));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray content = file.readAll();
+  const qsizetype at = content.indexOf("/Title (");
+  ASSERT_GE(at, 0);
+  // Written as 16-bit letters behind a mark of their order.
+  EXPECT_EQ(content.mid(at + 8, 16), QByteArray("\xfe\xff\0L\0i\0g\0n\0a\0r\0a", 16));
+}
+
 TEST_F(ReportPrinterTest, BreaksAPageThatIsFull) {
   Report report;
   for (int i = 0; i < 200; ++i) report.Line("line");

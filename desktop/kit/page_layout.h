@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QFont>
+#include <QRectF>
+#include <QString>
+#include <variant>
+#include <vector>
+
+#include "app/report.h"
+
+class QPaintDevice;
+
+namespace lignara {
+
+struct PlacedText {
+  QString text;
+  QRectF room;  ///< in units of the device, from the corner of the text area
+};
+
+struct PlacedDrawing {
+  const Drawing* drawing;
+  QRectF room;
+};
+
+using PlacedItem = std::variant<PlacedText, PlacedDrawing>;
+using PaperPage = std::vector<PlacedItem>;
+
+/// Flags for drawing the text of an item: one that does not fit beside the margin goes on below.
+inline constexpr int kWrapped = Qt::TextWordWrap | Qt::AlignTop | Qt::AlignLeft;
+
+/// Lays a report out on pages with a text area of this size. A page that is full goes on with the
+/// column heads in force; it is not left for two lines, which stand in the margin then.
+std::vector<PaperPage> LayOut(const Report& report, const QFont& font, QPaintDevice* device,
+                              const QSizeF& area);
+
+}  // namespace lignara

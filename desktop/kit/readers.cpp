@@ -1,0 +1,38 @@
+#include "desktop/kit/readers.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QVariant>
+
+#include "desktop/kit/picture.h"
+
+namespace lignara {
+namespace {
+
+constexpr const char* kScriptName = "scriptName";
+
+QAccessibleInterface* ReaderOf(const QString&, QObject* object) {
+  auto* picture = dynamic_cast<Picture*>(object);
+  return picture == nullptr ? nullptr : new QAccessibleWidget(picture, QAccessible::Graphic);
+}
+
+}  // namespace
+
+void TellReadersOfPictures() {
+  static bool told = false;
+  if (!told) QAccessible::installFactory(ReaderOf);
+  told = true;
+}
+
+void SetSpokenName(QWidget* widget, const QString& scriptName, const QString& spoken) {
+  widget->setProperty(kScriptName, scriptName);
+  widget->setAccessibleName(spoken);
+}
+
+QString ScriptNameOf(const QWidget* widget) { return widget->property(kScriptName).toString(); }
+
+void Describe(QWidget* widget, const QString& words) {
+  if (widget->accessibleDescription() != words) widget->setAccessibleDescription(words);
+}
+
+}  // namespace lignara

@@ -1,0 +1,74 @@
+// What a screen reader is told of the windows.
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+
+#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_button.h"
+#include "desktop/kit/text.h"
+#include "tests/desktop/open_desktop.h"
+
+namespace lignara {
+namespace {
+
+QAccessibleInterface* ReaderOf(QWidget* widget) {
+  return QAccessible::queryAccessibleInterface(widget);
+}
+
+TEST(Readers, HearTheTypeOfEachPictureOfTheLauncher) {
+  OpenDesktop desktop;
+  QStringList names;
+  for (QWidget* control : VisibleControls(desktop.Window("main"))) {
+    if (dynamic_cast<PictureButton*>(control) == nullptr) continue;
+    EXPECT_EQ(ReaderOf(control)->role(), QAccessible::Button);
+    names << ReaderOf(control)->text(QAccessible::Name);
+  }
+  EXPECT_EQ(FromQt(names.join(", ")),
+            "Pratt1 truss, Fink truss, English truss, King post truss, Scissors truss, Howe truss, "
+            "Pratt2 truss, Warren truss");
+}
+
+TEST(Readers, HearWhatTheTrussPictureShows) {
+  OpenDesktop desktop;
+  desktop.OpenKingPost();
+  Picture* canvas = nullptr;
+  for (QWidget* control : VisibleControls(desktop.Window("TRUSS"))) {
+    if (CaptionOf(control) == "Truss") canvas = dynamic_cast<Picture*>(control);
+  }
+  ASSERT_NE(canvas, nullptr);
+  EXPECT_EQ(ReaderOf(canvas)->role(), QAccessible::Graphic);
+  EXPECT_EQ(FromQt(ReaderOf(canvas)->text(QAccessible::Name)), "Truss");
+  EXPECT_EQ(FromQt(ReaderOf(canvas)->text(QAccessible::Description)),
+            "King post truss, 2 panels, before a run");
+  // 1000 lbs on the peak: 500 lbs a side, and 500 x 13 / 5 = 1300 lbs in the rafters.
+  desktop.Play({"enter \"Top Node Loads (lbs)\" 1000", "press \"All\"", "press \"Run\""});
+  EXPECT_EQ(FromQt(ReaderOf(canvas)->text(QAccessible::Description)),
+            "King post truss, 2 panels, after a run: largest force TL 1 1300.00 lbs compression");
+}
+
+TEST(Readers, HearANameAndARoleWhereverTheTabKeyStops) {
+  OpenDesktop desktop;
+  desktop.OpenKingPost();
+  desktop.Play(kOpenAllTrussPanels);
+  desktop.Play({"menu \"Help\" \"Help\"", "window main", "press \"Pure Wood Data Base\"",
+                "window QUESTION", "press \"TRUSS\"", "window WTYPETR",
+                "press \"Wood Type Data Base\"", "window wdb",
+                "press \"Stress Adjustment Factors\""});
+  for (const char* name : {"main", "HELP", "TRUSS", "WTYPETR", "wdb"}) {
+    int stops = 0;
+    for (QWidget* widget : desktop.Window(name)->findChildren<QWidget*>()) {
+      const bool stop = widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0;
+      if (!stop || widget->focusProxy() != nullptr) continue;
+      ++stops;
+      EXPECT_FALSE(ReaderOf(widget)->text(QAccessible::Name).isEmpty())
+          << name << ": " << widget->metaObject()->className();
+      EXPECT_NE(ReaderOf(widget)->role(), QAccessible::Client)
+          << name << ": " << FromQt(CaptionOf(widget));
+    }
+    EXPECT_GT(stops, 3) << name;
+  }
+}
+
+}  // namespace
+}  // namespace lignara
