@@ -1,5 +1,4 @@
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -7,6 +6,7 @@
 #include "app/launcher.h"
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/form.h"
 #include "desktop/windows.h"
 
 namespace lignara {
@@ -20,6 +20,7 @@ class QuestionForm : public ToolWindow {
     AddHelpMenu();
     auto* area = new QWidget;
     setCentralWidget(area);
+    SetEscapeCommand(area, [this] { close(); });
     auto* rows = new QVBoxLayout(area);
     rows->setContentsMargins(32, 24, 32, 24);
     rows->setSpacing(20);
@@ -29,19 +30,10 @@ class QuestionForm : public ToolWindow {
     rows->addLayout(choices);
     for (const char* mode : {"TRUSS", "BEAM"}) {
       auto* button = new QPushButton(QString("&") + mode);
-      button->setMinimumSize(120, 36);
+      button->setMinimumSize(InLetters(120), InLetters(36));
       binding().Press(button, [this, mode] { ChooseDesignMode(mode, session(), platform()); });
       binding().Enabled(button, [this] { return platform().HasWindow(window_name::kMemberSize); });
       choices->addWidget(button);
-    }
-  }
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Escape) {
-      close();
-    } else {
-      ToolWindow::keyPressEvent(event);
     }
   }
 };

@@ -35,7 +35,7 @@ constexpr FactorBox kFactorBoxes[] = {
 /// A list with its caption above it, wide enough for a text and high enough for its rows.
 QListWidget* AddList(QVBoxLayout* column, const char* caption, std::size_t rows,
                      const QString& widest) {
-  constexpr int kFrame = 16;
+  constexpr int kFrame = 14;
   auto* label = new QLabel(caption);
   QListWidget* list = MakeList(caption, static_cast<int>(rows));
   list->setMinimumWidth(std::max(list->fontMetrics().horizontalAdvance(widest),

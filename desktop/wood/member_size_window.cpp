@@ -123,7 +123,7 @@ class MemberSizeForm : public ToolWindow {
       QPushButton* button = MakeChoiceButton(
           binding(), QString::number(kNominalSizes[static_cast<std::size_t>(i)]),
           [&pick, i] { return pick == i; }, [this, choose, i] { choose(record_, i); });
-      button->setFixedWidth(48);
+      button->setFixedWidth(InLetters(44));
       grid->addWidget(button, i % kHalf, i / kHalf);
       buttons.push_back(button);
     }
@@ -170,7 +170,7 @@ class MemberSizeForm : public ToolWindow {
     for (const GroupRow& row : table) {
       const GroupBox box = row.box;
       binding().Field(
-          PutField(grid, at++, column, row.caption, 84), &(record_.Group(group).*row.text),
+          PutField(grid, at++, column, row.caption, 72), &(record_.Group(group).*row.text),
           [this, group, box] { EditGroupBox(record_, session(), platform(), group, box); });
     }
   }

@@ -26,8 +26,9 @@ struct SelectionRow {
   std::string FinalSelection::*text;
 };
 
-constexpr SelectionRow kSelectionRows[] = {
-    {"Grade", &FinalSelection::grade},
+constexpr SelectionRow kGradeRow = {"Grade", &FinalSelection::grade};
+
+constexpr SelectionRow kStressRows[] = {
     {"Allowable Bending Stress (psi)", &FinalSelection::fb},
     {"Allowable Tensile Stress (psi)", &FinalSelection::ft},
     {"All. Horz. Shear Stress (psi)", &FinalSelection::fv},
@@ -95,7 +96,8 @@ class WoodDataBaseForm : public ToolWindow {
   }
 
   QLayout* Families() {
-    auto* row = new QHBoxLayout;
+    // One below the other, so that the lists below need not be wide.
+    auto* row = new QVBoxLayout;
     std::vector<QPushButton*> buttons;
     for (const WoodFamilyEntry& entry : kWoodFamilies) {
       const WoodFamily family = entry.family;
@@ -113,7 +115,7 @@ class WoodDataBaseForm : public ToolWindow {
   QLabel* WoodTypes() {
     auto* types = Named("Types of Wood covered by File", new QLabel);
     types->setWordWrap(true);
-    types->setMinimumHeight(types->fontMetrics().lineSpacing() * 4);
+    types->setMinimumHeight(types->fontMetrics().lineSpacing() * 5);
     types->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     binding().Text(types, &record_.woodTypes);
     return types;
@@ -124,13 +126,16 @@ class WoodDataBaseForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Final Selection");
     auto* rows = new QVBoxLayout(panel);
     auto* grid = new QGridLayout;
-    constexpr int kRowsOfColumn = 4;
-    constexpr int kSecondColumn = 3;
-    grid->setColumnMinimumWidth(kSecondColumn - 1, 12);
+    grid->setColumnMinimumWidth(kSecondColumn - 1, InLetters(8));
+    // Grades have long names, stresses do not.
+    QLineEdit* grade = PutValue(grid, 0, 0, kGradeRow.caption);
+    grid->removeWidget(grade);
+    grid->addWidget(grade, 0, 1, 1, kSecondColumn + 1);
+    binding().Text(grade, &(record_.selection.*kGradeRow.text));
     int at = 0;
-    for (const SelectionRow& row : kSelectionRows) {
-      QLineEdit* value =
-          PutValue(grid, at % kRowsOfColumn, at / kRowsOfColumn * kSecondColumn, row.caption, 140);
+    for (const SelectionRow& row : kStressRows) {
+      QLineEdit* value = PutValue(grid, 1 + at % kStressesOfColumn,
+                                  at / kStressesOfColumn * kSecondColumn, row.caption, 72);
       binding().Text(value, &(record_.selection.*row.text));
       ++at;
     }
@@ -171,6 +176,9 @@ class WoodDataBaseForm : public ToolWindow {
     SetEscapeButton(factors.panel, factors.cancel);
     return factors.panel;
   }
+
+  static constexpr int kStressesOfColumn = 3;
+  static constexpr int kSecondColumn = 3;  ///< of the grid of stresses
 
   WoodDataBaseWindow record_;
   QListWidget* grades_ = nullptr;

@@ -1,0 +1,132 @@
+// Every window on the screens that engineers have: 1024 by 768; 1920 by 1080 at scale 2; letters of
+// 16 points. With LIGNARA_PICTURES=DIR in the environment each window is also saved as a picture,
+// to be looked at.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QListWidget>
+
+#include "desktop/kit/scroll_page.h"
+#include "desktop/kit/text.h"
+#include "tests/desktop/open_desktop.h"
+
+namespace lignara {
+namespace {
+
+struct SmallScreen {
+  const char* name;
+  QSize size;      ///< without the frame around a window
+  int points = 0;  ///< of the letters; 0 as they are
+  bool dark = false;
+};
+
+const SmallScreen kScreens[] = {{"1024x768", {1016, 732}},
+                                {"scale2", {952, 504}},
+                                {"16points", {1016, 732}, 16},
+                                {"dark", {1016, 732}, 0, true}};
+
+void PrintTo(const SmallScreen& screen, std::ostream* out) { *out << screen.name; }
+
+QPalette DarkPalette() {
+  QPalette palette(QColor("#353535"), QColor("#2b2b2b"));
+  palette.setColor(QPalette::Base, QColor("#1e1e1e"));
+  palette.setColor(QPalette::Highlight, QColor("#2f7fd0"));
+  palette.setColor(QPalette::Link, QColor("#7ab8ff"));
+  return palette;
+}
+
+class SmallScreens : public testing::TestWithParam<SmallScreen> {
+ protected:
+  SmallScreens() : font_(QApplication::font()), palette_(QApplication::palette()) {
+    QFont font = font_;
+    if (GetParam().points > 0) font.setPointSize(GetParam().points);
+    QApplication::setFont(font);
+    if (GetParam().dark) QApplication::setPalette(DarkPalette());
+    desktop_.emplace(GetParam().size);
+  }
+  ~SmallScreens() override {
+    desktop_.reset();
+    QApplication::setFont(font_);
+    QApplication::setPalette(palette_);
+  }
+
+  OpenDesktop& desktop() { return *desktop_; }
+
+  void Look(const char* name) {
+    ToolWindow* window = desktop().Window(name);
+    QApplication::processEvents();
+    Save(window);
+    const QSize least = window->minimumSizeHint();
+    EXPECT_LE(least.width(), 1000) << name;
+    EXPECT_LE(least.height(), 700) << name;
+    EXPECT_LE(window->width(), GetParam().size.width()) << name;
+    EXPECT_LE(window->height(), GetParam().size.height()) << name;
+    ExpectNoCaptionCutOff(window);
+    for (QWidget* control : VisibleControls(window)) ExpectInReach(window, control);
+  }
+
+ private:
+  static void Save(ToolWindow* window) {
+    const QString directory = qEnvironmentVariable("LIGNARA_PICTURES");
+    if (directory.isEmpty()) return;
+    const QString name = QString("%1-%2.png").arg(GetParam().name, window->name());
+    EXPECT_TRUE(window->grab().save(QDir(directory).filePath(name)));
+  }
+
+  /// Scrolled to, a control is seen whole, or fills what is seen of the window.
+  static void ExpectInReach(ToolWindow* window, QWidget* control) {
+    Reveal(control);
+    const QRect seen(control->mapTo(window, control->visibleRegion().boundingRect().topLeft()),
+                     control->visibleRegion().boundingRect().size());
+    const std::string name = FromQt(window->name()) + ": " + FromQt(CaptionOf(control));
+    EXPECT_TRUE(window->rect().contains(seen)) << name;
+    EXPECT_GE(seen.width(), std::min(control->width(), 120)) << name;
+    EXPECT_GE(seen.height(), std::min(control->height(), 60)) << name;
+  }
+
+  const QFont font_;
+  const QPalette palette_;
+  std::optional<OpenDesktop> desktop_;
+};
+
+TEST_P(SmallScreens, HoldTheLauncherAndItsSmallWindows) {
+  desktop().Play({"press \"Pure Wood Data Base\"", "menu \"Help\" \"Help\""});
+  for (const char* name : {"main", "QUESTION", "HELP"}) Look(name);
+  desktop().Play({"menu \"Help\" \"About...\""});
+  Look("ABOUT");
+}
+
+TEST_P(SmallScreens, HoldTheInputWithItsSlopeCalculator) {
+  desktop().Play({"press \"SCI\"", "window TR_INPUT", "enter \"Total Length (ft)\" 30",
+                  "press \"Slope Calculator\""});
+  Look("TR_INPUT");
+}
+
+TEST_P(SmallScreens, HoldTheTrussWithAllItsPanels) {
+  desktop().Play({"press \"FINK\"", "window TR_INPUT", "enter \"Number of Spans\" 8",
+                  "enter \"Total Length (ft)\" 40", "enter \"H (ft)\" 10", "press \"OK\"",
+                  "window TRUSS", "enter \"Top Node Loads (lbs)\" 500", "press \"All\"",
+                  "press \"Run\""});
+  Look("TRUSS");
+  const QSize before = desktop().Window("TRUSS")->size();
+  desktop().Play(kOpenAllTrussPanels);
+  Look("TRUSS");
+  EXPECT_EQ(desktop().Window("TRUSS")->size(), before);
+}
+
+TEST_P(SmallScreens, HoldTheLumberWindows) {
+  desktop().Play({"press \"Pure Wood Data Base\"", "window QUESTION", "press \"TRUSS\"",
+                  "window WTYPETR", "press \"Wood Type Data Base\"", "window wdb",
+                  "press \"Western Woods\"", "select \"Data Base File to Load\" 1",
+                  "select \"Grades\" 1", "press \"Stress Adjustment Factors\"",
+                  "press \"Moisture > 19%\" \"Yes\""});
+  for (const char* name : {"WTYPETR", "wdb"}) Look(name);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, SmallScreens, testing::ValuesIn(kScreens),
+                         [](const auto& screen) { return "On" + std::string(screen.param.name); });
+
+}  // namespace
+}  // namespace lignara
