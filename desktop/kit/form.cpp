@@ -91,6 +91,13 @@ QWidget* MakeCaptionedList(const QString& caption, QListWidget* list) {
   return box;
 }
 
+QWidget* InWidget(QLayout* layout) {
+  auto* widget = new QWidget;
+  layout->setContentsMargins(0, 0, 0, 0);
+  widget->setLayout(layout);
+  return widget;
+}
+
 QLabel* MakeHeading(const QString& text) {
   auto* label = new QLabel(text);
   QFont font = label->font();

@@ -5,8 +5,10 @@
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QListWidget;
+class QWidget;
 class QWidget;
 
 namespace lignara {
@@ -43,6 +45,9 @@ void KeepRoom(QWidget* widget);
 
 /// A list below its caption, which carries the mnemonic.
 QWidget* MakeCaptionedList(const QString& caption, QListWidget* list);
+
+/// A layout as a widget of its own, without a margin.
+QWidget* InWidget(QLayout* layout);
 
 /// A label in bold letters.
 QLabel* MakeHeading(const QString& text);

@@ -17,18 +17,21 @@ void ScrollPage::SetMost(const QSize& most) {
 }
 
 QSize ScrollPage::sizeHint() const {
-  return widget() == nullptr ? QScrollArea::sizeHint() : widget()->sizeHint();
+  return widget() == nullptr ? QScrollArea::sizeHint() : WithBars(widget()->sizeHint());
 }
 
 QSize ScrollPage::minimumSizeHint() const {
   if (widget() == nullptr) return QScrollArea::minimumSizeHint();
-  QSize least = widget()->minimumSizeHint().expandedTo(widget()->minimumSize());
-  // A bar that is needed one way takes room the other way.
-  const bool barBeside = least.height() > most_.height();
-  const bool barBelow = least.width() > most_.width();
-  if (barBeside) least.rwidth() += verticalScrollBar()->sizeHint().width();
-  if (barBelow) least.rheight() += horizontalScrollBar()->sizeHint().height();
-  return least.boundedTo(most_);
+  const QSize least = widget()->minimumSizeHint().expandedTo(widget()->minimumSize());
+  return WithBars(least).boundedTo(most_);
+}
+
+/// A bar that is needed one way takes room the other way.
+QSize ScrollPage::WithBars(const QSize& size) const {
+  const bool beside = size.height() > most_.height();
+  const bool below = size.width() > most_.width();
+  return size + QSize(beside ? verticalScrollBar()->sizeHint().width() : 0,
+                      below ? horizontalScrollBar()->sizeHint().height() : 0);
 }
 
 bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {

@@ -20,6 +20,8 @@ class ScrollPage : public QScrollArea {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  QSize WithBars(const QSize& size) const;
+
   QSize most_;
 };
 

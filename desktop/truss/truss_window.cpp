@@ -18,6 +18,8 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/scroll_page.h"
+#include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
 #include "desktop/truss/truss_report_panels.h"
 #include "desktop/windows.h"
@@ -68,7 +70,9 @@ class TrussForm : public ToolWindow {
   QGroupBox* ZoomPanel();
   QWidget* Legend();
   QLayout* ResultPanels();
-  QLayout* SideColumn();
+  QWidget* ResultArea();
+  QWidget* SideColumn();
+  QLayout* OpenedPanels();
   QLayout* CommandRow();
   QGroupBox* ResultsPanel();
   QLayout* NodeLoads();
@@ -85,6 +89,12 @@ class TrussForm : public ToolWindow {
 
   TrussWindow record_;
   QListWidget* nodes_ = nullptr;
+  // The parts of the window, in the order of work.
+  QWidget* loads_ = nullptr;
+  QWidget* commands_ = nullptr;
+  QWidget* panels_ = nullptr;
+  QWidget* forces_ = nullptr;
+  QWidget* results_ = nullptr;
 };
 
 TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, context) {
@@ -95,8 +105,11 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, co
   setCentralWidget(area);
   auto* columns = new QHBoxLayout(area);
   columns->setSpacing(10);
-  columns->addLayout(CanvasColumn(), 1);
-  columns->addLayout(SideColumn());
+  QWidget* canvas = InWidget(CanvasColumn());
+  columns->addWidget(canvas, 1);
+  columns->addWidget(SideColumn());
+  // Loads, wood, run, panels, results, picture: the order of work.
+  TabThrough({loads_, commands_, panels_, forces_, results_, canvas});
   resize(1200, 720);
   nodes_->setFocus();  // a truss starts with its loads
 }
@@ -130,15 +143,35 @@ QLayout* TrussForm::CanvasColumn() {
   auto* rows = new QVBoxLayout;
   rows->addLayout(CanvasFrame(), 1);
   rows->addLayout(CanvasFoot());
-  rows->addLayout(ResultPanels());
+  rows->addWidget(ResultArea());
   return rows;
+}
+
+/// The lists that are open, side by side below the drawing. They scroll rather than crowd it out.
+QWidget* TrussForm::ResultArea() {
+  auto* page = new ScrollPage;
+  page->SetMost({InLetters(280), InLetters(150)});
+  page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  const auto anyOpen = [this] {
+    return record_.lengthsOpen || record_.deflectionsOpen || record_.stressOpen;
+  };
+  // There before its first panel opens, and until its last has closed: panels move the focus.
+  binding().Follow([page, anyOpen] {
+    if (anyOpen()) page->show();
+  });
+  results_ = InWidget(ResultPanels());
+  page->setWidget(results_);
+  binding().Follow([page, anyOpen] {
+    if (!anyOpen()) page->hide();
+  });
+  return page;
 }
 
 QLayout* TrussForm::CanvasFrame() {
   auto* grid = new QGridLayout;
   grid->setSpacing(2);
   auto* canvas = Named("Truss", new Picture);
-  canvas->setMinimumSize(480, 300);
+  canvas->setMinimumSize(280, 180);
   binding().Show(canvas, &record_.view.drawing);
   binding().Follow([this, canvas] { Describe(canvas, ToQt(DescribeTruss(record_, session()))); });
   canvas->OnPress(
@@ -203,7 +236,7 @@ QLayout* TrussForm::ResultPanels() {
       [this] { record_.deflectionsOpen = false; }, 150));
   row->addWidget(ListPanel(
       "Actual and Allowable Axial Stresses", &record_.stressRows, &record_.stressOpen, "OK",
-      [this] { record_.stressOpen = false; }, 440));
+      [this] { record_.stressOpen = false; }, 300));
   return row;
 }
 
@@ -213,7 +246,7 @@ QGroupBox* TrussForm::ListPanel(const QString& caption, const std::vector<std::s
   QGroupBox* panel = MakePanel(caption);
   auto* column = new QVBoxLayout(panel);
   QListWidget* list = MakeList(caption, 9);
-  list->setMinimumWidth(width);
+  list->setMinimumWidth(InLetters(width));
   list->setMaximumHeight(240);
   binding().List(list, rows);
   column->addWidget(list);
@@ -224,10 +257,23 @@ QGroupBox* TrussForm::ListPanel(const QString& caption, const std::vector<std::s
   return panel;
 }
 
-QLayout* TrussForm::SideColumn() {
+/// Commands, panels that are open, loads and results. It scrolls by itself, so that the drawing
+/// stays in view.
+QWidget* TrussForm::SideColumn() {
   auto* rows = new QVBoxLayout;
-  rows->addLayout(CommandRow());
+  commands_ = InWidget(CommandRow());
+  rows->addWidget(commands_);
+  panels_ = InWidget(OpenedPanels());
+  rows->addWidget(panels_);
   rows->addWidget(ResultsPanel(), 1);
+  auto* page = new ScrollPage;
+  page->SetMost({InLetters(390), InLetters(200)});
+  page->setWidget(InWidget(rows));
+  return page;
+}
+
+QLayout* TrussForm::OpenedPanels() {
+  auto* rows = new QVBoxLayout;
   rows->addWidget(LineLoadPanel());
   rows->addWidget(AreaLoadPanel());
   rows->addWidget(MakeHeadingsPanel(record_, binding(), session()));
@@ -253,8 +299,10 @@ QGroupBox* TrussForm::ResultsPanel() {
   QGroupBox* panel = MakePanel("Results");
   auto* columns = new QHBoxLayout(panel);
   columns->setSpacing(12);
-  columns->addLayout(NodeLoads());
-  columns->addLayout(Forces());
+  loads_ = InWidget(NodeLoads());
+  columns->addWidget(loads_);
+  forces_ = InWidget(Forces());
+  columns->addWidget(forces_);
   return panel;
 }
 

@@ -88,6 +88,20 @@ TEST_F(KeyboardTest, ATrussStartsWithItsLoads) {
   EXPECT_EQ(desktop.printed.last(), "state visible enabled selected -1");
 }
 
+TEST_F(KeyboardTest, TabGoesThroughATrussInTheOrderOfWork) {
+  desktop.OpenKingPost();
+  desktop.Play({"press \"Deflections\"", "press \"Area Load (lbs/sf)\""});
+  const QStringList visited = Walk("TRUSS", 24);
+  // From the panel at hand on: the results, the picture, and again the loads and the commands.
+  EXPECT_EQ(FromQt(visited.mid(0, 6).join("|")),
+            "Truss Spacing (ft)|Load (lb/sf)|Apply|Cancel|Axial Load (lbs)|Deflections");
+  qsizetype before = visited.indexOf("Deflections");
+  for (const char* stop : {"Top Node Loads (lbs)", "Enter", "Wood Type", "Run", "Memb. Len."}) {
+    EXPECT_GT(visited.indexOf(stop), before) << stop;
+    before = visited.indexOf(stop);
+  }
+}
+
 TEST_F(KeyboardTest, ArrowsChooseARowOfTheNodeList) {
   desktop.OpenKingPost();
   desktop.PressKey("TRUSS", Qt::Key_Down);
