@@ -1,7 +1,8 @@
 #include "wood/custom_size.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "app/section.h"
 
 namespace lignara {

@@ -1,6 +1,9 @@
+#include "wood/factor_panel.h"
+
 #include "app/fault.h"
-#include "app/number_text.h"
-#include "wood/final_selection.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
+#include "wood/adjustment_tables.h"
 #include "wood/wood_data_base.h"
 
 namespace lignara {
@@ -79,8 +82,8 @@ void AnswerMoisture(FactorPanel& panel, bool wet) {
   }
 }
 
-/// Reads the four boxes that the user may type over. False where one of them is not above 0.
-bool ReadFactorBoxes(FactorPanel& panel) {
+/// Reads the four fields that the user may type over. False where one of them is not above 0.
+bool ReadFactorFields(FactorPanel& panel) {
   AdjustmentFactors& factors = panel.factors;
   factors.Repetitive = ReadNumber(panel.repetitive);
   factors.LoadDuration = ReadNumber(panel.loadDuration);
@@ -90,11 +93,11 @@ bool ReadFactorBoxes(FactorPanel& panel) {
          factors.ShearCondition > 0;
 }
 
-/// Which multiplier box acts on which shown value. The two compressions are crossed: the stress
-/// across the grain takes the box of the one along it, and the reverse.
+/// Which multiplier acts on which shown value. The two compressions are crossed: the stress
+/// across the grain takes the multiplier of the one along it, and the reverse.
 struct AppliedMultiplier {
   std::string FinalSelection::*shown;
-  StressKind box;
+  StressKind multiplier;
   const char* pattern;
 };
 
@@ -170,7 +173,7 @@ void AnswerFactorPair(WoodDataBaseWindow& window, Platform& platform, FactorPair
 void CalculateFactors(WoodDataBaseWindow& window, Platform& platform) {
   FaultScope faults(platform);
   FactorPanel& panel = window.panel;
-  if (!ReadFactorBoxes(panel)) {
+  if (!ReadFactorFields(panel)) {
     platform.ShowMessage({" An adjustment factor is <= 0, Enter a value!"});
     return;
   }
@@ -184,14 +187,14 @@ void CalculateFactors(WoodDataBaseWindow& window, Platform& platform) {
 void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   FactorPanel& panel = window.panel;
-  if (panel.MultiplierBox(StressKind::Fb).empty()) {
+  if (panel.MultiplierText(StressKind::Fb).empty()) {
     platform.ShowMessage({"HIT THE CALCULATE FACTORS BUTTON !"});
     return;
   }
   ShowChosenGrade(window, session, platform);
   for (const AppliedMultiplier& applied : kAppliedMultipliers) {
     std::string& shown = window.selection.*applied.shown;
-    const Number product = ReadNumber(shown) * ReadNumber(panel.MultiplierBox(applied.box));
+    const Number product = ReadNumber(shown) * ReadNumber(panel.MultiplierText(applied.multiplier));
     ReportFault(product.fault());
     if (product.fault() == Fault::None) shown = FormatNumber(product.value(), applied.pattern);
   }

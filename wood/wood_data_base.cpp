@@ -1,9 +1,9 @@
 #include "wood/wood_data_base.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "app/window_names.h"
-#include "wood/final_selection.h"
 
 namespace lignara {
 namespace {
@@ -58,8 +58,8 @@ void ShowChosenGrade(WoodDataBaseWindow& window, SessionState& session, Platform
   if (window.grades.row == 0) return;
   const BaseStressRecord& grade = window.baseStresses[static_cast<std::size_t>(window.grades.row)];
   window.selection.grade = grade.Grade;
-  for (const BaseStressBox& box : kBaseStressBoxes) {
-    window.selection.*box.shown = FormatNumber(grade.*box.stress, box.pattern);
+  for (const BaseStressField& field : kBaseStressFields) {
+    window.selection.*field.shown = FormatNumber(grade.*field.stress, field.pattern);
   }
   session.LastGrade = grade.Grade;
 }

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "app/report_file.h"
 
 namespace lignara {

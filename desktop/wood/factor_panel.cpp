@@ -14,6 +14,7 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
+#include "wood/adjustment_tables.h"
 #include "wood/wood_data_base.h"
 
 namespace lignara {

@@ -1,4 +1,3 @@
-#include "app/number_text.h"
 #include "tests/wood/member_size_fixture.h"
 
 namespace lignara {

@@ -1,6 +1,6 @@
 #include "wood/member_size.h"
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "tests/wood/member_size_fixture.h"
 
 namespace lignara {

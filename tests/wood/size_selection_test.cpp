@@ -1,4 +1,4 @@
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "tests/wood/member_size_fixture.h"
 
 namespace lignara {

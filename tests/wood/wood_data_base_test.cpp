@@ -61,7 +61,7 @@ TEST_F(WoodDataBaseTest, OpeningAgainForgetsAll) {
   CalculateFactors(window, platform);
   OpenWoodDataBase(window);
   EXPECT_EQ(window.files.rows, Texts{});
-  EXPECT_EQ(window.panel.MultiplierBox(StressKind::Fb), "");
+  EXPECT_EQ(window.panel.MultiplierText(StressKind::Fb), "");
   ExpectSelection(window.selection, kNothing);
 }
 
