@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "app/data_directory.h"
-#include "app/number_text.h"
+#include "app/number_reader.h"
 
 namespace lignara {
 namespace {

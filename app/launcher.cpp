@@ -4,7 +4,7 @@
 
 #include "app/data_directory.h"
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_reader.h"
 #include "app/window_names.h"
 
 namespace lignara {
@@ -66,10 +66,6 @@ void ChooseDesignMode(const std::string& mode, SessionState& session, Platform& 
   session.DesignMode = mode;
   platform.CloseWindow(window_name::kQuestion);
   platform.OpenWindow(window_name::kMemberSize);
-}
-
-void ShowHelp(const std::string& windowName, const SessionState& session, Platform& platform) {
-  platform.ShowHelp(DataPath(session.DataDirectory, kHelpFile), windowName);
 }
 
 void CloseAllWindows(Platform& platform) {

@@ -1,6 +1,6 @@
 #include <optional>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "truss/truss_types.h"
 #include "truss/truss_window.h"
 

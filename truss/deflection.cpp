@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "app/number_pattern.h"
 #include "app/number_text.h"
 #include "truss/member_signs.h"
 #include "truss/members.h"

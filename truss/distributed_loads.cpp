@@ -2,7 +2,7 @@
 
 #include "app/fault.h"
 #include "app/field_number.h"
-#include "app/number_text.h"
+#include "app/number_reader.h"
 #include "truss/truss_types.h"
 #include "truss/truss_window.h"
 

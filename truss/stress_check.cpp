@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/list_rows.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "truss/truss_types.h"
 
 namespace lignara {

@@ -3,7 +3,8 @@
 #include <vector>
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "app/window_names.h"
 #include "truss/sketches.h"
 #include "truss/truss_types.h"

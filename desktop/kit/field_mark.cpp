@@ -6,7 +6,7 @@
 #include <QPainterPath>
 #include <QToolTip>
 
-#include "app/number_text.h"
+#include "app/number_reader.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/warning_colour.h"
 

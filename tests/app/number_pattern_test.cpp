@@ -1,9 +1,12 @@
+#include "app/number_pattern.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
 #include <limits>
 #include <string>
 
+#include "app/number_reader.h"
 #include "app/number_text.h"
 
 namespace lignara {

@@ -1,3 +1,5 @@
+#include "app/number_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -6,8 +8,6 @@
 #include <random>
 #include <sstream>
 #include <string>
-
-#include "app/number_text.h"
 
 namespace lignara {
 namespace {

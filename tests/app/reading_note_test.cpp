@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/number_text.h"
+#include "app/number_reader.h"
 
 namespace lignara {
 namespace {

@@ -1,0 +1,189 @@
+#include "app/number_pattern.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+
+namespace lignara {
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// A number as decimal digits: 0.d1d2d3... x 10^point.
+struct Decimal {
+  bool negative = false;
+  std::string digits;
+  int point = 0;
+};
+
+/// The digits of a number in scientific form, such as "1.7250000e+00".
+Decimal ToDecimal(bool negative, std::string_view scientific) {
+  Decimal d;
+  d.negative = negative;
+  const std::size_t mark = scientific.find('e');
+  for (const char c : scientific.substr(0, mark)) {
+    if (IsDigit(c)) d.digits += c;
+  }
+  d.point = std::atoi(std::string(scientific.substr(mark + 1)).c_str()) + 1;
+  return d;
+}
+
+/// Room for all digits that are asked for, with sign, point and exponent.
+using DigitBuffer = std::array<char, 64>;
+
+Decimal ToDecimal(double number, int significant) {
+  DigitBuffer buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
+                                 std::chars_format::scientific, significant - 1);
+  return ToDecimal(std::signbit(number), {buffer.data(), end.ptr});
+}
+
+/// The shortest decimal that reads back as the same number.
+Decimal ShortestDecimal(float number) {
+  DigitBuffer buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(number),
+                                 std::chars_format::scientific);
+  return ToDecimal(std::signbit(number), {buffer.data(), end.ptr});
+}
+
+/// Keeps `keep` digits (none where negative), rounding half away from zero.
+void RoundDigits(Decimal& d, int keep) {
+  if (keep >= static_cast<int>(d.digits.size())) return;
+  const bool up = keep >= 0 && d.digits[static_cast<std::size_t>(keep)] >= '5';
+  d.digits.resize(static_cast<std::size_t>(std::max(keep, 0)));
+  if (!up) return;
+  for (auto digit = d.digits.rbegin(); digit != d.digits.rend(); ++digit) {
+    if (*digit != '9') {
+      ++*digit;
+      return;
+    }
+    *digit = '0';
+  }
+  d.digits.insert(d.digits.begin(), '1');
+  ++d.point;
+}
+
+/// The digit with the weight 10^power.
+char DigitAt(const Decimal& d, int power) {
+  const int index = d.point - 1 - power;
+  const bool has = index >= 0 && index < static_cast<int>(d.digits.size());
+  return has ? d.digits[static_cast<std::size_t>(index)] : '0';
+}
+
+bool IsZero(const Decimal& d) { return d.digits.find_first_not_of('0') == std::string::npos; }
+
+/// The parts of a pattern.
+struct Pattern {
+  int wholeZeros = 0;    // digits before the point that are always printed
+  int decimals = 0;      // the most decimals
+  int decimalZeros = 0;  // decimals that are always printed
+  bool point = false;
+  int exponentDigits = 0;  // 0: no exponent
+};
+
+Pattern ReadPattern(std::string_view text) {
+  Pattern p;
+  const std::size_t mark = text.find('E');
+  if (mark != std::string_view::npos) {
+    p.exponentDigits =
+        static_cast<int>(std::count(text.begin() + static_cast<long>(mark), text.end(), '0'));
+    text = text.substr(0, mark);
+  }
+  const std::size_t point = text.find('.');
+  p.point = point != std::string_view::npos;
+  const std::string_view whole = text.substr(0, point);
+  p.wholeZeros = static_cast<int>(std::count(whole.begin(), whole.end(), '0'));
+  if (p.point) {
+    const std::string_view part = text.substr(point + 1);
+    p.decimals = static_cast<int>(part.size());
+    const std::size_t last = part.rfind('0');
+    p.decimalZeros = last == std::string_view::npos ? 0 : static_cast<int>(last) + 1;
+  }
+  return p;
+}
+
+/// How many digits of a number a pattern shows, from its first digit that counts.
+int DigitsShown(const Decimal& d, const Pattern& p) {
+  return (p.exponentDigits > 0 ? 1 : d.point) + p.decimals;
+}
+
+std::string Mantissa(const Decimal& d, const Pattern& p) {
+  std::string text;
+  for (int power = std::max(d.point, p.wholeZeros) - 1; power >= 0; --power) {
+    if (text.empty() && DigitAt(d, power) == '0' && power >= p.wholeZeros) continue;
+    text += DigitAt(d, power);
+  }
+  if (!p.point) return text;
+  text += '.';
+  int last = p.decimals;
+  while (last > p.decimalZeros && DigitAt(d, -last) == '0') --last;
+  for (int place = 1; place <= last; ++place) text += DigitAt(d, -place);
+  return text;
+}
+
+std::string ExponentText(int exponent, int digits) {
+  std::string text = std::to_string(std::abs(exponent));
+  if (static_cast<int>(text.size()) < digits)
+    text.insert(0, static_cast<std::size_t>(digits) - text.size(), '0');
+  return (exponent < 0 ? "E-" : "E+") + text;
+}
+
+std::string Format(Decimal d, std::string_view pattern) {
+  const Pattern p = ReadPattern(pattern);
+  int exponent = 0;
+  if (p.exponentDigits > 0) {
+    exponent = d.point - 1;
+    d.point = 1;
+    RoundDigits(d, 1 + p.decimals);
+    if (d.point > 1) {  // 9.999 became 10.00
+      ++exponent;
+      d.point = 1;
+    }
+  } else {
+    RoundDigits(d, d.point + p.decimals);
+  }
+  std::string text = Mantissa(d, p);
+  if (p.exponentDigits > 0) text += ExponentText(exponent, p.exponentDigits);
+  return d.negative && !IsZero(d) ? "-" + text : text;
+}
+
+constexpr int kDigits32 = 7;
+constexpr int kDigits64 = 15;
+
+}  // namespace
+
+std::string FormatNumber(double number, std::string_view pattern) {
+  return Format(ToDecimal(number, kDigits64), pattern);
+}
+
+std::string FormatNumber(float number, std::string_view pattern) {
+  const Decimal d = ToDecimal(static_cast<double>(number), kDigits32);
+  // Cents of 123456.79 lie behind the seventh digit, but are in the number all the same.
+  const bool all = DigitsShown(d, ReadPattern(pattern)) >= kDigits32;
+  return Format(all ? ShortestDecimal(number) : d, pattern);
+}
+
+std::string FormatNumber(const Float32& number, std::string_view pattern) {
+  return FormatNumber(number.value(), pattern);
+}
+
+std::string FormatNumber(const Float64& number, std::string_view pattern) {
+  return FormatNumber(number.value(), pattern);
+}
+
+std::string PlainNumber(const Float32& number) {
+  Decimal d = ToDecimal(static_cast<double>(number.value()), kDigits32);
+  if (IsZero(d)) return "0";
+  while (d.digits.back() == '0') d.digits.pop_back();
+  const bool fixed = d.point > -4 && d.point <= kDigits32;
+  const int decimals =
+      fixed ? static_cast<int>(d.digits.size()) - d.point : static_cast<int>(d.digits.size()) - 1;
+  std::string pattern = "0";
+  if (decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(decimals), '0');
+  if (!fixed) pattern += "E+00";
+  return Format(d, pattern);
+}
+
+}  // namespace lignara
