@@ -12,8 +12,6 @@ struct LauncherWindow {
   std::string spanText;  ///< "Enter No. of Spans"
 };
 
-inline constexpr const char* kHelpFile = "LIGNARA.HLP";
-
 /// Gives the session its first content: the data directory, the neutral current member, the report
 /// font. `currentDirectory` is without a trailing separator.
 void StartSession(SessionState& session, const std::string& currentDirectory);
@@ -34,9 +32,6 @@ void StartSingleSpanBeam(SessionState& session, Platform& platform);
 
 /// "TRUSS" or "BEAM" of the chooser: opens the member size calculator for that client.
 void ChooseDesignMode(const std::string& mode, SessionState& session, Platform& platform);
-
-/// Opens the help document of the data directory at a window's section.
-void ShowHelp(const std::string& windowName, const SessionState& session, Platform& platform);
 
 /// Closes the windows that stand before the launcher, in the order of the program's exit.
 void CloseAllWindows(Platform& platform);

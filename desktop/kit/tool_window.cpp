@@ -7,7 +7,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "app/launcher.h"
+#include "app/help.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/focus_mark.h"
 #include "desktop/kit/scroll_page.h"

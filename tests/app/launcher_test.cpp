@@ -158,15 +158,6 @@ TEST_F(Launcher, TheChooserSetsTheModeClosesAndOpensTheCalculator) {
   }
 }
 
-TEST_F(Launcher, HelpOpensTheDocumentOfTheDataDirectoryAtTheWindowsSection) {
-  StartSession(session, "work");
-  ShowHelp("TR_INPUT", session, platform);
-  ASSERT_EQ(platform.help.size(), 1u);
-  EXPECT_EQ(platform.help[0].path, DataPath("work\\", "LIGNARA.HLP"));
-  EXPECT_EQ(platform.help[0].section, "TR_INPUT");
-  EXPECT_TRUE(platform.messages.empty());
-}
-
 TEST_F(Launcher, ExitClosesTheWindowsInOrder) {
   CloseAllWindows(platform);
   EXPECT_EQ(platform.calls, (Texts{"close QUESTION", "close TR_INPUT", "close wdb", "close WTYPETR",
