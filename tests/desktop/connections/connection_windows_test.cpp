@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMap>
@@ -177,6 +178,31 @@ TEST_F(ConnectionWindowsTest, ReturnInAFieldOfTheJointComputes) {
   desktop.PressKey("bolts", Qt::Key_Return);
   desktop.Play({"read \"Allow. Load Perp. to Grain\""});
   EXPECT_EQ(desktop.printed, QStringList({"value \"387.00\""}));
+}
+
+TEST_F(ConnectionWindowsTest, F5ComputesFromAnywhere) {
+  OpenBolts();
+  desktop.Play({"enter \"L1\" 1.5", "enter \"L2\" 1.5", "enter \"L3\" 1.5"});
+  Find<QListWidget>(desktop.Window("bolts"), "Bolt Dia.")->setFocus();
+  desktop.PressKey("bolts", Qt::Key_F5);
+  desktop.Play({"read \"Allow. Load Perp. to Grain\""});
+  EXPECT_EQ(desktop.printed, QStringList({"value \"387.00\""}));
+}
+
+TEST_F(ConnectionWindowsTest, SingleShearHidesTheThirdThicknessWithItsCaption) {
+  ToolWindow* window = OpenBolts();
+  const auto isCaptionShown = [&] {
+    for (const QLabel* label : window->findChildren<QLabel*>()) {
+      if (PlainCaption(label->text()) == "L3") return label->isVisible();
+    }
+    throw std::runtime_error("no caption");
+  };
+  EXPECT_TRUE(isCaptionShown());
+  desktop.Play({"press \"Single Shear\""});
+  EXPECT_FALSE(isCaptionShown());
+  EXPECT_FALSE(Find<QLineEdit>(window, "L3")->isVisible());
+  desktop.Play({"press \"Double Shear\""});
+  EXPECT_TRUE(isCaptionShown());
 }
 
 TEST_F(ConnectionWindowsTest, CommonCommandsHaveTheirKeys) {
