@@ -91,6 +91,16 @@ TEST_P(PlyWindow, AChoiceMadeAgainShowsTheSame) {
   EXPECT_EQ(Shown(State()), once);
 }
 
+TEST_P(PlyWindow, EachKeyChosenAsItIsChangesNothing) {
+  ShowPanel(window, GetParam());
+  ChooseLast();
+  const std::string before = Shown(State());
+  for (std::size_t key = 0; key < State().keys.size(); ++key) {
+    ChoosePlyRow(window, GetParam(), key, State().keys[key].choice.row);
+    EXPECT_EQ(Shown(State()), before) << State().keys[key].caption;
+  }
+}
+
 TEST_P(PlyWindow, RowsOutsideOfAListChangeNothing) {
   ShowPanel(window, GetParam());
   ChooseLast();

@@ -163,6 +163,15 @@ TEST_F(RoofSheathingTest, AnotherOrientationKeepsTheGradeAndEmptiesTheResults) {
   EXPECT_EQ(Values(), Texts(4));
 }
 
+TEST_F(RoofSheathingTest, AnotherOrientationAndBackKeepsSpacingAndEdges) {
+  Choose(kSpacing, "48");
+  Choose(kEdge, "No Edge Support");
+  Choose(kOrientation, kAlong);
+  Choose(kOrientation, kAcross);
+  EXPECT_EQ(Key(kSpacing).choice.Chosen(), "48");
+  EXPECT_EQ(Key(kEdge).choice.Chosen(), "No Edge Support");
+}
+
 TEST_F(RoofSheathingTest, AnotherGradeEmptiesTheResults) {
   ChooseLists(kAlong, 0, 2);
   Choose(kGrade, 1);
@@ -215,6 +224,19 @@ TEST_F(RoofSheathingTest, ReportsAPanelAlongItsSupportsWithoutSpacingAndEdges) {
             "NOTE 3:\n"
             "Edge support required. Tounge & Groove, panel clips\n"
             "or blocking.\n");
+}
+
+TEST_F(RoofSheathingTest, ReportsTheCaptionOfEachGradeOfEachOrientation) {
+  for (const auto& expected : published::kRoofLists) {
+    Choose(kOrientation, expected.orientation);
+    Choose(kGrade, expected.grade);
+    const char* orientation = expected.orientation == kAcross
+                                  ? "Long dim. is perp. to supports"
+                                  : "Long dim. is parallel. to supports";
+    const std::string head =
+        std::string("\nROOF SHEATHING\n\n") + orientation + "\n" + expected.caption + "\n";
+    EXPECT_EQ(ReportBytes().substr(0, head.size()), head);
+  }
 }
 
 TEST_F(RoofSheathingTest, ReportsEachSpacingAlsoWithoutARating) {

@@ -94,6 +94,12 @@ TEST_F(StandardLiveLoadsTest, AnOptionShowsTheNewNailsAtOnce) {
   EXPECT_EQ(Value("Nail Spacing, edges (in)"), "12");
 }
 
+TEST_F(StandardLiveLoadsTest, OpeningGoesBackToNailOnly) {
+  Choose3("16", "12", "Nail/Glued");
+  ShowPanel(window, panel);
+  EXPECT_EQ(Key(kAttachment).choice.Chosen(), "Nail only");
+}
+
 TEST_F(StandardLiveLoadsTest, ReportsTheChoicesAndTheResults) {
   Choose3("40/20", "20", "Nail/Glued");
   EXPECT_EQ(ReportBytes(),
@@ -108,6 +114,22 @@ TEST_F(StandardLiveLoadsTest, ReportsTheChoicesAndTheResults) {
             "Nail Spacing, Int. Sup. (in) is 12\n"
             "Nail Spacing, edges (in) is 12\n"
             "Nail type is 6d Ring or Screw Shank\n");
+}
+
+TEST_F(StandardLiveLoadsTest, ReportsTheLoadAloneWhereThePanelIsNotRated) {
+  Choose3("16", "20", "Nail/Glued");
+  EXPECT_EQ(ReportBytes(),
+            "\n"
+            "Standard Floors and Sheathing Live Loads\n"
+            "\n"
+            "Panel Rating is 16\n"
+            "Panel Span is 20\n"
+            "Attached with nails and glue\n"
+            "Live Load (psf) is 0\n"
+            "Max. Def.(in) is \n"
+            "Nail Spacing, Int. Sup. (in) is \n"
+            "Nail Spacing, edges (in) is \n"
+            "Nail type is \n");
 }
 
 TEST_F(StandardLiveLoadsTest, ReportsEmptyValuesWhereThereAreNone) {

@@ -58,6 +58,21 @@ TEST_F(SubFloorsTest, ReportsTheFloorOnALineOfItsOwn) {
             "Nail Size and Type is 8D COMMON\n");
 }
 
+TEST_F(SubFloorsTest, ReportsNAThreeTimesUnderTileOnThe24_16Panel) {
+  Choose(kRating, "24/16");
+  Choose(kFloor, "Tile");
+  EXPECT_EQ(ReportBytes(),
+            "\n"
+            "SUB FLOORING\n"
+            "\n"
+            "Panel Rating is 24/16\n"
+            "Panel supports the following floor type:\n"
+            "Tile\n"
+            "Min. Panel Thickness (in) is NA\n"
+            "Max. Span bet. Joists (in) is NA\n"
+            "Nail Size and Type is NA\n");
+}
+
 TEST_F(SubFloorsTest, ReportsEachFloorAsItsOptionReads) {
   for (const std::string floor : {"1 1/2\" Lightweight Concrete", "Other ", "Tile"}) {
     Choose(kFloor, floor);
