@@ -81,12 +81,14 @@ struct Pattern {
   int decimalZeros = 0;  // decimals that are always printed
   bool point = false;
   int exponentDigits = 0;  // 0: no exponent
+  char exponentMark = 'E';
 };
 
 Pattern ReadPattern(std::string_view text) {
   Pattern p;
-  const std::size_t mark = text.find('E');
+  const std::size_t mark = text.find_first_of("Ee");
   if (mark != std::string_view::npos) {
+    p.exponentMark = text[mark];
     p.exponentDigits =
         static_cast<int>(std::count(text.begin() + static_cast<long>(mark), text.end(), '0'));
     text = text.substr(0, mark);
@@ -123,11 +125,11 @@ std::string Mantissa(const Decimal& d, const Pattern& p) {
   return text;
 }
 
-std::string ExponentText(int exponent, int digits) {
+std::string ExponentText(int exponent, const Pattern& p) {
+  const auto digits = static_cast<std::size_t>(p.exponentDigits);
   std::string text = std::to_string(std::abs(exponent));
-  if (static_cast<int>(text.size()) < digits)
-    text.insert(0, static_cast<std::size_t>(digits) - text.size(), '0');
-  return (exponent < 0 ? "E-" : "E+") + text;
+  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+  return p.exponentMark + ((exponent < 0 ? "-" : "+") + text);
 }
 
 std::string Format(Decimal d, std::string_view pattern) {
@@ -145,7 +147,7 @@ std::string Format(Decimal d, std::string_view pattern) {
     RoundDigits(d, d.point + p.decimals);
   }
   std::string text = Mantissa(d, p);
-  if (p.exponentDigits > 0) text += ExponentText(exponent, p.exponentDigits);
+  if (p.exponentDigits > 0) text += ExponentText(exponent, p);
   return d.negative && !IsZero(d) ? "-" + text : text;
 }
 

@@ -10,7 +10,8 @@ namespace lignara {
 /// The pattern of most values: two decimals.
 inline constexpr const char* kTwoDecimals = "0.00";
 
-/// The number in a display pattern such as "0", "0.00", "##0.##" or "0.00E+00".
+/// The number in a display pattern such as "0", "0.00", "##0.##", "0.00E+00" or
+/// "0.00e+00".
 ///
 /// The decimal value of the stored number is rounded half away from zero: 7 significant digits of
 /// a 32-bit number (so that 1.15 x 1.5 shows 1.73), but where the pattern shows 7 digits or more

@@ -46,6 +46,8 @@ struct SessionState {
   std::string LastGrade;      ///< the grade last picked
   Int16 unitSystem;           ///< 0 English, 1 metric; nothing sets it
 
+  Float32 EndFixity = 1.0;  ///< 0.85 where the single-span beam has both ends fixed; none reads it
+
   MemberSelection Member;
   GlulamTransfer Glulam;                      ///< as handed over last
   GlulamCombinationTable GlulamCombinations;  ///< as loaded last

@@ -254,5 +254,11 @@ TEST(PlainNumber, ReadsBackAsTheSameSevenDigits) {
   }
 }
 
+TEST(NumberPattern, ExponentHasTheCaseOfThePattern) {
+  EXPECT_EQ(FormatNumber(1625000.0, "0.00E+00"), "1.63E+06");
+  EXPECT_EQ(FormatNumber(1625000.0, "0.00e+00"), "1.63e+06");
+  EXPECT_EQ(FormatNumber(0.004, "0.00e+00"), "4.00e-03");
+}
+
 }  // namespace
 }  // namespace lignara
