@@ -16,6 +16,8 @@ const char* ColourName(Colour colour) {
       return "royalblue";
     case Colour::DarkOrange:
       return "darkorange";
+    case Colour::Green:
+      return "green";
   }
   return "black";
 }

@@ -7,7 +7,7 @@
 namespace lignara {
 
 /// The colours of pictures, by what a user would call them.
-enum class Colour { Black, Red, Blue, Gray, RoyalBlue, DarkOrange };
+enum class Colour { Black, Red, Blue, Gray, RoyalBlue, DarkOrange, Green };
 
 /// The colour's name as scripts print it, such as "red".
 const char* ColourName(Colour colour);
@@ -44,6 +44,9 @@ struct Drawing {
   double height = 0;
   double textHeight = 0;  ///< of all its texts, in the picture's units
   std::vector<Shape> shapes;
+  /// A diagram, whose two directions have scales of their own: it fills the room that it is given.
+  /// Its texts are moved inward where they would not fit, and stay legible at any size.
+  bool stretched = false;
 
   bool operator==(const Drawing&) const = default;
 };

@@ -10,6 +10,8 @@ namespace {
 
 /// A drawing takes no more of a page's height than this, so that the figures stand below it.
 constexpr double kDrawingShare = 0.36;
+/// Height by width of a drawing that has no shape of its own; three and a sketch fill a page.
+constexpr double kDiagramShape = 0.24;
 
 /// So many lines are not worth a page of their own.
 constexpr std::ptrdiff_t kFewLines = 2;
@@ -43,8 +45,8 @@ class PageMaker {
   }
 
   void operator()(const Drawing& drawing) {
-    const double height =
-        std::min(area_.width() * drawing.height / drawing.width, area_.height() * kDrawingShare);
+    const double shape = drawing.stretched ? kDiagramShape : drawing.height / drawing.width;
+    const double height = std::min(area_.width() * shape, area_.height() * kDrawingShare);
     if (y_ > 0 && y_ + height > area_.height()) operator()(NewPage{});
     pages_.back().push_back(PlacedDrawing{&drawing, QRectF(0, y_, area_.width(), height)});
     y_ += height;

@@ -10,8 +10,8 @@ namespace lignara {
 /// A colour of drawings as it is legible on a light or a dark ground.
 QColor ColourOn(const QColor& ground, Colour colour);
 
-/// Paints a drawing into a rectangle, as large as fits, true to shape. On a dark palette what the
-/// drawing calls black is light.
+/// Paints a drawing into a rectangle, as large as fits, true to shape unless it may be stretched.
+/// On a dark palette what the drawing calls black is light.
 void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,
                   const QPalette& palette);
 
@@ -27,10 +27,12 @@ class Picture : public QWidget {
   void OnPress(std::function<void(double x, double y)> press);
   /// Tells whether a press at a place would do something; the pointer then is a hand.
   void OnHover(std::function<bool(double x, double y)> isTarget);
+  /// Called with each place that the mouse comes to, also before it is pressed there.
+  void OnMove(std::function<void(double x, double y)> move);
   /// Called by "Save Picture As..." of the context menu.
   void OnSave(std::function<void()> save) { save_ = std::move(save); }
 
-  /// What a mouse press at a place of the drawing does.
+  /// What the mouse does that comes to a place of the drawing and is pressed there.
   void PressAt(double x, double y);
 
   /// Writes the picture as PNG. False when the file cannot be written.
@@ -50,6 +52,7 @@ class Picture : public QWidget {
 
   Drawing drawing_;
   std::function<void(double, double)> press_;
+  std::function<void(double, double)> move_;
   std::function<bool(double, double)> isTarget_;
   std::function<void()> save_;
 };

@@ -67,6 +67,66 @@ TEST_F(PictureTest, ShowsAHandWhereAPressWouldDoSomething) {
   EXPECT_EQ(picture.cursor().shape(), Qt::ArrowCursor);
 }
 
+/// A diagram of 20 by 1000 units, on 500 x 300 pixels with a margin of 6 around.
+class DiagramTest : public PictureTest {
+ protected:
+  DiagramTest() {
+    diagram.width = 20;
+    diagram.height = 1000;
+    diagram.textHeight = 60;
+    diagram.stretched = true;
+    picture.SetDrawing(diagram);
+    picture.OnMove([this](double x, double y) { moved = {x, y}; });
+    picture.resize(500, 300);
+  }
+
+  Drawing diagram;
+  QPointF moved{-1, -1};
+};
+
+TEST_F(DiagramTest, FillsItsRoomInBothDirections) {
+  Send(QEvent::MouseButtonPress, {6 + 488 / 4.0, 6 + 288 / 2.0});
+  EXPECT_NEAR(pressed.x(), 5, 1e-6);
+  EXPECT_NEAR(pressed.y(), 500, 1e-6);
+}
+
+TEST_F(DiagramTest, CountsItsMarginToItsEnds) {
+  Send(QEvent::MouseButtonPress, {1, 299});
+  EXPECT_EQ(pressed, QPointF(0, 1000));
+  Send(QEvent::MouseButtonPress, {499, 1});
+  EXPECT_EQ(pressed, QPointF(20, 0));
+}
+
+TEST_F(DiagramTest, TellsWhereTheMouseMoves) {
+  Send(QEvent::MouseMove, {6 + 488 / 2.0, 150}, Qt::NoButton);
+  EXPECT_NEAR(moved.x(), 10, 1e-6);
+  EXPECT_EQ(pressed, QPointF(-1, -1));
+}
+
+TEST_F(DiagramTest, IsMovedOverBeforeItIsPressed) {
+  picture.PressAt(3.25, 7);
+  EXPECT_EQ(moved, QPointF(3.25, 7));
+  EXPECT_EQ(pressed, QPointF(3.25, 7));
+}
+
+TEST_F(DiagramTest, ShowsATextAtItsRimWhole) {
+  const auto inkBeyond = [&](double x) {
+    diagram.shapes = {TextShape{x, 400, "12345", Colour::Black}};
+    picture.SetDrawing(diagram);
+    const QImage image = picture.grab().toImage();
+    int dark = 0;
+    for (int row = 0; row < image.height(); ++row) {
+      for (int column = 0; column < image.width(); ++column) {
+        if (image.pixelColor(column, row).lightness() < 100) ++dark;
+      }
+    }
+    return dark;
+  };
+  const int whole = inkBeyond(10);
+  EXPECT_GT(whole, 20);
+  EXPECT_NEAR(inkBeyond(20), whole, whole / 4);
+}
+
 TEST_F(PictureTest, IsWrittenAsAPngWithItsLines) {
   QTemporaryDir directory;
   picture.resize(480, 300);
@@ -87,7 +147,7 @@ TEST(ColourOn, KeepsEveryColourWellApartFromALightAndADarkGround) {
   for (const QColor ground :
        {QColor("white"), QColor("#efefef"), QColor("#2d2d30"), QColor("black")}) {
     for (const Colour colour : {Colour::Black, Colour::Red, Colour::Blue, Colour::Gray,
-                                Colour::RoyalBlue, Colour::DarkOrange}) {
+                                Colour::RoyalBlue, Colour::DarkOrange, Colour::Green}) {
       const QColor pen = ColourOn(ground, colour);
       const int apart = std::abs(pen.red() - ground.red()) +
                         std::abs(pen.green() - ground.green()) +
