@@ -8,6 +8,16 @@ namespace lignara {
 namespace {
 
 Platform* g_platform = nullptr;
+unsigned* g_met = nullptr;
+
+/// Notes a fault for the innermost scope that asks; true where it was noted before.
+bool WasMet(Fault fault) {
+  if (g_met == nullptr) return false;
+  const unsigned bit = 1u << static_cast<unsigned>(fault);
+  const bool before = (*g_met & bit) != 0;
+  *g_met |= bit;
+  return before;
+}
 
 }  // namespace
 
@@ -28,7 +38,7 @@ std::string_view FaultText(Fault fault) {
 }
 
 void ReportFault(Fault fault) {
-  if (fault == Fault::None || g_platform == nullptr) return;
+  if (fault == Fault::None || WasMet(fault) || g_platform == nullptr) return;
   g_platform->ShowMessage({std::string(FaultText(fault))});
 }
 
@@ -36,8 +46,18 @@ FaultScope::FaultScope(Platform& platform) : outer_(g_platform) { g_platform = &
 
 FaultScope::~FaultScope() { g_platform = outer_; }
 
-SilentFaults::SilentFaults() : outer_(g_platform) { g_platform = nullptr; }
+FaultsOnce::FaultsOnce() : outer_(g_met) { g_met = &met_; }
 
-SilentFaults::~SilentFaults() { g_platform = outer_; }
+FaultsOnce::~FaultsOnce() { g_met = outer_; }
+
+SilentFaults::SilentFaults() : outerMet_(g_met), outer_(g_platform) {
+  g_met = &met_;
+  g_platform = nullptr;
+}
+
+SilentFaults::~SilentFaults() {
+  g_met = outerMet_;
+  g_platform = outer_;
+}
 
 }  // namespace lignara

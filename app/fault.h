@@ -30,8 +30,22 @@ class FaultScope {
   Platform* outer_;
 };
 
+/// While one stands, each fault is shown once only: for a calculation that would meet the same one
+/// at every station.
+class FaultsOnce {
+ public:
+  FaultsOnce();
+  ~FaultsOnce();
+  FaultsOnce(const FaultsOnce&) = delete;
+  FaultsOnce& operator=(const FaultsOnce&) = delete;
+
+ private:
+  unsigned met_ = 0;  // a bit for each fault
+  unsigned* outer_;
+};
+
 /// While one stands, faults are not shown: for work that the user did not ask for, and that has
-/// shown its faults before.
+/// shown its faults before, or for a routine that tells of any fault in words of its own.
 class SilentFaults {
  public:
   SilentFaults();
@@ -39,7 +53,12 @@ class SilentFaults {
   SilentFaults(const SilentFaults&) = delete;
   SilentFaults& operator=(const SilentFaults&) = delete;
 
+  /// A fault was met since.
+  bool Met() const { return met_ != 0; }
+
  private:
+  unsigned met_ = 0;
+  unsigned* outerMet_;
   Platform* outer_;
 };
 
