@@ -225,6 +225,7 @@ void ScriptPlayer::Enter(const Words& words) {
   const std::size_t count = words.size() - 1;
   auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, {IsTypedInto}));
   field->setFocus();
+  if (field->window()->focusWidget() != field) return;  // the window leads the user elsewhere
   field->setText(words.back().text);
   emit field->textEdited(words.back().text);
 }

@@ -39,6 +39,28 @@ class ReleaseWatcher : public QObject {
   Binding::Command released_;
 };
 
+/// Calls when the focus comes into a field, unless it only comes back.
+class EntryWatcher : public QObject {
+ public:
+  EntryWatcher(QLineEdit* field, Binding::Command entered)
+      : QObject(field), field_(field), entered_(std::move(entered)) {
+    field->installEventFilter(this);
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::FocusIn) return false;
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    const bool back = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+                      reason == Qt::MenuBarFocusReason;
+    if (!back) entered_();
+    return field_->window()->focusWidget() != field_;  // it was led away meanwhile
+  }
+
+ private:
+  QLineEdit* field_;
+  Binding::Command entered_;
+};
+
 }  // namespace
 
 int ChosenRow(const QListWidget* list) {
@@ -59,6 +81,10 @@ void Binding::Words(QLineEdit* field, std::string* text, Command typed) {
     });
   });
   Text(field, text);
+}
+
+void Binding::Entered(QLineEdit* field, Command entered) {
+  new EntryWatcher(field, [this, entered] { Run(entered); });
 }
 
 void Binding::Text(QLineEdit* field, const std::string* text) {

@@ -44,6 +44,9 @@ class Binding {
   void Field(QLineEdit* field, std::string* text, Command typed = {});
   /// The same for words, such as a title: nothing is marked.
   void Words(QLineEdit* field, std::string* text, Command typed = {});
+  /// The user comes into a field: by the mouse, by a key, or led there. Coming back to it from a
+  /// box, a menu or another window is no entry. The command may lead the focus away.
+  void Entered(QLineEdit* field, Command entered);
   /// A text that the window only shows.
   void Text(QLabel* label, const std::string* text);
   void Text(QLineEdit* field, const std::string* text);

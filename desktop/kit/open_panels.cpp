@@ -76,8 +76,9 @@ void OpenPanels::Hide(QWidget* panel) {
   for (Open& open : open_) {
     if (Holds(panel, open.before)) open.before = back;
   }
-  panel->setVisible(false);
+  // First the focus: from a panel that goes it would fall on any field on its way.
   if (hadFocus && panel->window()->isVisible()) Focus(back);
+  panel->setVisible(false);
 }
 
 bool OpenPanels::CloseNewest() {
