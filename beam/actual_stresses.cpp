@@ -1,0 +1,87 @@
+#include "beam/actual_stresses.h"
+
+#include "app/number_text.h"
+
+namespace lignara {
+namespace {
+
+struct CheckField {
+  StressField field;
+  Float32 MemberSelection::*value;
+};
+
+constexpr CheckField kCheckFields[] = {
+    {StressField::Fb, &MemberSelection::AllowFb}, {StressField::Fv, &MemberSelection::AllowFv},
+    {StressField::Fc, &MemberSelection::AllowFc}, {StressField::Ft, &MemberSelection::AllowFt},
+    {StressField::B, &MemberSelection::DressedB}, {StressField::D, &MemberSelection::DressedD}};
+
+std::string StressRow(const char* words, const Float32& stress) {
+  return words + FormatNumber(stress, "0.000") + " psi";
+}
+
+}  // namespace
+
+CheckInput::CheckInput(const BeamWindow& window)
+    : sectionModulus(ReadNumber(window.Field(StressField::SectionModulus).text)),
+      shearArea(ReadNumber(window.Field(StressField::ShearArea).text)),
+      maxMoment(ReadNumber(window.maxMoment)),
+      maxShear(ReadNumber(window.maxShear)),
+      axial(ReadNumber(window.axial)) {}
+
+void TakeCheckFields(BeamWindow& window, SessionState& session) {
+  for (const CheckField& field : kCheckFields) {
+    session.Member.*field.value = ReadNumber(window.Field(field.field).text);
+  }
+  window.beam.unbracedLength = UnbracedLength(window);
+}
+
+void FindBendingAndShear(StressCheck& check, const CheckInput& input) {
+  check.actualShear = Abs(input.maxShear / input.shearArea);
+  check.actualBending = Abs(input.maxMoment * 12 / input.sectionModulus);
+}
+
+void FindAxialStress(StressCheck& check, const CheckInput& input, const Float32& area) {
+  check.actualCompression = 0;
+  check.actualTension = 0;
+  if (input.axial > 0) check.actualTension = Abs(input.axial / area);
+  if (input.axial < 0) check.actualCompression = Abs(input.axial / area);
+}
+
+void ListActualStresses(StressCheck& check) {
+  check.rows.push_back("ACTUAL STRESSES");
+  check.rows.push_back(StressRow("Max. shear stress = ", check.actualShear));
+  check.rows.push_back(StressRow("Max. bending stress = ", check.actualBending));
+  if (!(check.actualCompression == 0)) {
+    check.rows.push_back(StressRow("Max. axial comp. stress = ", check.actualCompression));
+  }
+  if (!(check.actualTension == 0)) {
+    check.rows.push_back(StressRow("Max. axial ten. stress = ", check.actualTension));
+  }
+  check.rows.push_back("");
+  check.rows.push_back("ALLOWABLE STRESSES");
+}
+
+bool MayCheck(const BeamWindow& window, const SessionState& session, Platform& platform,
+              int memberSource) {
+  if (!(session.Member.MemberSource == memberSource)) {
+    platform.ShowMessage({memberSource == 1 ? "YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"
+                                            : "YOUR MEMBER IS NORMAL WOOD, NOT GLU-LAM!"});
+    return false;
+  }
+  if (window.beam.hasRun == 0) {
+    platform.ShowMessage({"YOU NEED TO HIT THE RUN BUTTON FIRST!"});
+    return false;
+  }
+  return true;
+}
+
+void EndCheck(BeamWindow& window, Platform& platform, const char* problem) {
+  window.beam.abortRun = problem == nullptr ? 0 : -1;
+  if (problem == nullptr) {
+    window.check.open = true;
+  } else {
+    platform.ShowMessage({problem});
+  }
+}
+
+}  // namespace lignara

@@ -1,0 +1,61 @@
+#include "app/fault.h"
+#include "app/number_text.h"
+#include "beam/beam_window.h"
+#include "beam/load_picture.h"
+#include "beam/support_class.h"
+
+namespace lignara {
+namespace {
+
+constexpr const char* kLengthQuestion =
+    "If you change this value, you will loose all your load input! Continue ?";
+
+/// Each change of the text, by whomever, is a change of the length.
+void SetLengthText(BeamWindow& window, const std::string& text) {
+  window.length = text;
+  EditLength(window);
+}
+
+}  // namespace
+
+bool EnterLength(BeamWindow& window, Platform& platform) {
+  if (window.beam.loadCount > 0) {
+    if (!platform.AskYesNo("Caution", kLengthQuestion)) {
+      SetLengthText(window, FormatNumber(window.beam.spanLength, "0.00"));
+      return false;
+    }
+    RemoveAllLoads(window);
+  }
+  SetLengthText(window, "");
+  return true;
+}
+
+void EditLength(BeamWindow& window) {
+  window.beam.spanLength = ReadNumber(window.length);
+  ShowLoadPicture(window);
+}
+
+void SetSupport(BeamWindow& window, SessionState& session, BeamEnd side, SupportType type) {
+  (side == BeamEnd::Left ? window.beam.leftSupport : window.beam.rightSupport) = type;
+  ClassifySupports(window.beam, session);
+  ShowLoadPicture(window);
+}
+
+void ReadConstants(BeamWindow& window, SessionState& session, Platform& platform) {
+  SingleSpanBeam& beam = window.beam;
+  beam.spanLength = ReadNumber(window.length);
+  youngsModulus(session) = ReadNumber(window.modulus.text);
+  beam.momentOfInertia = ReadNumber(window.inertia.text);
+  if (beam.spanLength > 0 && youngsModulus(session) > 0 && beam.momentOfInertia > 0) {
+    beam.unbracedLength = UnbracedLength(window);
+  } else {
+    platform.ShowMessage({"YOU NEED A CONSTANT VALUE FOR L,E OR I !"});
+  }
+}
+
+Number UnbracedLength(const BeamWindow& window) {
+  const Number typed = ReadNumber(window.unbraced);
+  return typed > 0 ? typed : Number(window.beam.spanLength);
+}
+
+}  // namespace lignara

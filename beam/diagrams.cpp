@@ -1,0 +1,178 @@
+#include "beam/diagrams.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "app/number_text.h"
+
+namespace lignara {
+namespace {
+
+/// Which way a positive value is drawn.
+enum class Upright { Up, Down };
+
+/// The first station of the value of largest magnitude.
+int PeakStation(const Float32Array& values, int last) {
+  int peak = 0;
+  for (int i = 1; i <= last; ++i) {
+    if (Abs(values[i]) > Abs(values[peak])) peak = i;
+  }
+  return peak;
+}
+
+/// One diagram over the stations of the last run.
+class DiagramPainter {
+ public:
+  DiagramPainter(const StationGrid& grid, const Float32Array& values, const Float32& peak,
+                 Upright upright)
+      : last_(grid.last), values_(values), down_(upright == Upright::Down ? 1 : -1) {
+    // A margin of a fifth of the doubled peak.
+    const double doubled = 2 * std::fabs(static_cast<double>(peak.value()));
+    drawing_.width = grid.steps;
+    // Without any peak a line across the middle is left.
+    drawing_.height = doubled > 0 ? doubled + 0.2 * doubled : 1;
+    drawing_.textHeight = drawing_.height / 12;
+    drawing_.stretched = true;
+    DrawCurve();
+  }
+
+  /// A line from the base to the peak, with the value beside it.
+  void MarkPeak(const std::string& value) {
+    const int station = PeakStation(values_, last_);
+    drawing_.shapes.emplace_back(
+        LineShape{1.0 * station, Base(), 1.0 * station, YAt(station), Colour::Red});
+    const double above = std::max(0.0, YAt(station) - drawing_.textHeight);
+    const double y = YAt(station) < Base() ? above : YAt(station);
+    drawing_.shapes.emplace_back(TextShape{1.0 * station, y, value, Colour::Red});
+  }
+  void MarkStation(int station) {
+    drawing_.shapes.emplace_back(
+        LineShape{1.0 * station, 0, 1.0 * station, drawing_.height, Colour::DarkOrange});
+  }
+
+  Drawing Take() { return std::move(drawing_); }
+
+ private:
+  double Base() const { return drawing_.height / 2; }
+  double YAt(int station) const { return Base() + down_ * values_[station].value(); }
+
+  void DrawCurve() {
+    drawing_.shapes.reserve(static_cast<std::size_t>(last_) + 4);
+    drawing_.shapes.emplace_back(LineShape{0, Base(), drawing_.width, Base(), Colour::Blue});
+    for (int i = 0; i < last_; ++i) {
+      drawing_.shapes.emplace_back(
+          LineShape{1.0 * i, YAt(i), 1.0 * i + 1, YAt(i + 1), Colour::Black});
+    }
+  }
+
+  const int last_;
+  const Float32Array& values_;
+  const double down_;
+  Drawing drawing_;
+};
+
+/// Where a diagram's values and read-outs stand; in the order of Diagram.
+struct DiagramRow {
+  Drawing BeamDiagrams::*drawing;
+  Float32Array BeamResults::*values;
+  Float32 BeamResults::*peak;
+  std::string BeamWindow::*peakText;
+  Upright upright;
+  std::string BeamDiagrams::*readOut;
+  const char* pattern;
+};
+
+constexpr DiagramRow kDiagramRows[] = {
+    {&BeamDiagrams::shear, &BeamResults::shearTotal, &BeamResults::maxShear, &BeamWindow::maxShear,
+     Upright::Up, &BeamDiagrams::shearAt, "0.00"},
+    {&BeamDiagrams::moment, &BeamResults::momentTotal, &BeamResults::maxMoment,
+     &BeamWindow::maxMoment, Upright::Up, &BeamDiagrams::momentAt, "0.00"},
+    {&BeamDiagrams::deflection, &BeamResults::deflTotal, &BeamResults::maxDeflection,
+     &BeamWindow::maxDeflection, Upright::Down, &BeamDiagrams::deflAt, "0.0000"},
+};
+
+/// A curve with its peak and, unless it is for paper, the mark of a station.
+Drawing Painted(const BeamWindow& window, const DiagramRow& row, std::optional<int> station) {
+  const BeamResults& results = window.results;
+  if ((results.*row.values).upper() < 0) return {};
+  DiagramPainter painter(results.grid, results.*row.values, results.*row.peak, row.upright);
+  painter.MarkPeak(window.*row.peakText);
+  if (station) painter.MarkStation(std::min(*station, results.grid.last));
+  return painter.Take();
+}
+
+void Draw(BeamWindow& window) {
+  for (const DiagramRow& row : kDiagramRows) {
+    window.diagrams.*row.drawing = Painted(window, row, window.diagrams.station);
+  }
+}
+
+/// The slope between a station and the one before, in the unit of the deflections.
+void FillRotations(BeamResults& results, const SessionState& session) {
+  const double unit = session.unitSystem == 1 ? 100 : 12;
+  const Number width = unit * results.grid.span / results.grid.steps;
+  const Float32Array& defl = results.deflTotal;
+  results.rotationTotal.Allocate(results.grid.last);
+  results.rotationTotal[0] = Atan(defl[1] / width);
+  for (int i = 1; i <= results.grid.last; ++i) {
+    results.rotationTotal[i] = Atan((defl[i] - defl[i - 1]) / width);
+  }
+}
+
+void ShowReadOuts(BeamWindow& window) {
+  BeamDiagrams& diagrams = window.diagrams;
+  const StationGrid& grid = window.results.grid;
+  const int s = diagrams.station;
+  const bool known = s <= grid.last;
+  const auto show = [&](const Float32& value, const char* pattern) {
+    return known ? FormatNumber(value, pattern) : std::string();
+  };
+  for (const DiagramRow& row : kDiagramRows) {
+    diagrams.*row.readOut = show((window.results.*row.values)[s], row.pattern);
+  }
+  diagrams.rotationAt = show(window.results.rotationTotal[s], "0.000000");
+  diagrams.location = show(Float32(s / grid.steps * grid.span), "0.000");
+}
+
+}  // namespace
+
+Drawing DiagramOnPaper(const BeamWindow& window, Diagram diagram) {
+  return Painted(window, kDiagramRows[static_cast<std::size_t>(diagram)], std::nullopt);
+}
+
+void ShowDiagrams(BeamWindow& window, const SessionState& session) {
+  const FaultsOnce once;
+  FillRotations(window.results, session);
+  window.diagrams.enabled = true;
+  MoveToStation(window, window.diagrams.station);
+}
+
+void OpenDiagrams(BeamWindow& window, const SessionState& session) {
+  window.diagrams.station = 0;
+  ShowDiagrams(window, session);
+  window.diagrams.open = true;
+}
+
+void CloseDiagrams(BeamWindow& window) { window.diagrams.open = false; }
+
+void MoveToStation(BeamWindow& window, int station) {
+  window.diagrams.station = std::clamp(station, 0, window.diagrams.lastStation);
+  Draw(window);
+  ShowReadOuts(window);
+}
+
+void PressDiagram(BeamWindow& window, double x) {
+  const double last = window.results.grid.last;
+  MoveToStation(window, static_cast<int>(std::lround(std::clamp(x, 0.0, last))));
+}
+
+void FollowAccuracy(BeamWindow& window) {
+  const double stations = RoundHalfEven(window.beam.accuracySteps).value();
+  constexpr double kMost = std::numeric_limits<std::int16_t>::max();
+  window.diagrams.lastStation = static_cast<int>(std::min(stations, kMost));
+  window.diagrams.station = std::min(window.diagrams.station, window.diagrams.lastStation);
+}
+
+}  // namespace lignara
