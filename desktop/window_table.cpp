@@ -17,6 +17,7 @@ constexpr std::array kWindows = {
     WindowKind{window_name::kTruss, false, MakeTrussWindow},
     WindowKind{window_name::kMemberSize, true, MakeMemberSizeWindow},
     WindowKind{window_name::kWoodDataBase, true, MakeWoodDataBaseWindow},
+    WindowKind{window_name::kBeam, false, MakeBeamWindow},
     WindowKind{window_name::kFasteners, false, MakeFastenerWindow},
     WindowKind{window_name::kBolts, false, MakeBoltWindow},
     WindowKind{window_name::kPlywood, false, MakePlyWindow},

@@ -13,6 +13,7 @@ ToolWindow* MakeTrussInputWindow(WindowContext context);
 ToolWindow* MakeTrussWindow(WindowContext context);
 ToolWindow* MakeMemberSizeWindow(WindowContext context);
 ToolWindow* MakeWoodDataBaseWindow(WindowContext context);
+ToolWindow* MakeBeamWindow(WindowContext context);
 ToolWindow* MakeFastenerWindow(WindowContext context);
 ToolWindow* MakeBoltWindow(WindowContext context);
 ToolWindow* MakePlyWindow(WindowContext context);

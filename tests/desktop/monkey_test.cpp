@@ -73,11 +73,13 @@ class Monkey {
   /// A dialog may come up or not: an answer for each kind that the next action can meet.
   void PrepareAnswer() {
     using Kind = ScriptAnswer::Kind;
-    if (Pick(2) == 0) {
-      platform_.KeepAnswer({Kind::File, directory_.filePath("saved")});
-    } else {
-      platform_.KeepAnswer({Kind::Cancel, ""});
-    }
+    const ScriptAnswer answers[] = {
+        {Kind::File, directory_.filePath("saved")},
+        {Kind::Cancel, ""},
+        {Kind::Yes, ""},
+        {Kind::No, ""},
+        {Kind::Text, kTexts[static_cast<std::size_t>(Pick(kTexts.size()))]}};
+    platform_.KeepAnswer(answers[Pick(std::size(answers))]);
   }
 
   ToolWindow* AnyWindow() {
@@ -142,6 +144,7 @@ class Monkey {
       button->click();
     } else if (auto* field = qobject_cast<QLineEdit*>(widget); field && !field->isReadOnly()) {
       const QString text = kTexts[static_cast<std::size_t>(Pick(kTexts.size()))];
+      field->setFocus();
       field->setText(text);
       emit field->textEdited(text);
     } else if (auto* list = qobject_cast<QListWidget*>(widget); list && list->count() > 0) {

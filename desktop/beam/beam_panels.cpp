@@ -1,0 +1,161 @@
+#include "desktop/beam/beam_panels.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "beam/diagrams.h"
+#include "desktop/kit/area_keys.h"
+#include "desktop/kit/form.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/save_picture.h"
+
+namespace lignara {
+namespace {
+
+/// The command that closes a panel; made first, it is the first stop of the Tab key in there.
+QPushButton* CloseButton(QGroupBox* panel, Binding& binding, Binding::Command close) {
+  auto* button = new QPushButton("Close", panel);
+  binding.Press(button, std::move(close));
+  SetEscapeButton(panel, button);
+  return button;
+}
+
+/// A picture that is pressed wherever the mouse is dragged over it.
+class DraggedPicture : public Picture {
+ protected:
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (!event->buttons().testFlag(Qt::LeftButton)) return Picture::mouseMoveEvent(event);
+    QMouseEvent press(QEvent::MouseButtonPress, event->position(), event->globalPosition(),
+                      Qt::LeftButton, event->buttons(), event->modifiers());
+    mousePressEvent(&press);
+  }
+};
+
+struct DiagramValue {
+  const char* caption;
+  const std::string* text;
+};
+
+Picture* MakeDiagram(const char* name, const Drawing* drawing, BeamWindow& window, Binding& binding,
+                     DesktopPlatform& platform) {
+  auto* picture = Named(name, new DraggedPicture);
+  picture->setMinimumSize(220, 72);
+  binding.Show(picture, drawing);
+  picture->OnPress([&window, &binding](double x, double) {
+    binding.Run([&window, x] { PressDiagram(window, x); });
+  });
+  picture->OnHover([](double, double) { return true; });
+  LetUserSave(picture, platform);
+  return picture;
+}
+
+/// A diagram with its values beside it.
+QGroupBox* DiagramRow(const char* caption, Picture* picture,
+                      const std::vector<DiagramValue>& values, Binding& binding) {
+  QGroupBox* frame = MakePanel(caption);
+  auto* row = new QHBoxLayout(frame);
+  row->setContentsMargins(8, 2, 8, 2);
+  row->addWidget(picture, 1);
+  auto* column = new QVBoxLayout;
+  auto* grid = new QGridLayout;
+  // All three diagrams are equally wide, so that a station stands above the same one.
+  grid->setColumnMinimumWidth(0, frame->fontMetrics().horizontalAdvance("Max. Mom. (ft-lbs)"));
+  for (const DiagramValue& value : values) {
+    binding.Text(AddValue(grid, value.caption, 90), value.text);
+  }
+  column->addLayout(grid);
+  column->addStretch();
+  row->addLayout(column);
+  return frame;
+}
+
+QScrollBar* StationBar(QGroupBox* panel, BeamWindow& window, Binding& binding) {
+  auto* bar = Named("Station", new QScrollBar(Qt::Horizontal, panel));
+  bar->setFocusPolicy(Qt::StrongFocus);
+  bar->setInvertedControls(false);  // the right arrow key goes to the right
+  binding.Follow([bar, &window] {
+    const QSignalBlocker silent(bar);
+    bar->setRange(0, window.diagrams.lastStation);
+    bar->setPageStep(std::max(1, window.diagrams.lastStation / 20));
+  });
+  binding.Scroll(bar, &window.diagrams.station,
+                 [&window](int station) { MoveToStation(window, station); });
+  return bar;
+}
+
+QLayout* DiagramsFoot(QGroupBox* panel, BeamWindow& window, Binding& binding) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(StationBar(panel, window, binding), 1);
+  auto* grid = new QGridLayout;
+  binding.Text(AddValue(grid, "(ft)", 90), &window.diagrams.location);
+  row->addLayout(grid);
+  row->addWidget(CloseButton(panel, binding, [&window] { CloseDiagrams(window); }));
+  return row;
+}
+
+}  // namespace
+
+QGroupBox* MakePropertiesPanel(BeamWindow& window, Binding& binding) {
+  QGroupBox* panel = MakePanel("Properties Required For Stress Check");
+  auto* rows = new QVBoxLayout(panel);
+  QPushButton* close = CloseButton(panel, binding, [&window] { CloseProperties(window); });
+  auto* grid = new QGridLayout;
+  grid->setColumnMinimumWidth(2, 14);
+  constexpr int kRows = 5;
+  for (int i = 0; i < kStressFields; ++i) {
+    const auto field = static_cast<StressField>(i);
+    QLineEdit* box = PutField(grid, i % kRows, i < kRows ? 0 : 3,
+                              kStressFieldCaptions[static_cast<std::size_t>(i)], 84);
+    binding.Field(box, &window.Field(field).text,
+                  [&window, field] { EditStressField(window, field); });
+    binding.Entered(box, [&window, field] { EnterStressField(window, field); });
+  }
+  rows->addLayout(grid);
+  rows->addWidget(close, 0, Qt::AlignRight);
+  binding.Shown(panel, &window.propertiesOpen);
+  return panel;
+}
+
+QGroupBox* MakeStressCheckPanel(BeamWindow& window, Binding& binding) {
+  QGroupBox* panel = MakePanel("Stress Check");
+  auto* rows = new QVBoxLayout(panel);
+  QListWidget* list = MakeList("Stress Check", 10);
+  binding.List(list, &window.check.rows);
+  rows->addWidget(list);
+  rows->addWidget(CloseButton(panel, binding, [&window] { window.check.open = false; }), 0,
+                  Qt::AlignRight);
+  binding.Shown(panel, &window.check.open);
+  return panel;
+}
+
+QGroupBox* MakeDiagramsPanel(BeamWindow& window, Binding& binding, DesktopPlatform& platform) {
+  QGroupBox* panel = MakePanel("Diagrams");
+  auto* rows = new QVBoxLayout(panel);
+  BeamDiagrams& d = window.diagrams;
+  const auto add = [&](const char* name, const Drawing* drawing,
+                       const std::vector<DiagramValue>& values) {
+    Picture* picture = MakeDiagram(name, drawing, window, binding, platform);
+    rows->addWidget(DiagramRow(name, picture, values, binding));
+  };
+  add("Shear", &d.shear, {{"Value at X:", &d.shearAt}, {"Max. Shear (lbs):", &window.maxShear}});
+  add("Moment", &d.moment,
+      {{"Value at X:", &d.momentAt}, {"Max. Mom. (ft-lbs)", &window.maxMoment}});
+  add("Deflected Shape", &d.deflection,
+      {{"Def.at X:", &d.deflAt},
+       {"Rot. at X(rad)", &d.rotationAt},
+       {"Max. Def. (in)", &window.maxDeflection}});
+  rows->addLayout(DiagramsFoot(panel, window, binding));
+  binding.Shown(panel, &d.open);
+  return panel;
+}
+
+}  // namespace lignara

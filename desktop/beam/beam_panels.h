@@ -1,0 +1,19 @@
+#pragma once
+
+#include "beam/beam_window.h"
+#include "desktop/kit/tool_window.h"
+
+namespace lignara {
+
+/// The panels that the single-span window opens below its results. The record has to live as long
+/// as the window.
+
+/// "Properties Required For Stress Check". Its fields empty themselves when they are entered, so
+/// the focus comes to its "Close" first.
+QGroupBox* MakePropertiesPanel(BeamWindow& window, Binding& binding);
+/// "Stress Check".
+QGroupBox* MakeStressCheckPanel(BeamWindow& window, Binding& binding);
+/// "Diagrams".
+QGroupBox* MakeDiagramsPanel(BeamWindow& window, Binding& binding, DesktopPlatform& platform);
+
+}  // namespace lignara
