@@ -38,7 +38,7 @@ class BoltForm : public ToolWindow {
     columns->setSpacing(12);
     columns->addWidget(ShearPanel(), 2);
     columns->addWidget(TensionPanel(), 1);
-    resize(InLetters(980), InLetters(640));
+    resize(980, 640);
   }
 
   /// The window belongs to that of the fasteners, however that one is closed.

@@ -66,6 +66,14 @@ TEST(ReportText, EndsEachLineAndLeavesOutPagesAndDrawings) {
   EXPECT_EQ(ReportText(report), "\nTITLE:   \n\nEND\n");
 }
 
+TEST(ReportText, SetsHeadsAsAnyColumnsAndOnce) {
+  Report heads;
+  heads.Heads({"MEMBER", "TYPE"}, 1);
+  Report columns;
+  columns.Columns({"MEMBER", "TYPE"}, 1);
+  EXPECT_EQ(ReportText(heads), ReportText(columns));
+}
+
 TEST(ReportText, SetsColumnsAndIndentedLinesInZones) {
   Report report;
   report.Line("WOOD TYPE", 1);

@@ -114,7 +114,7 @@ void ExpectNoCaptionCutOff(const ToolWindow* window) {
     const bool caption = (label != nullptr && !label->wordWrap()) ||
                          qobject_cast<const QAbstractButton*>(widget) != nullptr;
     if (!caption || !widget->isVisible() || CaptionOf(widget).isEmpty()) continue;
-    const QString shown = label != nullptr ? PlainCaption(label->text()) : CaptionOf(widget);
+    const QString shown = label != nullptr ? label->text() : CaptionOf(widget);
     const QSize text = widget->fontMetrics().size(Qt::TextShowMnemonic, shown);
     const std::string name = FromQt(window->name()) + ": " + FromQt(CaptionOf(widget));
     EXPECT_GE(widget->width(), text.width()) << name;

@@ -125,6 +125,13 @@ TEST_P(SmallScreens, HoldTheLumberWindows) {
   for (const char* name : {"WTYPETR", "wdb"}) Look(name);
 }
 
+TEST_P(SmallScreens, HoldTheDataBases) {
+  desktop().Play({"press \"Fastener Data Base\"", "window FASTENER", "press \"Bolts\"",
+                  "window main", "press \"Glu-Lam Data Base\"", "window main",
+                  "press \"Ply Wood\""});
+  for (const char* name : {"FASTENER", "bolts", "GL", "ply"}) Look(name);
+}
+
 INSTANTIATE_TEST_SUITE_P(Sizes, SmallScreens, testing::ValuesIn(kScreens),
                          [](const auto& screen) { return "On" + std::string(screen.param.name); });
 

@@ -309,5 +309,34 @@ TEST(TopNodes, ReportNamesTheHalvesBeforeThePeak) {
   EXPECT_EQ(NodeLabel({NodeSide::Right, 0}, "WARREN"), "RN 0");
 }
 
+TEST(EnterAndGoOn, EntersTheLoadAndSelectsTheNextRowUpToTheLast) {
+  OpenedTruss truss = Example("SCI");
+  SelectNode(truss.window, truss.session, truss.platform, 1);
+  for (const char* load : {"100", "200", "300", "400"}) {
+    truss.window.nodeLoad = load;
+    EnterNodeLoadAndGoOn(truss.window, truss.session, truss.platform);
+  }
+  // Three nodes: the fourth load overwrites that of the last.
+  EXPECT_EQ(truss.window.nodeRows, Texts({"", "PL1 = 100.00", "PT = 200.00", "PR1 = 400.00"}));
+  EXPECT_EQ(truss.window.nodeRow, 3);
+  EXPECT_EQ(truss.window.view.markedRow, 3);
+}
+
+TEST(EnterAndGoOn, ShowsTheLoadOfTheNextNode) {
+  OpenedTruss truss = Example("SCI");
+  EnterAll(truss, "75");
+  SelectNode(truss.window, truss.session, truss.platform, 1);
+  truss.window.nodeLoad = "10";
+  EnterNodeLoadAndGoOn(truss.window, truss.session, truss.platform);
+  EXPECT_EQ(truss.window.nodeLoad, "75");
+}
+
+TEST(EnterAndGoOn, GoesNowhereWhereNoRowIsSelected) {
+  OpenedTruss truss = Example("FINK");
+  truss.window.nodeLoad = "10";
+  EnterNodeLoadAndGoOn(truss.window, truss.session, truss.platform);
+  EXPECT_EQ(truss.window.nodeRow, -1);
+}
+
 }  // namespace
 }  // namespace lignara
