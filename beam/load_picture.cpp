@@ -12,13 +12,13 @@ namespace {
 
 /// One unit of the sketch in units of the picture, whose lines are a few of those wide.
 constexpr double kUnit = 10;
-constexpr double kWidth = 1000, kHeight = 400, kTextHeight = 15;
+constexpr double kWidth = 1000, kHeight = 500, kTextHeight = 15;
 constexpr double kLeft = 110, kRight = 890;  // the ends of the beam
 constexpr double kBeam = kHeight / 2;        // its axis
 constexpr double kHalfDepth = 3;
 constexpr double kTop = kBeam - kHalfDepth;  // where loads from above end
 constexpr double kBottom = kBeam + kHalfDepth;
-constexpr double kDimensionTop = 282, kDimensionPitch = 27;
+constexpr double kDimensionTop = 392, kDimensionPitch = 26;
 constexpr int kDimensionRows = 3;  // above that of the span
 
 /// A rectangle that a label takes.
@@ -124,7 +124,7 @@ bool LoadSketch::PlaceLabel(const Room& wanted, double step, Room& found) {
   constexpr int kTries = 6;
   found = wanted;
   for (int i = 0; i < kTries; ++i, found.y += step) {
-    const bool inside = found.y >= 0 && found.y + found.height <= kHeight;
+    const bool inside = found.y >= 0 && found.y + found.height <= kDimensionTop;
     const bool taken = std::any_of(labels_.begin(), labels_.end(),
                                    [&](const Room& room) { return room.Overlaps(found); });
     if (inside && !taken) return true;

@@ -12,7 +12,7 @@ namespace {
 
 using enum SupportType;
 
-constexpr double kLeft = 1100, kRight = 8900, kAxis = 2000;  // the beam's ends, as drawn
+constexpr double kLeft = 1100, kRight = 8900, kAxis = 2500;  // the beam's ends, as drawn
 
 class LoadPicture : public testing::Test {
  protected:
