@@ -37,6 +37,7 @@ class BoundedArray {
 };
 
 using Float32Array = BoundedArray<float>;
+using Float64Array = BoundedArray<double>;
 using Int16Array = BoundedArray<std::int16_t>;
 
 }  // namespace lignara

@@ -154,6 +154,18 @@ std::string Format(Decimal d, std::string_view pattern) {
 constexpr int kDigits32 = 7;
 constexpr int kDigits64 = 15;
 
+std::string PlainDecimal(Decimal d, int significant) {
+  if (IsZero(d)) return "0";
+  while (d.digits.back() == '0') d.digits.pop_back();
+  const bool fixed = d.point > -4 && d.point <= significant;
+  const int decimals =
+      fixed ? static_cast<int>(d.digits.size()) - d.point : static_cast<int>(d.digits.size()) - 1;
+  std::string pattern = "0";
+  if (decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(decimals), '0');
+  if (!fixed) pattern += "E+00";
+  return Format(d, pattern);
+}
+
 }  // namespace
 
 std::string FormatNumber(double number, std::string_view pattern) {
@@ -176,16 +188,11 @@ std::string FormatNumber(const Float64& number, std::string_view pattern) {
 }
 
 std::string PlainNumber(const Float32& number) {
-  Decimal d = ToDecimal(static_cast<double>(number.value()), kDigits32);
-  if (IsZero(d)) return "0";
-  while (d.digits.back() == '0') d.digits.pop_back();
-  const bool fixed = d.point > -4 && d.point <= kDigits32;
-  const int decimals =
-      fixed ? static_cast<int>(d.digits.size()) - d.point : static_cast<int>(d.digits.size()) - 1;
-  std::string pattern = "0";
-  if (decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(decimals), '0');
-  if (!fixed) pattern += "E+00";
-  return Format(d, pattern);
+  return PlainDecimal(ToDecimal(static_cast<double>(number.value()), kDigits32), kDigits32);
+}
+
+std::string PlainNumber(const Float64& number) {
+  return PlainDecimal(ToDecimal(number.value(), kDigits64), kDigits64);
 }
 
 }  // namespace lignara

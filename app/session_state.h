@@ -1,10 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "app/glulam_combination_table.h"
 #include "app/glulam_transfer.h"
 #include "app/member_selection.h"
+#include "app/multi_span_model.h"
 #include "app/stored_number.h"
 
 namespace lignara {
@@ -21,6 +23,8 @@ struct ProjectHeader {
   std::string Engineer;
   std::string Date;
 };
+
+struct MultiSpanSolution;
 
 /// The one record that outlives windows. All windows read and write it directly; nothing of it is
 /// stored between runs of the program.
@@ -51,6 +55,10 @@ struct SessionState {
   MemberSelection Member;
   GlulamTransfer Glulam;                      ///< as handed over last
   GlulamCombinationTable GlulamCombinations;  ///< as loaded last
+
+  MultiSpanModel MultiSpan;
+  /// The last run of the multi-span beam, as its results window shows it; none before the first.
+  std::shared_ptr<const MultiSpanSolution> MultiSpanRun;
 };
 
 }  // namespace lignara

@@ -103,6 +103,7 @@ constexpr WideRow kExponents[] = {
     {999400.0, "0.00E+00", "9.99E+05"},  {9.995, "0.00E+00", "1.00E+01"},
     {0.09996, "0.00E+00", "1.00E-01"},   {9.5e99, "0E+00", "1E+100"},
     {1e120, "0.00E+00", "1.00E+120"},    {5.0, "0E+0", "5E+0"},
+    {1600000.0, "0.00e+00", "1.60e+06"}, {0.00123, "0.0e+00", "1.2e-03"},
 };
 INSTANTIATE_TEST_SUITE_P(Exponents, WidePattern, testing::ValuesIn(kExponents));
 
@@ -244,6 +245,14 @@ constexpr PlainRow kPlain[] = {
     {-1.5e-9f, "-1.5E-09"},
 };
 INSTANTIATE_TEST_SUITE_P(Plain, PlainText, testing::ValuesIn(kPlain));
+
+TEST(PlainNumber, OfA64BitNumberHasUpTo15Digits) {
+  EXPECT_EQ(PlainNumber(Float64(0.0)), "0");
+  EXPECT_EQ(PlainNumber(Float64(100.1)), "100.1");
+  EXPECT_EQ(PlainNumber(Float64(-12345678.5)), "-12345678.5");
+  EXPECT_EQ(PlainNumber(Float64(1.0 / 3.0)), "0.333333333333333");
+  EXPECT_EQ(PlainNumber(Float64(1e15)), "1E+15");
+}
 
 TEST(PlainNumber, ReadsBackAsTheSameSevenDigits) {
   for (float number = 1e-6f; number < 1e9f; number *= 1.37f) {
