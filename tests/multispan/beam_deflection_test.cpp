@@ -29,12 +29,12 @@ MultiSpanSolution SolutionOf(const BeamCase& beam, int integrations = 8000) {
 /// w L^4 / E I in inches, of 100 lbs/ft on 10 ft.
 const double kUniform = 100.0 / 12 * std::pow(120.0, 4) / kStiffness;
 
-TEST(Deflection, OfASimpleBeam) {
+TEST(MultiSpanDeflection, OfASimpleBeam) {
   const MultiSpanSolution s = SolutionOf(BeamOf({10}, kPinned, kPinned, 100));
   EXPECT_NEAR(deflectionAt(s, 5), kUniform * 5 / 384, 1e-4 * kUniform * 5 / 384);
 }
 
-TEST(Deflection, OfASimpleBeamUnderAPointLoad) {
+TEST(MultiSpanDeflection, OfASimpleBeamUnderAPointLoad) {
   BeamCase beam = BeamOf({10}, kPinned, kPinned);
   beam.Span(1).points = {{1000, 4}};
   // P b x (L^2 - b^2 - x^2) / 6 L E I left of the load.
@@ -42,12 +42,12 @@ TEST(Deflection, OfASimpleBeamUnderAPointLoad) {
   EXPECT_NEAR(deflectionAt(SolutionOf(beam), 2.5), expected, 1e-3 * expected);
 }
 
-TEST(Deflection, OfABeamFixedAtBothEnds) {
+TEST(MultiSpanDeflection, OfABeamFixedAtBothEnds) {
   const MultiSpanSolution s = SolutionOf(BeamOf({10}, kFixed, kFixed, 100));
   EXPECT_NEAR(deflectionAt(s, 5), kUniform / 384, 1e-3 * kUniform / 384);
 }
 
-TEST(Deflection, AtTheTipOfAnOverhangFromAFixedEnd) {
+TEST(MultiSpanDeflection, AtTheTipOfAnOverhangFromAFixedEnd) {
   // Span 1 is so stiff that the overhang is a cantilever.
   BeamCase beam = BeamOf({10, 10}, kFixed, kNone);
   beam.Span(1).i = 1e9;
@@ -55,32 +55,32 @@ TEST(Deflection, AtTheTipOfAnOverhangFromAFixedEnd) {
   EXPECT_NEAR(deflectionAt(SolutionOf(beam), 20), kUniform / 8, 1e-3 * kUniform / 8);
 }
 
-TEST(Deflection, AtTheLeftTipIsThatOfTheMirroredBeam) {
+TEST(MultiSpanDeflection, AtTheLeftTipIsThatOfTheMirroredBeam) {
   const MultiSpanSolution right = SolutionOf(BeamOf({12, 8}, kPinned, kNone, 100));
   const MultiSpanSolution left = SolutionOf(BeamOf({8, 12}, kNone, kPinned, 100));
   EXPECT_NEAR(deflectionAt(left, 0.4), deflectionAt(right, 19.6), 2e-4);
 }
 
-TEST(Deflection, OfTwoEqualSpansHasItsPeakAtATwentyFourth) {
+TEST(MultiSpanDeflection, OfTwoEqualSpansHasItsPeakAtATwentyFourth) {
   // w L^4 / 185 E I at 0.4215 L of the outer end.
   const MultiSpanSolution s = SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100));
   EXPECT_NEAR(deflectionAt(s, 4.215), kUniform / 185, 3e-3 * kUniform / 185);
   EXPECT_NEAR(deflectionAt(s, 15.785), kUniform / 185, 3e-3 * kUniform / 185);
 }
 
-TEST(Deflection, AtASupportIsNone) {
+TEST(MultiSpanDeflection, AtASupportIsNone) {
   const MultiSpanSolution s = SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100));
   EXPECT_NEAR(deflectionAt(s, 10), 0, 1e-5);
 }
 
-TEST(Deflection, IsUpwardWhereTheNextSpanSags) {
+TEST(MultiSpanDeflection, IsUpwardWhereTheNextSpanSags) {
   BeamCase beam = BeamOf({10, 10}, kPinned, kPinned);
   beam.Span(1).uniform = 100;
   EXPECT_GT(deflectionAt(SolutionOf(beam), 5), 0);
   EXPECT_LT(deflectionAt(SolutionOf(beam), 15), 0);
 }
 
-TEST(Deflection, InMetricUnitsTakesHundredthsAndATenthOfTheModulus) {
+TEST(MultiSpanDeflection, InMetricUnitsTakesHundredthsAndATenthOfTheModulus) {
   const MultiSpanSolution s = SolutionOf(BeamOf({10}, kPinned, kPinned, 100));
   // C^3 goes from 12^3 to 100^3, E to a tenth.
   const double factor = 1e6 / 1728 * 10;
@@ -89,7 +89,7 @@ TEST(Deflection, InMetricUnitsTakesHundredthsAndATenthOfTheModulus) {
 
 // Four stations over two spans of 2 ft: a station on the joint counts in both spans. Moments of the
 // unit load at the middle of span 1 by the program's own curve; the sum by hand.
-TEST(Deflection, CountsAStationOnAJointTwice) {
+TEST(MultiSpanDeflection, CountsAStationOnAJointTwice) {
   BeamCase beam = BeamOf({2, 2}, kFixed, kFixed);
   beam.Span(1).points = {{1000, 1}};
   MultiSpanSolution s = SolutionOf(beam, 4);
@@ -100,14 +100,14 @@ TEST(Deflection, CountsAStationOnAJointTwice) {
   EXPECT_NEAR(deflectionAt(s, 1), sum * 144 / kStiffness * 12, 1e-9);
 }
 
-TEST(Deflection, IsZeroWithoutStations) {
+TEST(MultiSpanDeflection, IsZeroWithoutStations) {
   EXPECT_EQ(deflectionAt(SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100), 0), 5), 0);
   EXPECT_EQ(deflectionAt(SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100), -3), 5), 0);
 }
 
 // The deflected shape.
 
-TEST(DeflectedShape, HasFiftyStationsAlongTheBeam) {
+TEST(MultiSpanShape, HasFiftyStationsAlongTheBeam) {
   const MultiSpanSolution s = SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100));
   const DeflectedShape shape = FindDeflectedShape(s);
   EXPECT_EQ(shape.deflection.upper(), 50);
@@ -118,7 +118,7 @@ TEST(DeflectedShape, HasFiftyStationsAlongTheBeam) {
   EXPECT_FLOAT_EQ(shape.deflection[10].value(), static_cast<float>(deflectionAt(s, 4)));
 }
 
-TEST(DeflectedShape, LargestKeepsItsSignAndItsFirstPlace) {
+TEST(MultiSpanShape, LargestKeepsItsSignAndItsFirstPlace) {
   BeamCase beam = BeamOf({10, 10}, kPinned, kPinned);
   beam.Span(1).uniform = -100;
   const DeflectedShape shape = FindDeflectedShape(SolutionOf(beam));
@@ -127,7 +127,7 @@ TEST(DeflectedShape, LargestKeepsItsSignAndItsFirstPlace) {
   EXPECT_EQ(shape.largest.value(), shape.deflection[shape.largestStation].value());
 }
 
-TEST(DeflectedShape, RotationIsTheSlopeFromTheStationBefore) {
+TEST(MultiSpanShape, RotationIsTheSlopeFromTheStationBefore) {
   const DeflectedShape shape =
       FindDeflectedShape(SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100)));
   const double step = 20.0 * 12 / 50;
