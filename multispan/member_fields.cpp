@@ -1,0 +1,125 @@
+#include "app/fault.h"
+#include "app/number_text.h"
+#include "app/window_names.h"
+#include "multispan/beam_sketch.h"
+#include "multispan/multi_span_window.h"
+
+namespace lignara {
+namespace {
+
+constexpr int kGlulamSource = 2;
+
+void ShowAreas(MultiSpanWindow& window) {
+  const Number b = ReadNumber(window.Field(SpanField::B));
+  const Number d = ReadNumber(window.Field(SpanField::D));
+  Float32 area;
+  Float32 shearArea;
+  area = b * d;
+  shearArea = 2 * b * d / 3;
+  window.Field(SpanField::Area) = FormatNumber(area, kTwoDecimals);
+  window.Field(SpanField::ShearArea) = FormatNumber(shearArea, kTwoDecimals);
+}
+
+/// Fills "bf(in)" or "d(in)": another text counts as a change.
+void FillSize(MultiSpanWindow& window, SpanField field, const Float32& size) {
+  const std::string text = FormatNumber(size, kTwoDecimals);
+  if (window.Field(field) == text) return;
+  window.Field(field) = text;
+  ShowAreas(window);
+}
+
+void FillGlulamModulus(MultiSpanWindow& window, const SessionState& session) {
+  const GlulamValue about = window.weakAxis ? GlulamValue::Ey : GlulamValue::Ex;
+  window.Field(SpanField::Modulus) = FormatNumber(session.Glulam.Value(about), "0.0E+00");
+}
+
+void FillModulus(MultiSpanWindow& window, const SessionState& session) {
+  const int source = session.Member.MemberSource.value();
+  if (source == 0 || source == 1) {
+    window.Field(SpanField::Modulus) = FormatNumber(session.Member.ModulusE, "0.00e+00");
+  } else if (source == kGlulamSource) {
+    FillGlulamModulus(window, session);
+  }
+}
+
+void FillSection(MultiSpanWindow& window, const MemberSelection& member) {
+  window.Field(SpanField::Inertia) =
+      FormatNumber(window.weakAxis ? member.SectionIy : member.SectionIx, kTwoDecimals);
+  window.Field(SpanField::SectionModulus) =
+      FormatNumber(window.weakAxis ? member.SectionSy : member.SectionSx, kTwoDecimals);
+}
+
+void FillMember(MultiSpanWindow& window, const SessionState& session) {
+  const MemberSelection& member = session.Member;
+  FillModulus(window, session);
+  FillSection(window, member);
+  window.Field(SpanField::Area) = FormatNumber(member.SectionArea, kTwoDecimals);
+  FillSize(window, SpanField::B, member.DressedB);
+  FillSize(window, SpanField::D, member.DressedD);
+  window.Field(SpanField::Fb) = FormatNumber(member.AllowFb, kTwoDecimals);
+  window.Field(SpanField::Fv) = FormatNumber(member.AllowFv, kTwoDecimals);
+  window.type = member.MemberSource.value() == kGlulamSource ? "GLU-LAM" : "NA";
+  window.member = member.WoodTypeText + ", " + member.SizeName;
+}
+
+/// The data bases work for beams, whatever the last window worked for, and the unbraced length of
+/// the span goes along.
+void PrepareDataBase(const MultiSpanWindow& window, SessionState& session) {
+  session.DesignMode = "BEAM";
+  const Number unbraced = ReadNumber(window.Field(SpanField::Unbraced));
+  if (unbraced > 0) session.Member.UnbracedLength = unbraced;
+}
+
+}  // namespace
+
+void OpenMultiSpan(MultiSpanWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  session.MultiSpan = MultiSpanModel();
+  session.MultiSpan.spanCount = session.SpanCount;
+  window = MultiSpanWindow();
+  window.spanCount = std::to_string(session.SpanCount.value());
+  ShowPointLoad(window, session);
+  window.fields.fill("0.00");
+  window.pointX = "0.00";
+  window.pointLoad = "0";
+  FillMember(window, session);
+  window.picture = DrawBeamSketch(session.MultiSpan, window.currentSpan.value());
+  RefreshSpanNote(window, session);
+}
+
+void ActivateMultiSpan(MultiSpanWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  FillMember(window, session);
+  RefreshSpanNote(window, session);
+}
+
+void ChooseSpanAxis(MultiSpanWindow& window, SessionState& session, Platform& platform, bool weak) {
+  FaultScope faults(platform);
+  window.weakAxis = weak;
+  if (session.Member.MemberSource.value() == kGlulamSource) FillGlulamModulus(window, session);
+  FillSection(window, session.Member);
+  RefreshSpanNote(window, session);
+}
+
+void EditSpanField(MultiSpanWindow& window, SessionState& session, Platform& platform,
+                   SpanField field) {
+  FaultScope faults(platform);
+  if (field == SpanField::B || field == SpanField::D) ShowAreas(window);
+  RefreshSpanNote(window, session);
+}
+
+void OpenSpanMemberDataBase(const MultiSpanWindow& window, SessionState& session,
+                            Platform& platform) {
+  FaultScope faults(platform);
+  PrepareDataBase(window, session);
+  platform.OpenWindow(window_name::kMemberSize);
+}
+
+void OpenSpanGlulamDataBase(const MultiSpanWindow& window, SessionState& session,
+                            Platform& platform) {
+  FaultScope faults(platform);
+  PrepareDataBase(window, session);
+  platform.OpenWindow(window_name::kGlulam);
+}
+
+}  // namespace lignara

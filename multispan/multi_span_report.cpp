@@ -1,0 +1,122 @@
+#include <algorithm>
+#include <iterator>
+
+#include "app/number_text.h"
+#include "app/report_file.h"
+#include "multispan/beam_sketch.h"
+#include "multispan/diagrams.h"
+#include "multispan/results_window.h"
+
+namespace lignara {
+namespace {
+
+/// A line of a span's input data: a label, the value, its unit.
+struct InputLine {
+  const char* label;
+  Float32Array MultiSpanModel::*value;
+  const char* unit;
+};
+
+constexpr InputLine kInputLines[] = {
+    {"Length = ", &MultiSpanModel::spanLength, " ft"},
+    {"Unbraced Length = ", &MultiSpanModel::spanUnbraced, " ft"},
+    {"Moment of Inertia = ", &MultiSpanModel::spanI, " in^4"},
+    {"Section Modulus = ", &MultiSpanModel::spanSectionModulus, " in^3"},
+    {"Young's Modulus = ", &MultiSpanModel::spanE, " psi"},
+    {"Gross Area = ", &MultiSpanModel::spanArea, " in^2"},
+    {"Shear Area = ", &MultiSpanModel::spanShearArea, " in^2"},
+    {"Member depth = ", &MultiSpanModel::spanD, " in"},
+    {"Member width = ", &MultiSpanModel::spanB, " in"},
+};
+
+std::string Value(const Float32& number) { return FormatNumber(number, kTwoDecimals); }
+
+void WriteSpan(Report& report, const MultiSpanModel& model, int j) {
+  const auto span = static_cast<std::size_t>(j);
+  report.Line("MEMBER(" + std::to_string(j) + ") = " + model.spanMember[span]);
+  report.Line(model.spanType[span]);
+  for (const InputLine& line : kInputLines) {
+    report.Line(line.label + Value((model.*line.value)[j]) + line.unit);
+  }
+  report.Line("Uniform Load = " + FormatNumber(model.spanUniform[j], kTwoDecimals) + " lbs/ft");
+  for (int k = 1; k <= model.pointCount[j].value(); ++k) {
+    report.Line("Point Load = " + Value(model.pointLoad[span][k]) + " lbs at " +
+                Value(model.pointX[span][k]) + " ft from left end.");
+  }
+}
+
+/// The diagrams of a run, each on a page of its own.
+struct DiagramPage {
+  const char* heading;
+  const char* label;  ///< of the peak value; none for the beam itself
+  std::string value;
+  Drawing drawing;
+};
+
+std::vector<DiagramPage> DiagramPages(const MultiSpanResults& window, const SessionState& session,
+                                      Platform& platform) {
+  const BusyPointer busy(platform);
+  const MultiSpanSolution& run = *window.run;
+  const float shear = run.spanMaxShear.empty()
+                          ? 0
+                          : *std::max_element(run.spanMaxShear.begin(), run.spanMaxShear.end());
+  const DeflectedShape shape = FindDeflectedShape(run, session.unitSystem.value());
+  return {{"SHEAR DIAGRAM", "Max. Shear = ", FormatNumber(shear, kTwoDecimals),
+           DrawShearDiagram(run, std::nullopt)},
+          {"MOMENT DIAGRAM", "Max. MOMENT = ", FormatNumber(run.maximum.moment, kTwoDecimals),
+           DrawMomentDiagram(run, std::nullopt)},
+          {"DEFLECTED SHAPE", "Max. Def. = ", FormatNumber(shape.largest, "0.0000"),
+           DrawShapeDiagram(run, shape, std::nullopt)},
+          {"BEAM SYSTEM", nullptr, "", DrawBeamSketch(session.MultiSpan, 0)}};
+}
+
+void AddPages(Report& report, const std::vector<DiagramPage>& pages) {
+  bool first = report.items().empty();
+  for (const DiagramPage& page : pages) {
+    if (!first) report.StartPage();
+    first = false;
+    report.Line(page.heading);
+    if (page.label != nullptr) report.Line(page.label + page.value);
+    report.Draw(page.drawing);
+  }
+}
+
+}  // namespace
+
+Report MultiSpanReport(const MultiSpanResults& window, const SessionState& session) {
+  const MultiSpanModel& model = session.MultiSpan;
+  Report report = NewReport(session);
+  WriteHeader(report, session.Header);
+  report.Line("RESULTS");
+  for (const std::string& row : window.stressRows) report.Line(row);
+  report.Line("INPUT DATA");
+  report.Line();
+  for (int j = 1; j <= model.spanCount.value() && HasMultiSpan(j); ++j) {
+    WriteSpan(report, model, j);
+  }
+  return report;
+}
+
+void PrintMultiSpanReport(const MultiSpanResults& window, const SessionState& session,
+                          Platform& platform) {
+  if (window.run == nullptr) return;
+  Report report = MultiSpanReport(window, session);
+  AddPages(report, DiagramPages(window, session, platform));
+  platform.PrintReport(report);
+}
+
+void PrintMultiSpanDiagrams(const MultiSpanResults& window, const SessionState& session,
+                            Platform& platform) {
+  if (window.run == nullptr) return;
+  Report report = NewReport(session);
+  AddPages(report, DiagramPages(window, session, platform));
+  platform.PrintReport(report);
+}
+
+void SaveMultiSpanReport(const MultiSpanResults& window, const SessionState& session,
+                         Platform& platform) {
+  std::optional<ReportFile> file = CreateReportFile(platform);
+  if (file) WriteReportFile(*file, MultiSpanReport(window, session), platform);
+}
+
+}  // namespace lignara

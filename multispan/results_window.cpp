@@ -1,0 +1,64 @@
+#include "multispan/results_window.h"
+
+#include "app/number_text.h"
+#include "multispan/diagrams.h"
+
+namespace lignara {
+namespace {
+
+constexpr const char* kTableNumber = "##0.##";
+constexpr const char* kReadOut = "#.##";
+
+constexpr ResultCaptions kEnglish = {"Units are lbs and ft-lbs", "Location(ft)", "Def.(in)",
+                                     "Max(in) ="};
+constexpr ResultCaptions kMetric = {"Units are N and N-m", "Location(m)", "Def.(cm)", "Max(cm)"};
+
+void FillTables(MultiSpanResults& window) {
+  const MultiSpanSolution& run = *window.run;
+  for (int j = 1; j <= run.beam.count; ++j) {
+    window.endMoments.push_back(
+        {std::to_string(j),
+         FormatNumber(run.moments.finalMoment(j, kLeftEnd).value(), kTableNumber),
+         FormatNumber(run.moments.finalMoment(j, kRightEnd).value(), kTableNumber)});
+  }
+  for (int s = 1; s <= run.beam.count + 1; ++s) {
+    window.reactions.push_back(
+        {std::to_string(s), FormatNumber(run.moments.reaction[s].value(), kTableNumber)});
+  }
+}
+
+void DrawDiagrams(MultiSpanResults& window, std::optional<double> cursor) {
+  window.shearPicture = DrawShearDiagram(*window.run, cursor);
+  window.momentPicture = DrawMomentDiagram(*window.run, cursor);
+}
+
+}  // namespace
+
+const ResultCaptions& ResultCaptionsOf(int unitSystem) {
+  return unitSystem == 1 ? kMetric : kEnglish;
+}
+
+void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session) {
+  window = MultiSpanResults();
+  window.run = session.MultiSpanRun;
+  ShowUnbracedLength(window, session);
+  if (window.run == nullptr) return;
+  FillTables(window);
+  window.maxMoment = FormatNumber(window.run->maximum.moment, kTableNumber);
+  window.maxMomentPlace = "at " + FormatNumber(window.run->maximum.location, kTableNumber) + " ft";
+  DrawDiagrams(window, std::nullopt);
+}
+
+bool IsOutOfDate(const MultiSpanResults& window, const SessionState& session) {
+  return window.run != session.MultiSpanRun;
+}
+
+void ReadDiagrams(MultiSpanResults& window, double x) {
+  if (window.run == nullptr) return;
+  window.location = FormatNumber(x, kReadOut);
+  window.shear = FormatNumber(window.run->shear.ShearAt(x), kReadOut);
+  window.moment = FormatNumber(window.run->curve.MomentAt(x), kReadOut);
+  DrawDiagrams(window, x);
+}
+
+}  // namespace lignara
