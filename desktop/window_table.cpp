@@ -22,6 +22,9 @@ constexpr std::array kWindows = {
     WindowKind{window_name::kBolts, false, MakeBoltWindow},
     WindowKind{window_name::kPlywood, false, MakePlyWindow},
     WindowKind{window_name::kGlulam, false, MakeGlulamWindow},
+    WindowKind{window_name::kMultiSpan, false, MakeMultiSpanWindow},
+    WindowKind{window_name::kMultiSpanResults, false, MakeMultiSpanResultsWindow},
+    WindowKind{window_name::kIntegrations, false, MakeIntegrationsWindow},
 };
 
 }  // namespace

@@ -18,5 +18,8 @@ ToolWindow* MakeFastenerWindow(WindowContext context);
 ToolWindow* MakeBoltWindow(WindowContext context);
 ToolWindow* MakePlyWindow(WindowContext context);
 ToolWindow* MakeGlulamWindow(WindowContext context);
+ToolWindow* MakeMultiSpanWindow(WindowContext context);
+ToolWindow* MakeMultiSpanResultsWindow(WindowContext context);
+ToolWindow* MakeIntegrationsWindow(WindowContext context);
 
 }  // namespace lignara

@@ -1,5 +1,7 @@
 #include "multispan/results_window.h"
 
+#include <algorithm>
+
 #include "app/number_text.h"
 #include "multispan/diagrams.h"
 
@@ -27,9 +29,9 @@ void FillTables(MultiSpanResults& window) {
   }
 }
 
-void DrawDiagrams(MultiSpanResults& window, std::optional<double> cursor) {
-  window.shearPicture = DrawShearDiagram(*window.run, cursor);
-  window.momentPicture = DrawMomentDiagram(*window.run, cursor);
+void DrawDiagrams(MultiSpanResults& window) {
+  window.shearPicture = DrawShearDiagram(*window.run, window.cursor);
+  window.momentPicture = DrawMomentDiagram(*window.run, window.cursor);
 }
 
 }  // namespace
@@ -46,7 +48,7 @@ void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session)
   FillTables(window);
   window.maxMoment = FormatNumber(window.run->maximum.moment, kTableNumber);
   window.maxMomentPlace = "at " + FormatNumber(window.run->maximum.location, kTableNumber) + " ft";
-  DrawDiagrams(window, std::nullopt);
+  DrawDiagrams(window);
 }
 
 bool IsOutOfDate(const MultiSpanResults& window, const SessionState& session) {
@@ -55,10 +57,19 @@ bool IsOutOfDate(const MultiSpanResults& window, const SessionState& session) {
 
 void ReadDiagrams(MultiSpanResults& window, double x) {
   if (window.run == nullptr) return;
+  window.cursor = x;
   window.location = FormatNumber(x, kReadOut);
   window.shear = FormatNumber(window.run->shear.ShearAt(x), kReadOut);
   window.moment = FormatNumber(window.run->curve.MomentAt(x), kReadOut);
-  DrawDiagrams(window, x);
+  DrawDiagrams(window);
+}
+
+void MoveCursor(MultiSpanResults& window, int hundredths) {
+  if (window.run == nullptr) return;
+  const double length = window.run->curve.length;
+  const double start = hundredths > 0 ? 0 : length;
+  const double x = window.cursor ? *window.cursor + hundredths * length / 100 : start;
+  ReadDiagrams(window, std::clamp(x, 0.0, length));
 }
 
 }  // namespace lignara

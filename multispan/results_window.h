@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,9 +48,10 @@ struct MultiSpanResults {
 
   Drawing shearPicture;
   Drawing momentPicture;
-  std::string location;  ///< "Location"
-  std::string shear;     ///< "Shear"
-  std::string moment;    ///< "Moment"
+  std::optional<double> cursor;  ///< of both, ft; none before the first read-out
+  std::string location;          ///< "Location"
+  std::string shear;             ///< "Shear"
+  std::string moment;            ///< "Moment"
 
   UnbracedPanel unbraced;
   std::vector<std::string> stressRows;  ///< the list "Stress Check"
@@ -74,6 +76,9 @@ void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session)
 bool IsOutOfDate(const MultiSpanResults& window, const SessionState& session);
 /// The mouse comes to a place of a diagram: shear and moment there, and the cursor lines.
 void ReadDiagrams(MultiSpanResults& window, double x);
+/// Moves the cursor by hundredths of the beam, to its ends at most; the first move starts at an
+/// end.
+void MoveCursor(MultiSpanResults& window, int hundredths);
 
 // Unbraced lengths (unbraced_lengths.cpp).
 

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTableWidget>
 
 #include "desktop/kit/area_keys.h"
 #include "desktop/kit/field_mark.h"
@@ -150,6 +151,23 @@ void Binding::WhyEmpty(QListWidget* list, std::function<std::string()> reason) {
 
 void Binding::OutOfDate(QWidget* result, Condition outOfDate) {
   Follow([result, outOfDate] { SetOutOfDate(result, outOfDate()); });
+}
+
+void Binding::Table(QTableWidget* table, const std::vector<std::vector<std::string>>* rows) {
+  MakeCopyable(table);
+  Follow([table, rows, shown = std::vector<std::vector<std::string>>()]() mutable {
+    if (shown == *rows) return;
+    shown = *rows;
+    table->setRowCount(static_cast<int>(shown.size()));
+    for (int row = 0; row < table->rowCount(); ++row) {
+      const std::vector<std::string>& texts = shown[static_cast<std::size_t>(row)];
+      for (int column = 0; column < table->columnCount(); ++column) {
+        auto* item = new QTableWidgetItem(ToQt(texts[static_cast<std::size_t>(column)]));
+        item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        table->setItem(row, column, item);
+      }
+    }
+  });
 }
 
 void Binding::Press(QAbstractButton* button, Command command) {

@@ -14,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QScrollBar;
+class QTableWidget;
 class QWidget;
 
 namespace lignara {
@@ -61,6 +62,8 @@ class Binding {
   void WhyEmpty(QListWidget* list, std::function<std::string()> reason);
   /// Greys a result while it is older than what it was worked out from.
   void OutOfDate(QWidget* result, Condition outOfDate);
+  /// A table that is only read: a text a column in each row. It can be copied as text.
+  void Table(QTableWidget* table, const std::vector<std::vector<std::string>>* rows);
   void Press(QAbstractButton* button, Command command);
   /// What Return does in a field, instead of pressing the button of the area around it.
   void OnReturn(QLineEdit* field, Command command);

@@ -106,20 +106,19 @@ class Monkey {
 
   void UseMenu(ToolWindow* window) {
     std::vector<QAction*> items;
-    for (const QAction* menu : window->menuBar()->actions()) AddItems(menu->menu(), items);
+    for (QAction* top : window->menuBar()->actions()) AddItem(top, items);
     if (items.empty()) return;
     PrepareAnswer();
     items[static_cast<std::size_t>(Pick(items.size()))]->trigger();
   }
 
   /// The items of a menu and of the menus in it.
-  static void AddItems(const QMenu* menu, std::vector<QAction*>& items) {
-    for (QAction* item : menu->actions()) {
-      if (item->menu() != nullptr) {
-        AddItems(item->menu(), items);
-      } else if (item->isEnabled() && !item->isSeparator() && item->text() != "E&xit") {
-        items.push_back(item);
-      }
+  /// An item, which may stand in the menu bar itself, or all items of a menu.
+  static void AddItem(QAction* item, std::vector<QAction*>& items) {
+    if (item->menu() != nullptr) {
+      for (QAction* inner : item->menu()->actions()) AddItem(inner, items);
+    } else if (item->isEnabled() && !item->isSeparator() && item->text() != "E&xit") {
+      items.push_back(item);
     }
   }
 

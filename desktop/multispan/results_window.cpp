@@ -1,0 +1,252 @@
+#include "multispan/results_window.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "app/window_names.h"
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/form.h"
+#include "desktop/kit/header_panel.h"
+#include "desktop/kit/picture.h"
+#include "desktop/kit/save_picture.h"
+#include "desktop/kit/table.h"
+#include "desktop/windows.h"
+
+namespace lignara {
+namespace {
+
+/// The results of a run of the multi-span beam.
+class ResultsForm : public ToolWindow {
+ public:
+  explicit ResultsForm(WindowContext context)
+      : ToolWindow(window_name::kMultiSpanResults, context),
+        captions_(ResultCaptionsOf(session().unitSystem.value())) {
+    setWindowTitle("Moment Distribution Output");
+    ShowMultiSpanResults(record_, session());
+    AddMenus();
+    auto* area = new QWidget;
+    setCentralWidget(area);
+    auto* rows = new QVBoxLayout(area);
+    rows->setSpacing(8);
+    auto* upper = new QHBoxLayout;
+    upper->addLayout(Tables());
+    upper->addLayout(Diagrams(), 1);
+    rows->addLayout(upper, 3);
+    rows->addLayout(Panels(), 1);
+    resize(1100, 760);
+  }
+
+  /// A run that was made meanwhile takes the place of the one shown.
+  void Refresh() override {
+    if (IsOutOfDate(record_, session())) ShowMultiSpanResults(record_, session());
+    ToolWindow::Refresh();
+  }
+
+  /// The arrow keys move the cursor of the diagrams.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return ToolWindow::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Left && key != Qt::Key_Right) return false;
+    binding().Run([&] { MoveCursor(record_, key == Qt::Key_Right ? 1 : -1); });
+    return true;
+  }
+
+ private:
+  void AddMenus() {
+    QMenu* files = menuBar()->addMenu("&Files");
+    QAction* print = files->addAction("&Print Report");
+    print->setShortcut(QKeySequence::Print);
+    binding().Menu(print, [this] { PrintMultiSpanReport(record_, session(), platform()); });
+    binding().Menu(files->addAction("Print &Diagrams Only"),
+                   [this] { PrintMultiSpanDiagrams(record_, session(), platform()); });
+    binding().Menu(files->addAction("P&roject Description..."),
+                   [this] { OpenHeaderPanel(record_.header, session()); });
+    QAction* save = files->addAction("&Save Output to Text File");
+    save->setShortcut(QKeySequence::Save);
+    binding().Menu(save, [this] { SaveMultiSpanReport(record_, session(), platform()); });
+    QMenu* check = menuBar()->addMenu("&Check Stress");
+    binding().Menu(check->addAction("&Wood member..."),
+                   [this] { CheckWoodSpans(record_, session(), platform()); });
+    binding().Menu(check->addAction("&Glu-Lam Members..."),
+                   [this] { CheckGlulamSpans(record_, session(), platform()); });
+    binding().Menu(menuBar()->addAction("Show &Deflected Shape..."),
+                   [this] { ShowDeflectedShape(record_, session(), platform()); });
+    AddHelpMenu();
+  }
+
+  QPushButton* Button(const QString& caption, Binding::Command command) {
+    auto* button = new QPushButton(caption);
+    binding().Press(button, std::move(command));
+    return button;
+  }
+
+  QLayout* Tables() {
+    auto* rows = new QVBoxLayout;
+    rows->addWidget(
+        TablePanel("Span End Moments", {"SPAN", "LEFT MOM.", "RIGHT MOM."}, &record_.endMoments),
+        1);
+    rows->addWidget(TablePanel("Support Reactions", {"Supt.", "Reaction"}, &record_.reactions), 1);
+    rows->addWidget(UnbracedPanelBox());
+    return rows;
+  }
+
+  QGroupBox* TablePanel(const QString& caption, const QStringList& captions,
+                        const std::vector<TableRow>* rows) {
+    QGroupBox* panel = MakePanel(caption);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(6, 4, 6, 6);
+    QTableWidget* table = MakeTable(caption, captions);
+    table->setMinimumSize(260, 90);
+    table->setMaximumWidth(340);
+    binding().Table(table, rows);
+    column->addWidget(table);
+    return panel;
+  }
+
+  QGroupBox* UnbracedPanelBox() {
+    QGroupBox* panel = MakePanel("Unbraced Lengths");
+    auto* rows = new QVBoxLayout(panel);
+    auto* top = new QHBoxLayout;
+    QPushButton* back = Arrow("<", [this] { ShowPreviousUnbraced(record_, session()); });
+    QPushButton* on = Arrow(">", [this] { ShowNextUnbraced(record_, session()); });
+    QGroupBox* span = MakePanel("Span");
+    auto* walk = new QHBoxLayout(span);
+    walk->setContentsMargins(6, 2, 6, 4);
+    QLineEdit* number = MakeField("Span", 40);
+    ShowOnly(number);
+    binding().Text(number, &record_.unbraced.span);
+    walk->addWidget(back);
+    walk->addWidget(number);
+    walk->addWidget(on);
+    top->addWidget(span);
+    rows->addLayout(top);
+    auto* row = new QHBoxLayout;
+    auto* grid = new QGridLayout;
+    binding().Field(PutField(grid, 0, 0, "Unbraced Length (ft)", 60), &record_.unbraced.length);
+    row->addLayout(grid);
+    QPushButton* enter =
+        Button("&Enter", [this] { EnterUnbracedLength(record_, session(), platform()); });
+    row->addWidget(enter);
+    rows->addLayout(row);
+    SetReturnButton(panel, enter);
+    return panel;
+  }
+
+  QPushButton* Arrow(const QString& caption, Binding::Command command) {
+    QPushButton* button = Button(caption, std::move(command));
+    button->setFixedWidth(40);
+    return button;
+  }
+
+  QLayout* Diagrams() {
+    auto* rows = new QVBoxLayout;
+    rows->addWidget(DiagramPanel("Shear Diag.", &record_.shearPicture), 1);
+    rows->addWidget(DiagramPanel("Moment Diag.", &record_.momentPicture), 1);
+    rows->addLayout(ReadOuts());
+    auto* notes = new QHBoxLayout;
+    notes->addWidget(new QLabel(captions_.units));
+    notes->addSpacing(24);
+    notes->addWidget(new QLabel("Move cursor over V or M diag. to get values."));
+    notes->addStretch();
+    rows->addLayout(notes);
+    return rows;
+  }
+
+  Picture* DiagramPicture(const char* name, const Drawing* drawing, int height) {
+    auto* picture = Named(name, new Picture);
+    picture->setMinimumSize(260, height);
+    binding().Show(picture, drawing);
+    LetUserSave(picture, platform());
+    return picture;
+  }
+
+  QGroupBox* DiagramPanel(const char* name, const Drawing* drawing) {
+    QGroupBox* panel = MakePanel(name);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(6, 4, 6, 6);
+    Picture* picture = DiagramPicture(name, drawing, 100);
+    picture->OnMove([this](double x, double) { binding().Run([&] { ReadDiagrams(record_, x); }); });
+    picture->setFocusPolicy(Qt::StrongFocus);
+    picture->installEventFilter(this);
+    column->addWidget(picture);
+    return panel;
+  }
+
+  QLayout* ReadOuts() {
+    auto* grid = new QGridLayout;
+    int column = 0;
+    for (const auto& [caption, text] :
+         {std::pair{"Location", &record_.location}, std::pair{"Shear", &record_.shear},
+          std::pair{"Moment", &record_.moment}, std::pair{"Max Moment", &record_.maxMoment}}) {
+      binding().Text(PutValue(grid, 0, column, caption, 60), text);
+      column += 2;
+    }
+    auto* place = Named("Max Moment Location", new QLabel);
+    binding().Text(place, &record_.maxMomentPlace);
+    grid->addWidget(place, 0, column);
+    return grid;
+  }
+
+  QLayout* Panels() {
+    auto* row = new QHBoxLayout;
+    row->addWidget(StressPanel(), 2);
+    row->addWidget(ShapePanelBox(), 2);
+    row->addWidget(MakeHeaderPanel(record_.header, binding(), session()), 1);
+    return row;
+  }
+
+  QGroupBox* StressPanel() {
+    QGroupBox* panel = MakePanel("Stress Check");
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(6, 4, 6, 6);
+    QListWidget* list = MakeList("Stress Check", 5);
+    binding().List(list, &record_.stressRows);
+    column->addWidget(list);
+    return panel;
+  }
+
+  QGroupBox* ShapePanelBox() {
+    QGroupBox* panel = MakePanel("Deflected Shape");
+    auto* rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(6, 4, 6, 6);
+    rows->addWidget(DiagramPicture("Deflected Shape", &record_.shape.picture, 60), 1);
+    auto* bar = Named("Station", new QScrollBar(Qt::Horizontal));
+    bar->setRange(0, DeflectedShape::kStations);
+    bar->setPageStep(5);
+    bar->setFocusPolicy(Qt::StrongFocus);
+    binding().Scroll(bar, &record_.shape.station,
+                     [this](int station) { MoveShapeStation(record_, station); });
+    rows->addWidget(bar);
+    auto* grid = new QGridLayout;
+    binding().Text(PutValue(grid, 0, 0, captions_.location, 64), &record_.shape.location);
+    binding().Text(PutValue(grid, 0, 2, captions_.deflection, 64), &record_.shape.deflection);
+    binding().Text(PutValue(grid, 1, 0, "Rotation(rad)", 64), &record_.shape.rotation);
+    binding().Text(PutValue(grid, 1, 2, captions_.largest, 64), &record_.shape.largest);
+    rows->addLayout(grid);
+    QPushButton* close = Button("Cl&ose", [this] { CloseDeflectedShape(record_); });
+    grid->addWidget(close, 1, 4);
+    binding().Shown(panel, &record_.shape.open);
+    SetEscapeButton(panel, close);
+    return panel;
+  }
+
+  MultiSpanResults record_;
+  const ResultCaptions& captions_;
+};
+
+}  // namespace
+
+ToolWindow* MakeMultiSpanResultsWindow(WindowContext context) { return new ResultsForm(context); }
+
+}  // namespace lignara

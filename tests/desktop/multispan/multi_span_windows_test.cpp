@@ -1,0 +1,215 @@
+// What a user has to see and reach in the windows of multi-span beams.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QTableWidget>
+#include <set>
+
+#include "desktop/kit/picture.h"
+#include "desktop/kit/text.h"
+#include "tests/desktop/open_desktop.h"
+
+namespace lignara {
+namespace {
+
+class MultiSpanWindowsTest : public testing::Test {
+ protected:
+  ToolWindow* OpenInput() {
+    desktop.Play({"window main", "enter \"Enter No. of Spans\" 2", "press \"Multi-Span Beam\"",
+                  "window MS"});
+    QApplication::processEvents();
+    return desktop.Window("MS");
+  }
+
+  ToolWindow* OpenResults() {
+    OpenInput();
+    desktop.Play({"enter \"Length(ft)\" 10", "enter \"Unif. ld(lb/ft)\" 120",
+                  "enter \"Mom. of Inertia(in^4)\" 100", "press \"Update Span\"",
+                  "press \"Span\" \">\"", "press \"Load Same \"", "press \"Run\"",
+                  "window MDOUTPUT"});
+    QApplication::processEvents();
+    return desktop.Window("MDOUTPUT");
+  }
+
+  ToolWindow* OpenAllPanels() {
+    ToolWindow* window = OpenResults();
+    desktop.Play({"menu \"Show Deflected Shape...\"", "menu \"Files\" \"Project Description...\""});
+    QApplication::processEvents();
+    return window;
+  }
+
+  QString Read(const char* line) {
+    desktop.Play({line});
+    return desktop.printed.back();
+  }
+
+  static QWidget* Control(ToolWindow* window, const char* name) {
+    for (QWidget* control : VisibleControls(window)) {
+      if (CaptionOf(control) == name) return control;
+    }
+    throw std::runtime_error(name);
+  }
+
+  QStringList Walk(const char* window, int stops) {
+    QStringList path;
+    for (int i = 0; i < stops; ++i) {
+      desktop.PressKey(window, Qt::Key_Tab);
+      path << desktop.FocusIn(window);
+    }
+    return path;
+  }
+
+  OpenDesktop desktop;
+};
+
+TEST_F(MultiSpanWindowsTest, EveryControlHasAName) {
+  for (ToolWindow* window : {OpenAllPanels(), desktop.Window("MS")}) {
+    for (const QWidget* control : VisibleControls(window)) {
+      EXPECT_FALSE(CaptionOf(control).isEmpty()) << control->metaObject()->className();
+    }
+  }
+}
+
+TEST_F(MultiSpanWindowsTest, SmallestWindowsFitASmallScreen) {
+  for (ToolWindow* window : {OpenAllPanels(), desktop.Window("MS")}) {
+    const QSize least = window->minimumSizeHint();
+    EXPECT_LE(least.width(), 1000) << FromQt(window->name());
+    EXPECT_LE(least.height(), 700) << FromQt(window->name());
+  }
+}
+
+TEST_F(MultiSpanWindowsTest, NoCaptionIsCutOffInTheSmallestWindow) {
+  for (ToolWindow* window : {OpenAllPanels(), desktop.Window("MS")}) {
+    window->resize(window->minimumSizeHint());
+    QApplication::processEvents();
+    ExpectNoCaptionCutOff(window);
+  }
+}
+
+TEST_F(MultiSpanWindowsTest, PicturesAndTablesTakeTheRoomOfALargerWindow) {
+  ToolWindow* window = OpenResults();
+  QWidget* shear = Control(window, "Shear Diag.");
+  const QSize before = shear->size();
+  const int table = window->findChild<QTableWidget*>()->height();
+  window->resize(window->size() + QSize(200, 200));
+  QApplication::processEvents();
+  EXPECT_EQ(shear->width(), before.width() + 200);
+  EXPECT_GT(shear->height(), before.height() + 40);
+  EXPECT_GT(window->findChild<QTableWidget*>()->height(), table + 40);
+}
+
+TEST_F(MultiSpanWindowsTest, MnemonicsAreDistinct) {
+  for (ToolWindow* window : {OpenAllPanels(), desktop.Window("MS")}) {
+    std::multiset<QString> keys;
+    const auto add = [&](const QString& text) {
+      const QKeySequence key = QKeySequence::mnemonic(text);
+      if (!key.isEmpty()) keys.insert(key.toString());
+    };
+    for (const QAction* menu : window->menuBar()->actions()) add(menu->text());
+    for (const auto* button : window->findChildren<QAbstractButton*>()) add(button->text());
+    for (const QString& key : keys) {
+      EXPECT_EQ(keys.count(key), 1u) << FromQt(window->name()) << " " << FromQt(key);
+    }
+  }
+}
+
+// By keyboard alone.
+
+TEST_F(MultiSpanWindowsTest, TabWalksTheSpanInTheOrderOfWork) {
+  OpenInput();
+  EXPECT_EQ(desktop.FocusIn("MS"), "Length(ft)");
+  EXPECT_EQ(Walk("MS", 5), QStringList({"Unbraced Length (ft)", "Unif. ld(lb/ft)", "bf(in)",
+                                        "d(in)", "Gross Area , in^2"}));
+  EXPECT_EQ(Walk("MS", 6),
+            QStringList({"Youngs Mod.(psi)", "Mom. of Inertia(in^4)", "Sect. Mod.(in^3)",
+                         "Shear Area(in^2)", "Base All. Bending Str. (psi)",
+                         "Base All. Shear Str. (psi)"}));
+}
+
+TEST_F(MultiSpanWindowsTest, ReturnStoresTheSpanOrTheLoad) {
+  OpenInput();
+  desktop.Play({"enter \"Length(ft)\" 10", "key \"Length(ft)\" Return"});
+  EXPECT_EQ(Read("read \"Span Note\""), "value \"\"");
+  desktop.Play({"enter \"X(ft)\" 4", "enter \"lbs\" 500", "key \"lbs\" Return"});
+  EXPECT_EQ(Read("read \"# of Point Loads\""), "value \"1\"");
+}
+
+TEST_F(MultiSpanWindowsTest, ArrowKeysMoveTheCursorOfTheDiagrams) {
+  ToolWindow* window = OpenResults();
+  Control(window, "Moment Diag.")->setFocus();
+  for (int i = 0; i < 4; ++i) desktop.PressKey("MDOUTPUT", Qt::Key_Right);
+  EXPECT_EQ(Read("read \"Location\""), "value \".6\"");  // from 0 by a hundredth of 20 ft
+  EXPECT_EQ(Read("read \"Shear\""), "value \"378.\"");   // 450 - 120 x 0.6
+  desktop.PressKey("MDOUTPUT", Qt::Key_Left);
+  EXPECT_EQ(Read("read \"Location\""), "value \".4\"");
+}
+
+TEST_F(MultiSpanWindowsTest, CursorEndsWithTheBeam) {
+  ToolWindow* window = OpenResults();
+  Control(window, "Shear Diag.")->setFocus();
+  for (int i = 0; i < 3; ++i) desktop.PressKey("MDOUTPUT", Qt::Key_Left);
+  EXPECT_EQ(Read("read \"Location\""), "value \"19.6\"");
+  for (int i = 0; i < 5; ++i) desktop.PressKey("MDOUTPUT", Qt::Key_Right);
+  EXPECT_EQ(Read("read \"Location\""), "value \"20.\"");
+}
+
+TEST_F(MultiSpanWindowsTest, EscapeClosesTheDeflectedShape) {
+  ToolWindow* window = OpenResults();
+  desktop.Play({"menu \"Show Deflected Shape...\""});
+  Control(window, "Station")->setFocus();
+  desktop.PressKey("MDOUTPUT", Qt::Key_Right);
+  EXPECT_EQ(Read("read \"Location(ft)\""), "value \"0.400\"");
+  desktop.PressKey("MDOUTPUT", Qt::Key_Escape);
+  EXPECT_EQ(Read("state \"Station\""), "state hidden enabled");
+}
+
+// By mouse.
+
+TEST_F(MultiSpanWindowsTest, MouseOverADiagramReadsIt) {
+  QWidget* picture = Control(OpenResults(), "Shear Diag.");
+  const QPointF middle(picture->width() / 2.0, 10);
+  QMouseEvent move(QEvent::MouseMove, middle, middle, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(picture, &move);
+  EXPECT_EQ(Read("read \"Location\""), "value \"10.\"");
+  EXPECT_EQ(Read("read \"Shear\""), "value \"750.\"");
+}
+
+// A new run.
+
+TEST_F(MultiSpanWindowsTest, RunFillsTheOpenWindowAnewWhereItStands) {
+  ToolWindow* window = OpenAllPanels();
+  desktop.Play({"menu \"Check Stress\" \"Wood member...\""});
+  window->move(5, 7);
+  const QPoint place = window->pos();
+  desktop.Play({"window MS", "press \"Far Right Support\" \"Fixed\"", "press \"Run\"",
+                "window MDOUTPUT", "state \"Station\""});
+  EXPECT_EQ(desktop.Window("MDOUTPUT"), window);
+  EXPECT_EQ(window->pos(), place);
+  EXPECT_EQ(desktop.printed.back(), "state hidden enabled");
+  EXPECT_EQ(Read("read \"Location\""), "value \"\"");
+}
+
+TEST_F(MultiSpanWindowsTest, ResultsStayWhenTheInputIsClosedOrOpenedAnew) {
+  OpenResults();
+  desktop.Play({"window MS", "menu \"Files\" \"Exit\"", "window main",
+                "enter \"Enter No. of Spans\" 3", "press \"Multi-Span Beam\"", "window MDOUTPUT",
+                "menu \"Show Deflected Shape...\"", "click \"Shear Diag.\" 10 0"});
+  EXPECT_EQ(Read("read \"Shear\""), "value \"750.\"");
+}
+
+TEST_F(MultiSpanWindowsTest, IntegrationsGoWithTheirWindow) {
+  OpenInput();
+  desktop.Play({"menu \"Options\" \"Integrations...\""});
+  EXPECT_TRUE(desktop.platform.OpenWindows().contains("INTGR"));
+  desktop.platform.CloseWindow("MS");
+  EXPECT_FALSE(desktop.platform.OpenWindows().contains("INTGR"));
+}
+
+}  // namespace
+}  // namespace lignara
