@@ -78,6 +78,12 @@ SpanPlaces PlaceSpans(const MultiSpanModel& model, int count) {
   return places;
 }
 
+/// Of many spans not all numbers have room: one in so many is shown, the last one always.
+int NumberStep(int count) {
+  const double number = TextWidth(std::to_string(count)) + kLetterWidth;
+  return static_cast<int>(std::ceil(number * count / (kWidth - 2 * kMargin)));
+}
+
 /// The largest loads of the beam, for the scale of the arrows.
 struct LargestLoads {
   double uniform = 0;
@@ -90,6 +96,7 @@ class BeamSketcher {
       : model_(model),
         count_(std::min<int>(model.spanCount.value(), kMultiSpanLimit)),
         current_(currentSpan),
+        numberStep_(NumberStep(count_)),
         at_(PlaceSpans(model, count_)),
         numbers_(drawing_),
         lengths_(drawing_),
@@ -182,7 +189,9 @@ class BeamSketcher {
     if (j == current_) Line(at_.Left(j), kBeamY + 3, at_.Right(j), kBeamY + 3, Colour::RoyalBlue);
     const double middle = (at_.Left(j) + at_.Right(j)) / 2;
     const Colour letters = j == current_ ? Colour::RoyalBlue : Colour::Black;
-    numbers_.Put(middle, kNumberY, std::to_string(j), letters);
+    if ((count_ - j) % numberStep_ == 0) {
+      numbers_.Put(middle, kNumberY, std::to_string(j), letters);
+    }
     if (!known) return;
     lengths_.Put(middle, kLengthY, PlainNumber(model_.spanLength[j]) + " ft", Colour::Gray,
                  at_.Width(j));
@@ -223,6 +232,7 @@ class BeamSketcher {
   const MultiSpanModel& model_;
   int count_;
   int current_;
+  int numberStep_;
   SpanPlaces at_;
   LargestLoads largest_;
   Drawing drawing_;

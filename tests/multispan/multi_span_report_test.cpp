@@ -54,7 +54,7 @@ constexpr const char* kInput =
     "Member depth = 9.25 in\nMember width = 1.50 in\nUniform Load = 120.00 lbs/ft\n"
     "Point Load = 500.00 lbs at 2.50 ft from left end.\n"
     "Point Load = -250.50 lbs at 7.00 ft from left end.\n"
-    "MEMBER(2) = Hem-Fir, 2X10\nNA\nLength = 20.00 ft\nUnbraced Length = 4.13 ft\n"
+    "MEMBER(2) = Hem-Fir, 2X10\n\nLength = 20.00 ft\nUnbraced Length = 4.13 ft\n"
     "Moment of Inertia = 100.00 in^4\nSection Modulus = 21.39 in^3\n"
     "Young's Modulus = 1600000.00 psi\nGross Area = 13.88 in^2\nShear Area = 9.25 in^2\n"
     "Member depth = 9.25 in\nMember width = 1.50 in\nUniform Load = 120.00 lbs/ft\n";
