@@ -65,16 +65,14 @@ class ResultsForm : public ToolWindow {
  private:
   void AddMenus() {
     QMenu* files = menuBar()->addMenu("&Files");
-    QAction* print = files->addAction("&Print Report");
-    print->setShortcut(QKeySequence::Print);
-    binding().Menu(print, [this] { PrintMultiSpanReport(record_, session(), platform()); });
+    binding().Menu(files->addAction("&Print Report"),
+                   [this] { PrintMultiSpanReport(record_, session(), platform()); });
     binding().Menu(files->addAction("Print &Diagrams Only"),
                    [this] { PrintMultiSpanDiagrams(record_, session(), platform()); });
     binding().Menu(files->addAction("P&roject Description..."),
                    [this] { OpenHeaderPanel(record_.header, session()); });
-    QAction* save = files->addAction("&Save Output to Text File");
-    save->setShortcut(QKeySequence::Save);
-    binding().Menu(save, [this] { SaveMultiSpanReport(record_, session(), platform()); });
+    binding().Menu(files->addAction("&Save Output to Text File"),
+                   [this] { SaveMultiSpanReport(record_, session(), platform()); });
     QMenu* check = menuBar()->addMenu("&Check Stress");
     binding().Menu(check->addAction("&Wood member..."),
                    [this] { CheckWoodSpans(record_, session(), platform()); });
