@@ -136,7 +136,7 @@ const std::vector<ScriptPlayer::Action>& ScriptPlayer::Actions() {
   static const std::vector<Action> actions = {
       {"window", 1, 1, &ScriptPlayer::Window},
       {"press", 1, kMany, &ScriptPlayer::Press},
-      {"menu", 2, kMany, &ScriptPlayer::Menu},
+      {"menu", 1, kMany, &ScriptPlayer::Menu},
       {"enter", 2, kMany, &ScriptPlayer::Enter},
       {"key", 2, kMany, &ScriptPlayer::Key},
       {"select", 2, kMany, &ScriptPlayer::Select},
@@ -216,7 +216,7 @@ void ScriptPlayer::Press(const Words& words) {
 
 void ScriptPlayer::Menu(const Words& words) {
   QAction* item = FindMenuItem(Current(), PathOf(words, words.size()));
-  if (item == nullptr) throw ScriptError{"there is no such menu item"};
+  if (item == nullptr || item->menu() != nullptr) throw ScriptError{"there is no such menu item"};
   if (!item->isEnabled()) throw ScriptError{"the menu item is disabled"};
   item->trigger();
 }

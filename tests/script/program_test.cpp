@@ -107,6 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"press \"PRATT1\"\nwindow TR_INPUT\npress \"Slope Calculator\" \"OK\"\n",
                 "-:3: no control is named \"Slope Calculator\" \"OK\"\n"},
         Refusal{"menu \"Files\" \"Open\"\n", "-:1: there is no such menu item\n"},
+        Refusal{"menu \"Files\"\n", "-:1: there is no such menu item\n"},
         Refusal{"menu \"Help\" \"About...\"\npress \"PRATT1\"\n",
                 "-:2: the window main waits for a modal one\n"},
         Refusal{"menu \"Help\" \"About...\"\nwindow ABOUT\nwindow main\n",
