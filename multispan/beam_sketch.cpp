@@ -8,21 +8,24 @@
 namespace lignara {
 namespace {
 
-constexpr double kWidth = 1000;
-constexpr double kHeight = 230;
-constexpr double kMargin = 40;
-constexpr double kBeamY = 140;
-constexpr double kTextHeight = 15;
+constexpr double kWidth = 5000;
+constexpr double kHeight = 1150;
+constexpr double kMargin = 200;
+constexpr double kBeamY = 700;
+constexpr double kTextHeight = 75;
 constexpr double kLetterWidth = 0.58 * kTextHeight;
+constexpr double kGap = 15;  // between shapes that shall not touch
 
-constexpr double kUniformTop = 34;   // of the largest uniform load, above the beam
-constexpr double kPointTop = 90;     // of the largest point load
+constexpr double kUniformTop = 170;  // of the largest uniform load, above the beam
+constexpr double kPointTop = 450;    // of the largest point load
 constexpr double kLeastPart = 0.45;  // of that, of the smallest load
-constexpr double kArrowSpacing = 24;
-constexpr double kArrowHead = 5;
-constexpr double kSupport = 14;  // height of a support
-constexpr double kNumberY = kBeamY + 32;
-constexpr double kLengthY = kNumberY + 20;
+constexpr double kArrowSpacing = 120;
+constexpr double kArrowHead = 25;
+constexpr double kSupport = 70;  // height of a support
+constexpr double kWallReach = 120;
+constexpr double kHatch = 40;
+constexpr double kNumberY = kBeamY + 160;
+constexpr double kLengthY = kNumberY + 100;
 
 double TextWidth(const std::string& text) {
   return static_cast<double>(text.size()) * kLetterWidth;
@@ -163,7 +166,7 @@ class BeamSketcher {
     for (double i = 0; i <= gaps; ++i) {
       Arrow(at_.Left(j) + at_.Width(j) * i / gaps, height, load > 0, Colour::Blue);
     }
-    uniformValues_.Put((at_.Left(j) + at_.Right(j)) / 2, kBeamY - height - kTextHeight - 4,
+    uniformValues_.Put((at_.Left(j) + at_.Right(j)) / 2, kBeamY - height - kTextHeight - kGap,
                        PlainNumber(model_.spanUniform[j]), Colour::Blue, at_.Width(j));
   }
 
@@ -178,7 +181,7 @@ class BeamSketcher {
       const Colour colour = taken ? Colour::Red : Colour::Gray;
       const double height = ArrowHeight(force, largest_.point, kPointTop);
       Arrow(x, height, force > 0, colour);
-      pointValues_.Put(x, kBeamY - height - kTextHeight - 4, PlainNumber(Load(j, k)), colour);
+      pointValues_.Put(x, kBeamY - height - kTextHeight - kGap, PlainNumber(Load(j, k)), colour);
     }
   }
 
@@ -186,7 +189,8 @@ class BeamSketcher {
     const bool known = LengthOf(model_, j) > 0;
     const Colour colour = !known ? Colour::Gray : j == current_ ? Colour::RoyalBlue : Colour::Black;
     Line(at_.Left(j), kBeamY, at_.Right(j), kBeamY, colour);
-    if (j == current_) Line(at_.Left(j), kBeamY + 3, at_.Right(j), kBeamY + 3, Colour::RoyalBlue);
+    if (j == current_)
+      Line(at_.Left(j), kBeamY + kGap, at_.Right(j), kBeamY + kGap, Colour::RoyalBlue);
     const double middle = (at_.Left(j) + at_.Right(j)) / 2;
     const Colour letters = j == current_ ? Colour::RoyalBlue : Colour::Black;
     if ((count_ - j) % numberStep_ == 0) {
@@ -199,28 +203,28 @@ class BeamSketcher {
 
   /// The ground under a support.
   void Ground(double x) {
-    Line(x - kSupport, kBeamY + kSupport + 3, x + kSupport, kBeamY + kSupport + 3, Colour::Black);
+    Line(x - kSupport, kBeamY + kSupport + kGap, x + kSupport, kBeamY + kSupport + kGap,
+         Colour::Black);
   }
 
   void DrawRoller(double x) {
     drawing_.shapes.emplace_back(
-        CircleShape{x, kBeamY + 3 + kSupport / 2, kSupport / 2, Colour::Black});
-    Line(x - kSupport / 2, kBeamY + kSupport + 3, x + kSupport / 2, kBeamY + kSupport + 3,
+        CircleShape{x, kBeamY + kGap + kSupport / 2, kSupport / 2, Colour::Black});
+    Line(x - kSupport / 2, kBeamY + kSupport + kGap, x + kSupport / 2, kBeamY + kSupport + kGap,
          Colour::Black);
   }
 
   void DrawPin(double x) {
-    Line(x, kBeamY + 3, x - kSupport / 1.5, kBeamY + kSupport + 3, Colour::Black);
-    Line(x, kBeamY + 3, x + kSupport / 1.5, kBeamY + kSupport + 3, Colour::Black);
+    Line(x, kBeamY + kGap, x - kSupport / 1.5, kBeamY + kSupport + kGap, Colour::Black);
+    Line(x, kBeamY + kGap, x + kSupport / 1.5, kBeamY + kSupport + kGap, Colour::Black);
     Ground(x);
   }
 
   /// A wall, hatched on its far side: `side` is -1 at the left end, 1 at the right one.
   void DrawWall(double x, int side) {
-    constexpr double kReach = 24;
-    Line(x, kBeamY - kReach, x, kBeamY + kReach, Colour::Black);
-    for (double y = -kReach; y < kReach; y += 8) {
-      Line(x, kBeamY + y, x + side * 8, kBeamY + y + 8, Colour::Black);
+    Line(x, kBeamY - kWallReach, x, kBeamY + kWallReach, Colour::Black);
+    for (double y = -kWallReach; y < kWallReach; y += kHatch) {
+      Line(x, kBeamY + y, x + side * kHatch, kBeamY + y + kHatch, Colour::Black);
     }
   }
 

@@ -13,6 +13,8 @@ QTableWidget* MakeTable(const QString& name, const QStringList& captions) {
   table->setHorizontalHeaderLabels(captions);
   table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   table->verticalHeader()->hide();
+  // Rows as close as those of a list, so that many spans are seen at once.
+  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table->setSelectionBehavior(QAbstractItemView::SelectRows);
   table->setTabKeyNavigation(false);

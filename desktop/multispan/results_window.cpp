@@ -210,6 +210,8 @@ class ResultsForm : public ToolWindow {
     column->setContentsMargins(6, 4, 6, 6);
     QListWidget* list = MakeList("Stress Check", 5);
     binding().List(list, &record_.stressRows);
+    binding().WhyEmpty(list,
+                       [] { return "The menu \"Check Stress\" lists the stresses of all spans."; });
     column->addWidget(list);
     return panel;
   }
