@@ -118,7 +118,7 @@ class BeamSketcher {
       DrawSpan(j);
     }
     DrawEnd(at_.Left(1), -1, model_.farLeftSupport);
-    for (int j = 1; j < count_; ++j) DrawRoller(at_.Right(j));
+    for (int j = 1; j < count_; ++j) DrawRoller(j);
     DrawEnd(at_.Right(count_), 1, model_.farRightSupport);
     return std::move(drawing_);
   }
@@ -207,11 +207,14 @@ class BeamSketcher {
          Colour::Black);
   }
 
-  void DrawRoller(double x) {
-    drawing_.shapes.emplace_back(
-        CircleShape{x, kBeamY + kGap + kSupport / 2, kSupport / 2, Colour::Black});
-    Line(x - kSupport / 2, kBeamY + kSupport + kGap, x + kSupport / 2, kBeamY + kSupport + kGap,
-         Colour::Black);
+  /// A roller under a joint, smaller where the spans beside it are short on the picture.
+  void DrawRoller(int joint) {
+    const double x = at_.Right(joint);
+    const double room = std::min(at_.Width(joint), at_.Width(joint + 1));
+    const double size = std::min(kSupport, room / 2);
+    const double ground = kBeamY + kGap + size;
+    drawing_.shapes.emplace_back(CircleShape{x, kBeamY + kGap + size / 2, size / 2, Colour::Black});
+    Line(x - size / 2, ground, x + size / 2, ground, Colour::Black);
   }
 
   void DrawPin(double x) {
