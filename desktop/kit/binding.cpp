@@ -218,6 +218,8 @@ void Binding::Show(Picture* picture, const Drawing* drawing) {
 }
 
 void Binding::Scroll(QScrollBar* bar, const int* value, RowCommand moved) {
+  // By itself a level bar that has the focus goes left at the right arrow key.
+  if (bar->orientation() == Qt::Horizontal) bar->setInvertedControls(false);
   Follow([bar, value] {
     const QSignalBlocker silent(bar);
     bar->setValue(*value);

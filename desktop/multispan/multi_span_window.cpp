@@ -182,9 +182,9 @@ class MultiSpanForm : public ToolWindow {
     row->addWidget(update);
     row->addWidget(Button("Load &Same ", [this] { LoadSameSpan(record_, session()); }));
     auto* note = Named("Span Note", new QLabel);
+    note->setWordWrap(true);
     binding().Text(note, &record_.note);
-    row->addWidget(note);
-    row->addStretch();
+    row->addWidget(note, 1);
     SetReturnButton(panel, update);
     return row;
   }

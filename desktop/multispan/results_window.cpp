@@ -190,7 +190,8 @@ class ResultsForm : public ToolWindow {
       binding().Text(PutValue(grid, 0, column, caption, 60), text);
       column += 2;
     }
-    auto* place = Named("Max Moment Location", new QLabel);
+    QLineEdit* place = MakeField("Max Moment Location", 70);
+    ShowOnly(place);
     binding().Text(place, &record_.maxMomentPlace);
     grid->addWidget(place, 0, column);
     return grid;
