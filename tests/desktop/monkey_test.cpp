@@ -112,7 +112,6 @@ class Monkey {
     items[static_cast<std::size_t>(Pick(items.size()))]->trigger();
   }
 
-  /// The items of a menu and of the menus in it.
   /// An item, which may stand in the menu bar itself, or all items of a menu.
   static void AddItem(QAction* item, std::vector<QAction*>& items) {
     if (item->menu() != nullptr) {
