@@ -1,5 +1,6 @@
 #include "multispan/beam_deflection.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "multispan/moment_distribution.h"
@@ -79,6 +80,11 @@ void FindRotations(DeflectedShape& shape, double step) {
 }
 
 }  // namespace
+
+int DeflectedShape::StationAt(double x) const {
+  const double station = std::nearbyint(x / length * kStations);
+  return static_cast<int>(std::clamp(station, 0.0, static_cast<double>(kStations)));
+}
 
 double deflectionAt(const MultiSpanSolution& solution, double x, int unitSystem) {
   Guarded<double> deflection;

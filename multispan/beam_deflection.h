@@ -25,6 +25,8 @@ struct DeflectedShape {
   int largestStation = 0;              ///< the first one of that magnitude
 
   double PlaceOf(int station) const { return length / kStations * station; }
+  /// The station nearest to a place along the beam.
+  int StationAt(double x) const;
 };
 
 /// One unit load after the other: as many solves as stations.

@@ -221,7 +221,11 @@ class ResultsForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Deflected Shape");
     auto* rows = new QVBoxLayout(panel);
     rows->setContentsMargins(6, 4, 6, 6);
-    rows->addWidget(DiagramPicture("Deflected Shape", &record_.shape.picture, 60), 1);
+    Picture* picture = DiagramPicture("Deflected Shape", &record_.shape.picture, 60);
+    picture->OnPress([this](double x, double) {
+      binding().Run([&] { MoveShapeStation(record_, record_.shape.shape.StationAt(x)); });
+    });
+    rows->addWidget(picture, 1);
     auto* bar = Named("Station", new QScrollBar(Qt::Horizontal));
     bar->setRange(0, DeflectedShape::kStations);
     bar->setPageStep(5);

@@ -118,6 +118,15 @@ TEST(MultiSpanShape, HasFiftyStationsAlongTheBeam) {
   EXPECT_FLOAT_EQ(shape.deflection[10].value(), static_cast<float>(deflectionAt(s, 4)));
 }
 
+TEST(MultiSpanShape, FindsTheStationNearestToAPlace) {
+  const DeflectedShape shape =
+      FindDeflectedShape(SolutionOf(BeamOf({10, 10}, kPinned, kPinned, 100)));
+  EXPECT_EQ(shape.StationAt(4.1), 10);
+  EXPECT_EQ(shape.StationAt(4.3), 11);
+  EXPECT_EQ(shape.StationAt(-3), 0);
+  EXPECT_EQ(shape.StationAt(99), 50);
+}
+
 TEST(MultiSpanShape, LargestKeepsItsSignAndItsFirstPlace) {
   BeamCase beam = BeamOf({10, 10}, kPinned, kPinned);
   beam.Span(1).uniform = -100;

@@ -181,6 +181,12 @@ TEST_F(MultiSpanWindowsTest, MouseOverADiagramReadsIt) {
   EXPECT_EQ(Read("read \"Shear\""), "value \"-150.\"");  // 450 - 120 x 5
 }
 
+TEST_F(MultiSpanWindowsTest, PressOnTheDeflectedShapeMovesItsStation) {
+  OpenResults();
+  desktop.Play({"menu \"Show Deflected Shape...\"", "click \"Deflected Shape\" 4.1 0"});
+  EXPECT_EQ(Read("read \"Location(ft)\""), "value \"4.000\"");
+}
+
 // A new run.
 
 TEST_F(MultiSpanWindowsTest, RunFillsTheOpenWindowAnewWhereItStands) {
