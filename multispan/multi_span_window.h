@@ -39,7 +39,7 @@ struct MultiSpanWindow {
   }
 };
 
-enum class BeamEnd { Left, Right };
+enum class FarEnd { Left, Right };
 
 // Life of the window and the current member (member_fields.cpp).
 
@@ -69,7 +69,7 @@ void ShowNextSpan(MultiSpanWindow& window, SessionState& session);
 /// "Load Same ": takes all but the point loads from the span before.
 void LoadSameSpan(MultiSpanWindow& window, SessionState& session);
 /// A click on a support of "Far Left Support" or "Far Right Support".
-void SetFarSupport(MultiSpanWindow& window, SessionState& session, BeamEnd end, EndSupport support);
+void SetFarSupport(MultiSpanWindow& window, SessionState& session, FarEnd end, EndSupport support);
 /// Brings the note beside "Update Span" up to date.
 void RefreshSpanNote(MultiSpanWindow& window, const SessionState& session);
 

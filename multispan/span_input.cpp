@@ -123,9 +123,8 @@ void LoadSameSpan(MultiSpanWindow& window, SessionState& session) {
   RefreshSpanNote(window, session);
 }
 
-void SetFarSupport(MultiSpanWindow& window, SessionState& session, BeamEnd end,
-                   EndSupport support) {
-  (end == BeamEnd::Left ? session.MultiSpan.farLeftSupport : session.MultiSpan.farRightSupport) =
+void SetFarSupport(MultiSpanWindow& window, SessionState& session, FarEnd end, EndSupport support) {
+  (end == FarEnd::Left ? session.MultiSpan.farLeftSupport : session.MultiSpan.farRightSupport) =
       support;
   Redraw(window, session);
 }

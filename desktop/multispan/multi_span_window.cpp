@@ -216,15 +216,15 @@ class MultiSpanForm : public ToolWindow {
 
   QLayout* Supports() {
     auto* row = new QHBoxLayout;
-    row->addWidget(SupportPanel("Far Left Support", BeamEnd::Left));
-    row->addWidget(SupportPanel("Far Right Support", BeamEnd::Right));
+    row->addWidget(SupportPanel("Far Left Support", FarEnd::Left));
+    row->addWidget(SupportPanel("Far Right Support", FarEnd::Right));
     return row;
   }
 
-  QGroupBox* SupportPanel(const char* caption, BeamEnd end) {
+  QGroupBox* SupportPanel(const char* caption, FarEnd end) {
     const auto chosen = [this, end] {
       const MultiSpanModel& model = session().MultiSpan;
-      const EndSupport now = end == BeamEnd::Left ? model.farLeftSupport : model.farRightSupport;
+      const EndSupport now = end == FarEnd::Left ? model.farLeftSupport : model.farRightSupport;
       return static_cast<int>(std::find(std::begin(kSupports), std::end(kSupports), now) -
                               std::begin(kSupports));
     };

@@ -87,12 +87,12 @@ TEST_F(BeamSketch, ShowsEachFarSupport) {
   Open(2);
   EnterSpan(10, 0);
   EnterSpan(10, 0);
-  Support(BeamEnd::Left, EndSupport::None);
-  Support(BeamEnd::Right, EndSupport::None);
+  Support(FarEnd::Left, EndSupport::None);
+  Support(FarEnd::Right, EndSupport::None);
   const auto bare = Picture().shapes.size();
-  Support(BeamEnd::Left, EndSupport::Pinned);
+  Support(FarEnd::Left, EndSupport::Pinned);
   EXPECT_EQ(Picture().shapes.size(), bare + 3);
-  Support(BeamEnd::Left, EndSupport::Fixed);
+  Support(FarEnd::Left, EndSupport::Fixed);
   EXPECT_GT(Picture().shapes.size(), bare + 3);
 }
 

@@ -42,7 +42,7 @@ class MultiSpanTest : public testing::Test {
     UpdatePointLoad(window, session, platform);
   }
   void Run() { RunMultiSpan(session, platform); }
-  void Support(BeamEnd end, EndSupport support) { SetFarSupport(window, session, end, support); }
+  void Support(FarEnd end, EndSupport support) { SetFarSupport(window, session, end, support); }
   /// A sawn member as the calculator hands it over.
   void ChooseWood() {
     MemberSelection& m = session.Member;

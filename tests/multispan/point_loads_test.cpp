@@ -60,8 +60,8 @@ TEST_F(PointLoads, OnAJointAreRefused) {
 TEST_F(PointLoads, OnAFarSupportAreRefused) {
   for (const EndSupport support : {EndSupport::Fixed, EndSupport::Pinned}) {
     OpenThree();
-    Support(BeamEnd::Left, support);
-    Support(BeamEnd::Right, support);
+    Support(FarEnd::Left, support);
+    Support(FarEnd::Right, support);
     EnterLoad("500", "0");
     EXPECT_EQ(Messages(), Texts{kOnLeftEnd});
     Next();
@@ -73,8 +73,8 @@ TEST_F(PointLoads, OnAFarSupportAreRefused) {
 
 TEST_F(PointLoads, AtTheTipOfAnOverhangAreStored) {
   OpenThree();
-  Support(BeamEnd::Left, EndSupport::None);
-  Support(BeamEnd::Right, EndSupport::None);
+  Support(FarEnd::Left, EndSupport::None);
+  Support(FarEnd::Right, EndSupport::None);
   EnterLoad("500", "0");
   Next();
   Next();

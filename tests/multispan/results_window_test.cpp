@@ -13,7 +13,7 @@ class ResultsWindow : public MultiSpanTest {
              EndSupport right = EndSupport::Pinned) {
     Open(static_cast<int>(lengths.size()));
     for (const double length : lengths) EnterSpan(length, uniform);
-    Support(BeamEnd::Right, right);
+    Support(FarEnd::Right, right);
     RunAndShow();
   }
   void RunAndShow() {

@@ -27,7 +27,7 @@ TEST_F(SpanInput, OpensAnEmptyModelWithEightThousandIntegrations) {
   Open(3);
   EnterSpan(10, 100);
   model().curveIntegrations = 5;
-  Support(BeamEnd::Left, EndSupport::Fixed);
+  Support(FarEnd::Left, EndSupport::Fixed);
   Open(2);
   EXPECT_EQ(model().spanCount.value(), 2);
   EXPECT_EQ(model().spanLength[1].value(), 0);
@@ -308,11 +308,11 @@ TEST_F(SpanInput, FarSupportsAreStoredAndDrawn) {
   Open(2);
   EnterSpan(10, 0);
   const Drawing before = window.picture;
-  Support(BeamEnd::Left, EndSupport::None);
+  Support(FarEnd::Left, EndSupport::None);
   EXPECT_EQ(model().farLeftSupport, EndSupport::None);
   EXPECT_EQ(model().farRightSupport, EndSupport::Pinned);
   EXPECT_NE(window.picture, before);
-  Support(BeamEnd::Right, EndSupport::Fixed);
+  Support(FarEnd::Right, EndSupport::Fixed);
   EXPECT_EQ(model().farRightSupport, EndSupport::Fixed);
 }
 
