@@ -4,13 +4,10 @@
 #include <variant>
 #include <vector>
 
+#include "app/colour.h"
+#include "app/scene.h"
+
 namespace lignara {
-
-/// The colours of pictures, by what a user would call them.
-enum class Colour { Black, Red, Blue, Gray, RoyalBlue, DarkOrange, Green };
-
-/// The colour's name as scripts print it, such as "red".
-const char* ColourName(Colour colour);
 
 struct LineShape {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
@@ -47,6 +44,8 @@ struct Drawing {
   /// A diagram, whose two directions have scales of their own: it fills the room that it is given.
   /// Its texts are moved inward where they would not fit, and stay legible at any size.
   bool stretched = false;
+  /// How a window and a page show it; without lines they show the shapes. Scripts print the shapes.
+  Scene scene;
 
   bool operator==(const Drawing&) const = default;
 };

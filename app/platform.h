@@ -50,6 +50,9 @@ class Platform {
   /// Shows the help document at the section of a window. A failure is not reported.
   virtual void ShowHelp(const std::string& path, const std::string& section) = 0;
   virtual void SetBusyPointer(bool busy) = 0;
+  /// A short word in the window at work of what was done, such as where a file went. It asks for
+  /// nothing, and goes by itself.
+  virtual void ShowNote(const std::string& /*text*/) {}
 };
 
 /// The hourglass for the length of one command.

@@ -29,7 +29,10 @@ void WriteReportFile(ReportFile& file, const Report& report, Platform& platform)
   errno = 0;
   file.stream << ReportText(report);
   file.stream.close();
-  if (file.stream) return;
+  if (file.stream) {
+    platform.ShowNote("Saved to " + file.path);
+    return;
+  }
   ShowSystemError(file.path, errno == 0 ? EIO : errno, platform);
   // Half a report could be taken for a whole one. What is no file of its own (a device) stays.
   std::error_code ignored;

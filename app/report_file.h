@@ -22,7 +22,8 @@ struct ReportFile {
 /// written: then the system's own words are shown in a plain box.
 std::optional<ReportFile> CreateReportFile(Platform& platform);
 
-/// Writes a whole report and closes the file; a failure is shown in the system's own words.
+/// Writes a whole report and closes the file; a failure is shown in the system's own words, and a
+/// note tells where the report went.
 void WriteReportFile(ReportFile& file, const Report& report, Platform& platform);
 
 }  // namespace lignara

@@ -2,6 +2,7 @@
 
 #include "app/fault.h"
 #include "truss/canvas_painter.h"
+#include "truss/canvas_scene.h"
 #include "truss/geometry_drawn.h"
 #include "truss/truss_types.h"
 
@@ -92,7 +93,9 @@ Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
     painter.DrawNodeName(TopNodePoint(shape, node), node.side, type.levelTop,
                          NodeLabel(node, shape.type));
   }
-  return painter.TakeDrawing();
+  Drawing drawing = painter.TakeDrawing();
+  drawing.scene = PageScene(window, session);
+  return drawing;
 }
 
 void EnlargeTruss(TrussWindow& window, const SessionState& session, Platform& platform) {

@@ -7,6 +7,10 @@ namespace lignara {
 /// Radius of the circle on each member, in canvas units.
 inline constexpr int kMarkRadius = 50;
 
+/// Tail and tip of the arrow at a node, above it, in canvas units.
+inline constexpr double kArrowTop = 500;
+inline constexpr double kArrowTip = 300;
+
 /// The view of a window that opens: zoom 1, scales, origin, no arrow.
 void ResetView(TrussView& view, const SessionState& session);
 

@@ -3,6 +3,7 @@
 #include "app/number_pattern.h"
 #include "truss/truss_types.h"
 #include "truss/truss_window.h"
+#include "truss/window_marks.h"
 
 namespace lignara {
 namespace {
@@ -37,6 +38,7 @@ void HitTruss(TrussWindow& window, const SessionState& session, double x, double
   if (const std::optional<Member> hit = MemberAt(window, session, x, y)) {
     window.heldLoad = AxialOf(window.model, hit->family)[hit->index];
     window.hitMember = MemberLabel(*hit);
+    window.axialRow = AxialRowOf(session, *hit);
   }
   const Float32 shown = Abs(window.heldLoad);
   window.hitLoad = FormatNumber(shown, kTwoDecimals);

@@ -12,8 +12,6 @@ namespace {
 constexpr double kAslant = 40;
 constexpr double kBeside = 60;
 
-constexpr double kArrowTop = 500;
-constexpr double kArrowTip = 300;
 constexpr double kHeadWidth = 60;
 constexpr double kHeadHeight = 90;
 
@@ -41,15 +39,20 @@ CanvasPainter::CanvasPainter(const TrussView& view) : view_(view) {
 }
 
 void CanvasPainter::DrawMembers(const TrussLayout& layout, const ColourOf& colourOf) {
+  const std::vector<CanvasLine> lines = Placed(layout);
+  NamePlacer names(lines);
+  drawing_.textHeight = names.height();
+  for (const CanvasLine& line : lines) DrawMember(line, colourOf(line.member), names);
+}
+
+std::vector<CanvasLine> CanvasPainter::Placed(const TrussLayout& layout) {
   std::vector<CanvasLine> lines;
   for (const MemberLine& line : layout) {
     const auto from = Place(line.from);
     const auto to = Place(line.to);
     if (from && to) lines.push_back({line.member, *from, *to});
   }
-  NamePlacer names(lines);
-  drawing_.textHeight = names.height();
-  for (const CanvasLine& line : lines) DrawMember(line, colourOf(line.member), names);
+  return lines;
 }
 
 void CanvasPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer& names) {

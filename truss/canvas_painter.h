@@ -26,6 +26,10 @@ class CanvasPainter {
 
   /// Of each member the line, the circle at its midpoint and the name beside it.
   void DrawMembers(const TrussLayout& layout, const ColourOf& colourOf);
+  /// The members that fit, in the order of the layout.
+  std::vector<CanvasLine> Placed(const TrussLayout& layout);
+  /// A point of the truss on the canvas; nothing where it does not fit.
+  std::optional<CanvasPoint> Place(const FootPoint& point);
   /// The arrow that points down at a node.
   void DrawArrow(const FootPoint& node);
   /// The name of a top node, as high as those of the members drawn before, away from the members
@@ -39,7 +43,6 @@ class CanvasPainter {
 
  private:
   void DrawMember(const CanvasLine& line, Colour colour, NamePlacer& names);
-  std::optional<CanvasPoint> Place(const FootPoint& point);
   std::optional<int> Whole(const Number& coordinate);
   void Text(double x, double y, const std::string& text);
 

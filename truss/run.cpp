@@ -1,6 +1,7 @@
 #include "truss/canvas.h"
 #include "truss/member_signs.h"
 #include "truss/results.h"
+#include "truss/run_inputs.h"
 #include "truss/stress_check.h"
 #include "truss/truss_types.h"
 
@@ -13,6 +14,8 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   TrussJob job{model, session, platform};
   model.ErrorFlag = 0;
   model.RunState = 1;
+  window.ranWith = InputsOf(model, session);
+  window.stresses.clear();
 
   AnalyseTruss(job);
   SHOW_REACTIONS(window);
@@ -21,7 +24,7 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   const DeflectionStep deflections = job.type.deflections;
   if (deflections != nullptr) deflections(job, window.deflectionRows);
   if (HasAreas(session.Member)) {
-    CheckStresses(job, window.stressRows);
+    window.stresses = CheckStresses(job, window.stressRows);
   } else {
     platform.ShowMessage({"NO STRESS WILL BE CALCULATED, NEED WOOD TYPE & SIZE"});
   }

@@ -33,14 +33,18 @@ std::string ActualLine(const TrussTypeInfo& type, const Member& member, const Fl
   return words.before + FormatNumber(stress, kTwoDecimals) + words.after;
 }
 
+/// The lesser of the group's tension and compression value, for any member.
+const Float32& AllowableOf(const ActiveModel& m) {
+  return m.MemberFt <= m.MemberFa ? m.MemberFt : m.MemberFa;
+}
+
 std::string AllowableLine(const ActiveModel& m) {
   const bool tension = m.MemberFt <= m.MemberFa;
-  return "Allowable axial stress = " +
-         FormatNumber(tension ? m.MemberFt : m.MemberFa, kTwoDecimals) +
+  return "Allowable axial stress = " + FormatNumber(AllowableOf(m), kTwoDecimals) +
          " psi with full lateral bracing" + (tension ? "." : "");
 }
 
-void CheckMember(TrussJob& job, const Member& member, std::vector<std::string>& rows) {
+MemberStress CheckMember(TrussJob& job, const Member& member, std::vector<std::string>& rows) {
   ActiveModel& m = job.model;
   const TrussMemberGroup& group = job.session.Member.Group(GroupOf(member.family));
   SetWorkingValues(m, group, LengthOf(m, member.family)[member.index]);
@@ -50,6 +54,7 @@ void CheckMember(TrussJob& job, const Member& member, std::vector<std::string>& 
   rows.push_back(AllowableLine(m));
   rows.push_back("Assumes min. lateral bracing of " +
                  FormatNumber(m.MinBracingLength, kTwoDecimals) + " ft");
+  return {member, actual, AllowableOf(m)};
 }
 
 }  // namespace
@@ -67,11 +72,13 @@ bool HasAreas(const MemberSelection& selection) {
                       [](const TrussMemberGroup& group) { return group.GroupArea == 0; });
 }
 
-void CheckStresses(TrussJob& job, std::vector<std::string>& rows) {
+std::vector<MemberStress> CheckStresses(TrussJob& job, std::vector<std::string>& rows) {
   rows = RowsBelowBlank();
+  std::vector<MemberStress> stresses;
   for (const Member& member : MembersOf(job.type.checkedMembers, job.HalfSpans())) {
-    CheckMember(job, member, rows);
+    stresses.push_back(CheckMember(job, member, rows));
   }
+  return stresses;
 }
 
 }  // namespace lignara

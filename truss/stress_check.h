@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "truss/active_model.h"
+#include "truss/members.h"
 
 namespace lignara {
 
@@ -19,7 +19,7 @@ bool HasAreas(const MemberSelection& selection);
 /// Rebuilds `rows`, the list "Actual and Allowable Axial Stresses": a blank line, then four lines a
 /// member. The allowable stress is the lesser of the group's tension and compression value for any
 /// member, with full lateral bracing; the list says at which distance that is given (a slenderness
-/// of 50).
-void CheckStresses(TrussJob& job, std::vector<std::string>& rows);
+/// of 50). Returns the stresses that it shows, in the order of the list.
+std::vector<MemberStress> CheckStresses(TrussJob& job, std::vector<std::string>& rows);
 
 }  // namespace lignara

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/drawing.h"
+#include "app/list_rows.h"
 #include "app/platform.h"
 #include "app/session_state.h"
 #include "truss/active_model.h"
@@ -55,6 +56,7 @@ struct TrussWindow {
   std::string leftReaction;   ///< "Left Side"
   std::string rightReaction;  ///< "Right Side"
   std::vector<std::string> axialRows;
+  int axialRow = -1;      ///< the chosen one; its member is lit
   std::string hitMember;  ///< "Click in red circle on member!"
   std::string hitLoad;    ///< "Axial Load (lbs)"
   Float32 heldLoad;       ///< of the member hit last, lbs
@@ -65,6 +67,16 @@ struct TrussWindow {
   std::vector<std::string> deflectionRows;
   bool stressOpen = false;  ///< panel "Actual and Allowable Axial Stresses"
   std::vector<std::string> stressRows;
+  std::vector<MemberStress> stresses;  ///< of the last run; none where it had no members
+  std::vector<double> ranWith;         ///< the inputs of the last run (run_inputs.h)
+
+  // Marks, which follow from the rest (window_marks.h).
+  bool outOfDate = false;            ///< the results are older than an input
+  std::string status;                ///< the highest stress ratio, or what stands in its way
+  std::string hitSense;              ///< "T" or "C" of the member hit last
+  std::vector<RowNote> axialNotes;   ///< beside the axial list
+  std::vector<RowNote> stressNotes;  ///< beside the list of stresses
+  std::string whyNoForces, whyNoDeflections, whyNoStresses;  ///< in empty lists
 
   // Report.
   bool headingsOpen = false;    ///< panel "Output Description"

@@ -1,5 +1,7 @@
 #include "wood/member_size.h"
 
+#include <algorithm>
+
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
@@ -131,6 +133,13 @@ void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& p
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   ShowMember(window, session);
+}
+
+std::string TicksNote(const MemberSizeWindow& window) {
+  const bool ticked = std::any_of(window.groups.begin(), window.groups.end(),
+                                  [](const GroupPanel& group) { return group.ticked; });
+  if (!window.groupsShown || ticked) return "";
+  return "No members are ticked: stresses from the data base will go to none. Tick first.";
 }
 
 void VisitWoodDataBase(SessionState& session, Platform& platform) {

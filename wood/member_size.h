@@ -92,6 +92,9 @@ struct MemberSizeWindow {
 void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// The window `wdb` was closed: its stresses go to the ticked groups, and all boxes are filled.
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform);
+/// What is to be done before a visit to the data base: of the groups of a truss one at least has to
+/// be ticked, or the stresses go nowhere. Empty where nothing is missing.
+std::string TicksNote(const MemberSizeWindow& window);
 /// "Wood Type Data Base".
 void VisitWoodDataBase(SessionState& session, Platform& platform);
 /// "OK": reads all boxes into the current member and closes the window.

@@ -21,6 +21,9 @@
 namespace lignara {
 namespace {
 
+/// Set on a list whose rows were made anew: what stood beside them is gone.
+constexpr const char* kNotesLost = "notesLost";
+
 /// Calls back after the left mouse button was released over a widget, wherever it was pressed.
 class ReleaseWatcher : public QObject {
  public:
@@ -112,6 +115,7 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
       for (const std::string& text : *rows) list->addItem(ToQt(text));
       list->verticalScrollBar()->setValue(scrolled);
       shown = *rows;
+      list->setProperty(kNotesLost, true);
     }
     if (row != nullptr && ChosenRow(list) != *row) list->setCurrentRow(*row);
   });
@@ -132,11 +136,14 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
 
 void Binding::Notes(QListWidget* list, const std::vector<RowNote>* notes) {
   ShowNotesOf(list);
-  Follow([list, notes] {
+  Follow([list, notes, shown = std::vector<RowNote>()]() mutable {
+    if (!list->property(kNotesLost).toBool() && shown == *notes) return;
     for (int row = 0; row < list->count(); ++row) {
       const auto at = static_cast<std::size_t>(row);
       SetRowNote(list->item(row), at < notes->size() ? (*notes)[at] : RowNote());
     }
+    list->setProperty(kNotesLost, false);
+    shown = *notes;
   });
 }
 

@@ -226,6 +226,12 @@ void DesktopPlatform::SetBusyPointer(bool busy) {
   }
 }
 
+void DesktopPlatform::ShowNote(const std::string& text) {
+  if (windows_.empty()) return;
+  const auto active = std::find(windows_.begin(), windows_.end(), lastActive_);
+  (active == windows_.end() ? windows_.back() : *active)->ShowNote(ToQt(text));
+}
+
 ToolWindow* DesktopPlatform::FindWindow(const QString& name) const {
   return FindIn(windows_, name);
 }

@@ -33,6 +33,7 @@ class DesktopPlatform : public Platform {
   void PrintReport(const Report& report) override;
   void ShowHelp(const std::string& path, const std::string& section) override;
   void SetBusyPointer(bool busy) override;
+  void ShowNote(const std::string& text) override;
 
   /// A command of the user begins in a window, or ends. Commands nest.
   void BeginCommand(ToolWindow* window);

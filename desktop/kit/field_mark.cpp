@@ -38,7 +38,7 @@ class FieldMark : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), WarningTint(palette()));
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), Tint(WarningColour(palette()), palette()));
     painter.setPen(QPen(WarningColour(palette()), 1.6));
     painter.drawPath(Wave());
   }

@@ -27,7 +27,7 @@ class NoteDelegate : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     if (index.data(kWarnedRole).toBool() && !selected) {
-      painter->fillRect(option.rect, WarningTint(option.palette));
+      painter->fillRect(option.rect, Tint(AlarmColour(option.palette), option.palette));
     }
     QStyledItemDelegate::paint(painter, option, index);
     const QString note = index.data(kNoteRole).toString();

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
+#include "desktop/kit/legend.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
@@ -46,7 +47,8 @@ class PageMaker {
 
   void operator()(const Drawing& drawing) {
     const double shape = drawing.stretched ? kDiagramShape : drawing.height / drawing.width;
-    const double height = std::min(area_.width() * shape, area_.height() * kDrawingShare);
+    const double height = std::min(area_.width() * shape, area_.height() * kDrawingShare) +
+                          LegendHeight(drawing.scene.legend, metrics_.lineSpacing());
     if (y_ > 0 && y_ + height > area_.height()) operator()(NewPage{});
     pages_.back().push_back(PlacedDrawing{&drawing, QRectF(0, y_, area_.width(), height)});
     y_ += height;

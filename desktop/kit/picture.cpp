@@ -1,163 +1,52 @@
 #include "desktop/kit/picture.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QImage>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
-#include "desktop/kit/text.h"
+#include "desktop/kit/legend.h"
 
 namespace lignara {
 namespace {
 
-/// How a picture's units lie on the screen.
-struct Fit {
-  double scaleX = 1.0;
-  double scaleY = 1.0;
-  QPointF origin;
+constexpr double kKeyZoom = 1.25;
+constexpr double kKeyMove = 40;  // pixels
 
-  QPointF Place(double x, double y) const {
-    return {origin.x() + x * scaleX, origin.y() + y * scaleY};
-  }
+/// Pixels of a picture in a file for each on the screen.
+constexpr double kFileScale = 2.0;
+
+struct MoveKey {
+  int key;
+  QPointF pixels;
 };
-
-/// Keeps the ends of a diagram off the rim of its room.
-constexpr double kDiagramMargin = 0.012;
-
-Fit StretchInto(const QRectF& target, const Drawing& drawing) {
-  const double margin = target.width() * kDiagramMargin;
-  const QRectF room = target.adjusted(margin, margin, -margin, -margin);
-  return {room.width() / drawing.width, room.height() / drawing.height, room.topLeft()};
-}
-
-Fit FitInto(const QRectF& target, const Drawing& drawing) {
-  if (drawing.width <= 0 || drawing.height <= 0) return {};
-  if (drawing.stretched) return StretchInto(target, drawing);
-  const double scale = std::min(target.width() / drawing.width, target.height() / drawing.height);
-  return {scale, scale,
-          QPointF(target.x() + (target.width() - drawing.width * scale) / 2,
-                  target.y() + (target.height() - drawing.height * scale) / 2)};
-}
-
-struct ScreenColour {
-  Colour colour;
-  const char* onLight;
-  const char* onDark;
-};
-
-constexpr std::array<ScreenColour, 7> kColours = {{
-    {Colour::Black, "#1c1c1c", "#ececec"},
-    {Colour::Red, "#d01818", "#ff6b6b"},
-    {Colour::Blue, "#1030e0", "#7aa2ff"},
-    {Colour::Gray, "#808080", "#a0a0a0"},
-    {Colour::RoyalBlue, "#2f5fd0", "#6f9bff"},
-    {Colour::DarkOrange, "#d96a00", "#ffa040"},
-    {Colour::Green, "#0a8a2a", "#5fd07a"},
-}};
-
-/// Among so many shapes no text can be read, and rims would only cost time.
-constexpr std::size_t kCrowd = 2000;
-
-/// Paints one shape after the other.
-class ShapePainter {
- public:
-  ShapePainter(QPainter& painter, const QRectF& target, const Drawing& drawing,
-               const QColor& ground)
-      : painter_(painter),
-        target_(target),
-        stretched_(drawing.stretched),
-        fit_(FitInto(target, drawing)),
-        ground_(ground),
-        pixel_(painter.device()->logicalDpiY() / 96.0),
-        rims_(drawing.shapes.size() < kCrowd) {
-    QFont font = painter.font();
-    font.setPixelSize(static_cast<int>(std::lround(TextPixels(drawing.textHeight))));
-    painter.setFont(font);
-  }
-
-  void operator()(const LineShape& line) {
-    SetPen(line.colour, 14.0);
-    painter_.drawLine(fit_.Place(line.x1, line.y1), fit_.Place(line.x2, line.y2));
-  }
-  void operator()(const CircleShape& circle) {
-    SetPen(circle.colour, 8.0);
-    const double radius = circle.radius * fit_.scaleY;
-    painter_.drawEllipse(fit_.Place(circle.x, circle.y), radius, radius);
-  }
-  /// A rim in the colour of the ground keeps a text legible where lines run behind it.
-  void operator()(const TextShape& text) {
-    const QPointF corner = Inward(fit_.Place(text.x, text.y), ToQt(text.text));
-    const QPointF base(corner.x(), corner.y() + QFontMetricsF(painter_.font()).ascent());
-    if (rims_) {
-      QPainterPath outline;
-      outline.addText(base, painter_.font(), ToQt(text.text));
-      painter_.strokePath(outline, QPen(ground_, painter_.font().pixelSize() / 4.0));
-    }
-    painter_.setPen(ColourOn(ground_, text.colour));
-    painter_.drawText(base, ToQt(text.text));
-  }
-
- private:
-  double TextPixels(double height) const {
-    const double pixels = height * fit_.scaleY;
-    return stretched_ ? std::clamp(pixels, 10 * pixel_, 15 * pixel_) : std::max(7.0, pixels);
-  }
-  /// The corner of a text, moved so that a diagram shows it whole.
-  QPointF Inward(const QPointF& corner, const QString& text) const {
-    if (!stretched_) return corner;
-    const QFontMetricsF metrics(painter_.font());
-    const double right = target_.right() - metrics.horizontalAdvance(text);
-    const double bottom = target_.bottom() - metrics.height();
-    return {std::max(target_.left(), std::min(corner.x(), right)),
-            std::max(target_.top(), std::min(corner.y(), bottom))};
-  }
-  void SetPen(Colour colour, double width) {
-    const double pixels = stretched_ ? 1.5 * pixel_ : std::max(1.2, width * fit_.scaleY);
-    painter_.setPen(QPen(ColourOn(ground_, colour), pixels, Qt::SolidLine, Qt::RoundCap));
-  }
-
-  QPainter& painter_;
-  const QRectF target_;
-  const bool stretched_;
-  const Fit fit_;
-  const QColor ground_;
-  const double pixel_;  ///< of a screen, on the device at hand
-  const bool rims_;
-};
+const MoveKey kMoveKeys[] = {{Qt::Key_Left, {kKeyMove, 0}},
+                             {Qt::Key_Right, {-kKeyMove, 0}},
+                             {Qt::Key_Up, {0, kKeyMove}},
+                             {Qt::Key_Down, {0, -kKeyMove}}};
 
 }  // namespace
-
-QColor ColourOn(const QColor& ground, Colour colour) {
-  const bool dark = ground.lightness() < 128;
-  for (const ScreenColour& entry : kColours) {
-    if (entry.colour == colour) return QColor(dark ? entry.onDark : entry.onLight);
-  }
-  return dark ? Qt::white : Qt::black;
-}
-
-void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,
-                  const QPalette& palette) {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(Qt::NoBrush);
-  ShapePainter shapes(painter, target, drawing, palette.color(QPalette::Base));
-  for (const Shape& shape : drawing.shapes) std::visit(shapes, shape);
-  painter.restore();
-}
 
 Picture::Picture(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+const PictureView& Picture::view() {
+  view_.SetRoom(size());
+  return view_;
+}
+
 void Picture::SetDrawing(const Drawing& drawing) {
   if (drawing == drawing_) return;
+  const bool other = drawing.width != drawing_.width || drawing.height != drawing_.height;
   drawing_ = drawing;
+  view_.SetContent(ContentOf(drawing_));
+  if (other || !explored_) view_.Fit();
   update();
 }
 
@@ -173,26 +62,42 @@ void Picture::OnMove(std::function<void(double, double)> move) {
   setMouseTracking(true);
 }
 
+void Picture::LetUserExplore() {
+  explored_ = true;
+  setFocusPolicy(Qt::StrongFocus);
+}
+
 void Picture::PressAt(double x, double y) {
   if (move_) move_(x, y);
   if (press_) press_(x, y);
 }
 
 bool Picture::SavePng(const QString& path) {
-  QImage image(size() * 2, QImage::Format_RGB32);
-  image.setDevicePixelRatio(2.0);
-  render(&image);
+  const double legend = LegendHeight(drawing_.scene.legend, fontMetrics().height());
+  QImage image((QSizeF(size()) + QSizeF(0, legend)).toSize() * kFileScale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(kFileScale);
+  image.fill(palette().color(QPalette::Base));
+  QPainter painter(&image);
+  painter.setFont(font());
+  painter.save();
+  painter.setClipRect(rect());
+  PaintDrawing(painter, view(), rect(), drawing_, palette());
+  painter.restore();
+  PaintLegend(painter, QRectF(0, height(), width(), legend), drawing_.scene.legend, palette());
+  painter.end();
   return image.save(path, "PNG");
 }
 
 void Picture::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().color(QPalette::Base));
-  PaintDrawing(painter, rect(), drawing_, palette());
+  PaintDrawing(painter, view(), rect(), drawing_, palette());
 }
 
 void Picture::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
+  grabbed_ = event->position();
+  dragging_ = false;
   const QPointF place = ToDrawing(event->position());
   PressAt(place.x(), place.y());
 }
@@ -200,24 +105,105 @@ void Picture::mousePressEvent(QMouseEvent* event) {
 void Picture::mouseMoveEvent(QMouseEvent* event) {
   const QPointF place = ToDrawing(event->position());
   if (move_) move_(place.x(), place.y());
-  if (!isTarget_) return;
-  setCursor(isTarget_(place.x(), place.y()) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  if (explored_ && event->buttons().testFlag(Qt::LeftButton)) {
+    Drag(event->position());
+  } else {
+    SetPointer(event->position());
+  }
+}
+
+void Picture::mouseReleaseEvent(QMouseEvent* event) {
+  if (!dragging_) return;
+  dragging_ = false;
+  SetPointer(event->position());
+}
+
+void Picture::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (explored_ && event->button() == Qt::LeftButton) Fit();
+}
+
+void Picture::wheelEvent(QWheelEvent* event) {
+  if (!explored_ || !event->modifiers().testFlag(Qt::ControlModifier)) {
+    event->ignore();
+    return;
+  }
+  constexpr double kNotch = 120;
+  ZoomAt(event->position(), std::pow(kKeyZoom, event->angleDelta().y() / kNotch));
+  event->accept();
+}
+
+void Picture::keyPressEvent(QKeyEvent* event) {
+  if (!explored_ || !TakeKey(event->key())) QWidget::keyPressEvent(event);
+}
+
+bool Picture::TakeKey(int key) {
+  const QPointF middle = QRectF(rect()).center();
+  for (const MoveKey& move : kMoveKeys) {
+    if (key != move.key) continue;
+    MoveBy(move.pixels);
+    return true;
+  }
+  if (key == Qt::Key_Home) {
+    Fit();
+  } else if (key == Qt::Key_Plus || key == Qt::Key_Equal) {
+    ZoomAt(middle, kKeyZoom);
+  } else if (key == Qt::Key_Minus) {
+    ZoomAt(middle, 1 / kKeyZoom);
+  } else {
+    return false;
+  }
+  return true;
 }
 
 void Picture::contextMenuEvent(QContextMenuEvent* event) {
-  if (!save_) return;
   QMenu menu(this);
-  menu.addAction("Save Picture As...", this, [this] { save_(); });
-  menu.exec(event->globalPos());
+  const QPointF place = event->pos();
+  if (explored_) {
+    menu.addAction("Show &All\tHome", this, [this] { Fit(); });
+    menu.addAction("Look &Nearer\tCtrl+Wheel", this, [=, this] { ZoomAt(place, kKeyZoom); });
+    menu.addAction("Look from &Farther", this, [=, this] { ZoomAt(place, 1 / kKeyZoom); });
+  }
+  if (save_) menu.addAction("&Save Picture As...", this, [this] { save_(); });
+  if (!menu.isEmpty()) menu.exec(event->globalPos());
 }
 
-QPointF Picture::ToDrawing(const QPointF& position) const {
-  const Fit fit = FitInto(rect(), drawing_);
-  const QPointF from = position - fit.origin;
-  const QPointF place(from.x() / fit.scaleX, from.y() / fit.scaleY);
-  if (!drawing_.stretched) return place;
-  // The margin of a diagram belongs to its ends.
-  return {std::clamp(place.x(), 0.0, drawing_.width), std::clamp(place.y(), 0.0, drawing_.height)};
+QPointF Picture::ToDrawing(const QPointF& position) {
+  return PlaceAt(view(), rect(), drawing_, position);
+}
+
+void Picture::Fit() {
+  view_.Fit();
+  update();
+}
+
+void Picture::ZoomAt(const QPointF& pixel, double factor) {
+  view_.SetRoom(size());
+  view_.ZoomAt(pixel, factor);
+  update();
+}
+
+void Picture::MoveBy(const QPointF& pixels) {
+  view_.SetRoom(size());
+  view_.MoveBy(pixels);
+  update();
+}
+
+void Picture::Drag(const QPointF& position) {
+  const QPointF way = position - grabbed_;
+  if (!dragging_ && way.manhattanLength() < QApplication::startDragDistance()) return;
+  dragging_ = true;
+  setCursor(Qt::ClosedHandCursor);
+  grabbed_ = position;
+  MoveBy(way);
+}
+
+void Picture::SetPointer(const QPointF& position) {
+  if (!isTarget_) {
+    unsetCursor();
+    return;
+  }
+  const QPointF place = ToDrawing(position);
+  setCursor(isTarget_(place.x(), place.y()) ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
 }  // namespace lignara

@@ -4,16 +4,12 @@
 #include <functional>
 
 #include "app/drawing.h"
+#include "desktop/kit/drawing_painter.h"
+#include "desktop/kit/picture_view.h"
+
+class QMenu;
 
 namespace lignara {
-
-/// A colour of drawings as it is legible on a light or a dark ground.
-QColor ColourOn(const QColor& ground, Colour colour);
-
-/// Paints a drawing into a rectangle, as large as fits, true to shape unless it may be stretched.
-/// On a dark palette what the drawing calls black is light.
-void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,
-                  const QPalette& palette);
 
 /// A drawing on the screen, at any size. Mouse positions are told in the drawing's units.
 class Picture : public QWidget {
@@ -32,10 +28,17 @@ class Picture : public QWidget {
   /// Called by "Save Picture As..." of the context menu.
   void OnSave(std::function<void()> save) { save_ = std::move(save); }
 
+  /// Lets the user look nearer: Ctrl and the wheel or + and - enlarge and reduce, a drag or the
+  /// arrow keys move, a double click or Home shows all again. The drawing itself knows nothing of
+  /// it. The picture becomes a stop of the Tab key.
+  void LetUserExplore();
+  /// The view at the picture's size as it is now.
+  const PictureView& view();
+
   /// What the mouse does that comes to a place of the drawing and is pressed there.
   void PressAt(double x, double y);
 
-  /// Writes the picture as PNG. False when the file cannot be written.
+  /// Writes the picture as PNG, with its legend. False when the file cannot be written.
   bool SavePng(const QString& path);
 
   QSize sizeHint() const override { return {640, 400}; }
@@ -45,12 +48,26 @@ class Picture : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  QPointF ToDrawing(const QPointF& position) const;
+  QPointF ToDrawing(const QPointF& position);
+  void Fit();
+  void ZoomAt(const QPointF& pixel, double factor);
+  void MoveBy(const QPointF& pixels);
+  bool TakeKey(int key);
+  void Drag(const QPointF& position);
+  void SetPointer(const QPointF& position);
 
   Drawing drawing_;
+  PictureView view_;
+  bool explored_ = false;
+  bool dragging_ = false;
+  QPointF grabbed_;  ///< where the mouse was when it last moved the picture
   std::function<void(double, double)> press_;
   std::function<void(double, double)> move_;
   std::function<bool(double, double)> isTarget_;

@@ -8,8 +8,9 @@
 #include "app/launcher.h"
 #include "app/report.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/drawing_painter.h"
+#include "desktop/kit/legend.h"
 #include "desktop/kit/page_layout.h"
-#include "desktop/kit/picture.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
@@ -42,9 +43,17 @@ class PagePainter {
     painter_.drawText(item.room.translated(area_.topLeft()), kWrapped, item.text);
   }
 
+  /// The legend takes the foot of the drawing's room.
   void operator()(const PlacedDrawing& item) {
-    PaintDrawing(painter_, item.room.translated(area_.topLeft()), *item.drawing,
-                 QPalette(Qt::white));
+    const QPalette paper(Qt::white);
+    const std::vector<LegendEntry>& legend = item.drawing->scene.legend;
+    const QFontMetricsF metrics(painter_.font(), painter_.device());
+    QRectF room = item.room.translated(area_.topLeft());
+    QRectF foot = room;
+    room.setBottom(room.bottom() - LegendHeight(legend, metrics.lineSpacing()));
+    foot.setTop(room.bottom());
+    PaintDrawing(painter_, room, *item.drawing, paper);
+    PaintLegend(painter_, foot, legend, paper);
   }
 
  private:
@@ -89,6 +98,9 @@ void PrintOnPaper(const Report& report, DesktopPlatform& platform) {
   painter.setFont(FontOf(report));
   const QRectF area = TextArea(printer);
   PagePainter(printer, painter, area).Paint(LayOut(report, FontOf(report), &printer, area.size()));
+  const QString file = printer.outputFileName();
+  platform.ShowNote(
+      FromQt(file.isEmpty() ? "Sent to " + printer.printerName() : "Saved to " + file));
 }
 
 }  // namespace lignara

@@ -9,7 +9,12 @@ namespace lignara {
 void LetUserSave(Picture* picture, DesktopPlatform& platform) {
   picture->OnSave([picture, &platform] {
     const auto path = platform.ChooseSaveFile("PNG(*.png)|*.png|");
-    if (path && !picture->SavePng(ToQt(*path))) platform.ShowMessage({"Cannot write " + *path});
+    if (!path) return;
+    if (picture->SavePng(ToQt(*path))) {
+      platform.ShowNote("Saved to " + *path);
+    } else {
+      platform.ShowMessage({"Cannot write " + *path});
+    }
   });
 }
 

@@ -4,8 +4,10 @@
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include "app/help.h"
 #include "desktop/kit/desktop_platform.h"
@@ -50,8 +52,10 @@ void ToolWindow::Furnish(const QSize& screen) {
   auto* page = new ScrollPage(this);
   page->setWidget(content);
   setCentralWidget(page);
-  const int menus = menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height();
-  page->SetMost(kMostInsisted.boundedTo(screen) - QSize(0, menus));
+  const auto* status = findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly);
+  int bars = menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height();
+  if (status != nullptr) bars += status->sizeHint().height();
+  page->SetMost(kMostInsisted.boundedTo(screen) - QSize(0, bars));
   if (focus != nullptr) focus->setFocus();
   SetStandardKeys(this);
   new FocusMark(this);
@@ -63,6 +67,20 @@ QMenu* ToolWindow::AddHelpMenu() {
   help->setShortcut(QKeySequence::HelpContents);
   binding_.Menu(help, [this] { ShowHelp(FromQt(name_), session(), platform()); });
   return menu;
+}
+
+QLabel* ToolWindow::AddStatusText(const char* name) {
+  auto* text = Named(name, new QLabel);
+  text->setContentsMargins(6, 0, 6, 0);
+  statusBar()->addWidget(text, 1);
+  return text;
+}
+
+void ToolWindow::AddStatusLine() { statusBar()->setSizeGripEnabled(true); }
+
+void ToolWindow::ShowNote(const QString& note) {
+  constexpr int kMilliseconds = 20000;
+  statusBar()->showMessage(note, kMilliseconds);
 }
 
 bool ToolWindow::event(QEvent* event) {

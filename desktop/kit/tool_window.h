@@ -7,6 +7,7 @@
 #include "desktop/kit/binding.h"
 
 class QGroupBox;
+class QLabel;
 class QPushButton;
 
 namespace lignara {
@@ -39,6 +40,8 @@ class ToolWindow : public QMainWindow {
   void CameBack() {
     binding_.Run([this] { Returned(); });
   }
+  /// Shows a note in the status line, for a while.
+  void ShowNote(const QString& note);
 
   /// The name that is proposed for a file of the window's report or picture, and the title of what
   /// it prints.
@@ -63,6 +66,11 @@ class ToolWindow : public QMainWindow {
 
   /// What the window does when the user comes back to it.
   virtual void Returned() {}
+  /// A text of the window's own in its status line, known by a name and tied to the record like any
+  /// label. A window that saves or prints asks for one, or for `AddStatusLine`, so that a note
+  /// finds room without moving anything.
+  QLabel* AddStatusText(const char* name);
+  void AddStatusLine();
 
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;

@@ -1,6 +1,5 @@
 #include "truss/truss_window.h"
 
-#include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -9,29 +8,22 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
-#include "desktop/kit/picture.h"
-#include "desktop/kit/readers.h"
-#include "desktop/kit/save_picture.h"
 #include "desktop/kit/scroll_page.h"
 #include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
+#include "desktop/truss/truss_canvas.h"
 #include "desktop/truss/truss_report_panels.h"
 #include "desktop/windows.h"
-#include "truss/description.h"
 #include "truss/report.h"
+#include "truss/window_marks.h"
 
 namespace lignara {
 namespace {
-
-/// One step of the horizontal bar moves the picture by an eighth of its width. So many steps to
-/// either side are what the canvas can count.
-constexpr int kPanSteps = 54;
 
 /// A list of the side column: it takes its height from the window and leaves the width to the
 /// drawing.
@@ -39,19 +31,6 @@ QListWidget* SideList(const char* name) {
   QListWidget* list = MakeList(name, 6);
   list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
   return list;
-}
-
-/// A coloured dash and what the colour of a member means.
-QLayout* LegendEntry(Colour colour, const char* meaning) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(5);
-  auto* dash = new QFrame;
-  dash->setFixedSize(24, 3);
-  const QColor ground = dash->palette().color(QPalette::Base);
-  dash->setStyleSheet(QString("background: %1").arg(ColourOn(ground, colour).name()));
-  row->addWidget(dash);
-  row->addWidget(new QLabel(meaning));
-  return row;
 }
 
 /// The truss at hand: loads, analysis, results and the drawing.
@@ -62,13 +41,14 @@ class TrussForm : public ToolWindow {
   /// The title of the report, or the type where it has none.
   QString DocumentName() const override;
 
+  void Refresh() override {
+    ShowMarks(record_, session());
+    ToolWindow::Refresh();
+  }
+
  private:
   void AddMenus();
   QLayout* CanvasColumn();
-  QLayout* CanvasFrame();
-  QLayout* CanvasFoot();
-  QGroupBox* ZoomPanel();
-  QWidget* Legend();
   QLayout* ResultPanels();
   QWidget* ResultArea();
   QWidget* SideColumn();
@@ -80,9 +60,9 @@ class TrussForm : public ToolWindow {
   QLayout* Forces();
   QGroupBox* LineLoadPanel();
   QGroupBox* AreaLoadPanel();
-  QGroupBox* ListPanel(const QString& caption, const std::vector<std::string>* rows,
-                       const bool* shown, const QString& closing, Binding::Command close,
-                       int width);
+  QGroupBox* ListPanel(QListWidget* list, const std::vector<std::string>* rows, const bool* shown,
+                       const QString& closing, Binding::Command close, int width);
+  QLayout* MemberHit();
   QPushButton* Button(const QString& caption, Binding::Command command);
   QLayout* ButtonPair(QGroupBox* panel, const QString& first, Binding::Command command,
                       Binding::Command cancel);
@@ -101,6 +81,7 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, co
   OpenTruss(record_, session(), platform());
   setWindowTitle(ToQt(record_.title));
   AddMenus();
+  binding().Text(AddStatusText("Status"), &record_.status);
   auto* area = new QWidget;
   setCentralWidget(area);
   auto* columns = new QHBoxLayout(area);
@@ -141,8 +122,7 @@ QPushButton* TrussForm::Button(const QString& caption, Binding::Command command)
 
 QLayout* TrussForm::CanvasColumn() {
   auto* rows = new QVBoxLayout;
-  rows->addLayout(CanvasFrame(), 1);
-  rows->addLayout(CanvasFoot());
+  rows->addLayout(MakeTrussCanvas(record_, binding(), session(), platform()), 1);
   rows->addWidget(ResultArea());
   return rows;
 }
@@ -167,85 +147,32 @@ QWidget* TrussForm::ResultArea() {
   return page;
 }
 
-QLayout* TrussForm::CanvasFrame() {
-  auto* grid = new QGridLayout;
-  grid->setSpacing(2);
-  auto* canvas = Named("Truss", new Picture);
-  canvas->setMinimumSize(280, 180);
-  binding().Show(canvas, &record_.view.drawing);
-  binding().Follow([this, canvas] { Describe(canvas, ToQt(DescribeTruss(record_, session()))); });
-  canvas->OnPress(
-      [this](double x, double y) { binding().Run([&] { HitTruss(record_, session(), x, y); }); });
-  canvas->OnHover([this](double x, double y) { return IsOverMember(record_, session(), x, y); });
-  LetUserSave(canvas, platform());
-  grid->addWidget(canvas, 0, 0);
-  auto* rise = Named("Rise", new QScrollBar(Qt::Vertical));
-  rise->setRange(0, kPanSteps);
-  grid->addWidget(rise, 0, 1);
-  auto* pan = Named("Pan", new QScrollBar(Qt::Horizontal));
-  pan->setRange(-kPanSteps, kPanSteps);
-  pan->setPageStep(4);
-  binding().Scroll(pan, &record_.view.panBar,
-                   [this](int value) { PanTruss(record_, session(), platform(), value); });
-  grid->addWidget(pan, 1, 0);
-  return grid;
-}
-
-QLayout* TrussForm::CanvasFoot() {
-  auto* row = new QHBoxLayout;
-  row->addWidget(ZoomPanel());
-  row->addSpacing(12);
-  row->addWidget(Legend());
-  row->addStretch();
-  return row;
-}
-
-QGroupBox* TrussForm::ZoomPanel() {
-  QGroupBox* panel = MakePanel("Zoom");
-  auto* row = new QHBoxLayout(panel);
-  row->setContentsMargins(6, 2, 6, 4);
-  QPushButton* larger = Button("+", [this] { EnlargeTruss(record_, session(), platform()); });
-  QPushButton* smaller = Button("-", [this] { ReduceTruss(record_, session(), platform()); });
-  for (QPushButton* button : {larger, smaller}) {
-    button->setMaximumWidth(44);
-    row->addWidget(button);
-  }
-  larger->setToolTip("Enlarge the drawing");
-  smaller->setToolTip("Reduce the drawing");
-  return panel;
-}
-
-QWidget* TrussForm::Legend() {
-  auto* legend = new QWidget;
-  auto* row = new QHBoxLayout(legend);
-  row->setSpacing(16);
-  row->addLayout(LegendEntry(Colour::RoyalBlue, "Tension"));
-  row->addLayout(LegendEntry(Colour::DarkOrange, "Compression"));
-  row->addLayout(LegendEntry(Colour::Gray, "No force"));
-  binding().Shown(legend, &record_.view.resultsShown);
-  return legend;
-}
-
 QLayout* TrussForm::ResultPanels() {
   auto* row = new QHBoxLayout;
   row->addWidget(ListPanel(
-      "Member Lengths (ft)", &record_.lengthRows, &record_.lengthsOpen, "Cancel",
+      MakeList("Member Lengths (ft)", 9), &record_.lengthRows, &record_.lengthsOpen, "Cancel",
       [this] { CloseMemberLengths(record_); }, 150));
+  QListWidget* deflections = MakeList("Deflections", 9);
   row->addWidget(ListPanel(
-      "Deflections", &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
+      deflections, &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
       [this] { record_.deflectionsOpen = false; }, 150));
+  binding().WhyEmpty(deflections, [this] { return record_.whyNoDeflections; });
+  binding().OutOfDate(deflections, [this] { return AreDeflectionsOlder(record_); });
+  QListWidget* stresses = MakeList("Actual and Allowable Axial Stresses", 9);
   row->addWidget(ListPanel(
-      "Actual and Allowable Axial Stresses", &record_.stressRows, &record_.stressOpen, "OK",
+      stresses, &record_.stressRows, &record_.stressOpen, "OK",
       [this] { record_.stressOpen = false; }, 300));
+  binding().Notes(stresses, &record_.stressNotes);
+  binding().WhyEmpty(stresses, [this] { return record_.whyNoStresses; });
+  binding().OutOfDate(stresses, [this] { return AreStressesOlder(record_); });
   return row;
 }
 
-QGroupBox* TrussForm::ListPanel(const QString& caption, const std::vector<std::string>* rows,
+QGroupBox* TrussForm::ListPanel(QListWidget* list, const std::vector<std::string>* rows,
                                 const bool* shown, const QString& closing, Binding::Command close,
                                 int width) {
-  QGroupBox* panel = MakePanel(caption);
+  QGroupBox* panel = MakePanel(list->accessibleName());
   auto* column = new QVBoxLayout(panel);
-  QListWidget* list = MakeList(caption, 9);
   list->setMinimumWidth(InLetters(width));
   list->setMaximumHeight(240);
   binding().List(list, rows);
@@ -342,21 +269,42 @@ QLayout* TrussForm::Forces() {
   auto* rows = new QVBoxLayout;
   rows->addWidget(MakeHeading("Axial Load (lbs)"));
   QListWidget* list = SideList("Axial Load (lbs)");
-  binding().List(list, &record_.axialRows);
+  binding().List(list, &record_.axialRows, &record_.axialRow,
+                 [this](int row) { SelectAxialRow(record_, row); });
+  // The row that lights its member is one of the rows that may be marked to be copied.
+  list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  binding().Notes(list, &record_.axialNotes);
+  binding().WhyEmpty(list, [this] { return record_.whyNoForces; });
   rows->addWidget(list, 1);
+  rows->addLayout(MemberHit());
+  QGroupBox* reactions = MakePanel("End Reactions (lbs)");
+  auto* grid = new QGridLayout(reactions);
+  QLineEdit* left = AddValue(grid, "Left Side");
+  binding().Text(left, &record_.leftReaction);
+  QLineEdit* right = AddValue(grid, "Right Side");
+  binding().Text(right, &record_.rightReaction);
+  rows->addWidget(reactions);
+  for (QWidget* result : std::initializer_list<QWidget*>{list, left, right}) {
+    binding().OutOfDate(result, [this] { return record_.outOfDate; });
+  }
+  return rows;
+}
+
+QLayout* TrussForm::MemberHit() {
+  auto* rows = new QVBoxLayout;
   rows->addWidget(new QLabel("Click in red circle on member!"));
   QLineEdit* member = MakeField("Click in red circle on member!");
   ShowOnly(member);
   binding().Text(member, &record_.hitMember);
   rows->addWidget(member);
-  auto* load = new QGridLayout;
-  binding().Text(AddValue(load, "Axial Load (lbs)"), &record_.hitLoad);
-  rows->addLayout(load);
-  QGroupBox* reactions = MakePanel("End Reactions (lbs)");
-  auto* grid = new QGridLayout(reactions);
-  binding().Text(AddValue(grid, "Left Side"), &record_.leftReaction);
-  binding().Text(AddValue(grid, "Right Side"), &record_.rightReaction);
-  rows->addWidget(reactions);
+  auto* grid = new QGridLayout;
+  binding().Text(AddValue(grid, "Axial Load (lbs)"), &record_.hitLoad);
+  QLineEdit* sense = MakeField("Tension or compression", 24);
+  sense->setMaximumWidth(sense->minimumWidth());
+  ShowOnly(sense);
+  binding().Text(sense, &record_.hitSense);
+  grid->addWidget(sense, grid->rowCount() - 1, 2);
+  rows->addLayout(grid);
   return rows;
 }
 

@@ -15,6 +15,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/text.h"
+#include "desktop/kit/warning_colour.h"
 #include "desktop/windows.h"
 #include "wood/member_size.h"
 
@@ -60,6 +61,7 @@ class MemberSizeForm : public ToolWindow {
     setWindowTitle("Member Size Data Calculator");
     OpenMemberSize(record_, session(), platform());
     AddMenus();
+    AddTicksNote();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* rows = new QVBoxLayout(area);
@@ -86,6 +88,15 @@ class MemberSizeForm : public ToolWindow {
     QMenu* files = menuBar()->addMenu("&Files");
     binding().Menu(files->addAction("E&xit"), [this] { CloseControl(); });
     AddHelpMenu();
+  }
+
+  /// Said while there is time to tick, and not after the visit to the data base.
+  void AddTicksNote() {
+    QLabel* note = AddStatusText("Note");
+    QPalette palette = note->palette();
+    palette.setColor(QPalette::WindowText, WarningColour(palette));
+    note->setPalette(palette);
+    binding().Follow([this, note] { note->setText(ToQt(TicksNote(record_))); });
   }
 
   /// Width, depth, "Accept" and what came of it, from top to bottom in the order of work.

@@ -52,6 +52,7 @@ class WoodDataBaseForm : public ToolWindow {
     setWindowTitle("Wood Data Base");
     OpenWoodDataBase(record_);
     AddMenus();
+    AddStatusLine();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* columns = new QHBoxLayout(area);
@@ -84,6 +85,7 @@ class WoodDataBaseForm : public ToolWindow {
     QListWidget* files = MakeList("Data Base File to Load", 9);
     binding().List(files, &record_.files.rows, &record_.files.row,
                    [this](int row) { ChooseSpeciesFile(record_, session(), platform(), row); });
+    binding().WhyEmpty(files, [] { return "choose a family of wood first"; });
     rows->addWidget(files, 3);
     rows->addWidget(MakeHeading("Types of Wood covered by File"));
     rows->addWidget(WoodTypes());
@@ -91,6 +93,7 @@ class WoodDataBaseForm : public ToolWindow {
     grades_ = MakeList("Grades", 9);
     binding().List(grades_, &record_.grades.rows, &record_.grades.row,
                    [this](int row) { ChooseGrade(record_, session(), platform(), row); });
+    binding().WhyEmpty(grades_, [] { return "choose a data base file first"; });
     rows->addWidget(grades_, 2);
     return rows;
   }

@@ -56,6 +56,7 @@ TEST_F(ReportFileTest, WritesTheLinesOfTheReport) {
   ASSERT_TRUE(file);
   WriteReportFile(*file, report, platform);
   EXPECT_EQ(Content(path), "\nTITLE:   \nMEMBER        TYPE\n");
+  EXPECT_EQ(platform.notes, std::vector<std::string>{"Saved to " + path});
   std::filesystem::remove(path);
 }
 

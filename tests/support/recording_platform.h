@@ -34,12 +34,15 @@ class RecordingPlatform : public Platform {
   }
   void SetBusyPointer(bool busy) override { calls.push_back(busy ? "busy on" : "busy off"); }
 
+  void ShowNote(const std::string& text) override { notes.push_back(text); }
+
   /// The texts of the message boxes so far, and forgets them.
   std::vector<std::string> TakeTexts();
 
   std::vector<Message> messages;
   std::vector<std::string>
       calls;  ///< "open NAME", "close NAME", "hide NAME", "busy on", "busy off"
+  std::vector<std::string> notes;
   std::vector<std::string> asked;
   std::vector<std::string> filters;
   std::vector<Report> printed;

@@ -32,6 +32,17 @@ TEST_F(MemberSizeWindowTest, PanelsOfTheMode) {
   EXPECT_TRUE(window.beamShown);
 }
 
+TEST_F(MemberSizeWindowTest, SaysBeforeTheVisitThatNoGroupIsTicked) {
+  Open("TRUSS");
+  EXPECT_EQ(TicksNote(window),
+            "No members are ticked: stresses from the data base will go to none. Tick first.");
+  window.Group(MemberGroup::Diagonal).ticked = true;
+  EXPECT_EQ(TicksNote(window), "");
+  Open("BEAM");
+  window.groups = {};
+  EXPECT_EQ(TicksNote(window), "");
+}
+
 TEST_F(MemberSizeWindowTest, CaptionsOfTheGroups) {
   const std::array<Texts, 4> expected = {{{"Top Members ", "Top Mem."},
                                           {"Bottom Members ", "Bottom Mem."},

@@ -125,6 +125,97 @@ TEST_F(DiagramTest, ShowsATextAtItsRimWhole) {
   const int whole = inkBeyond(10);
   EXPECT_GT(whole, 20);
   EXPECT_NEAR(inkBeyond(20), whole, whole / 4);
+class ExploredPictureTest : public PictureTest {
+ protected:
+  ExploredPictureTest() {
+    picture.LetUserExplore();
+    picture.resize(480, 300);  // a tenth of a pixel a unit
+    picture.show();
+  }
+
+  void Wheel(QPointF place, int steps, Qt::KeyboardModifiers held) {
+    QWheelEvent event(place, picture.mapToGlobal(place), QPoint(), QPoint(0, 120 * steps),
+                      Qt::NoButton, held, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&picture, &event);
+  }
+  void Key(Qt::Key key) {
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&picture, &event);
+  }
+  void Drag(QPointF from, QPointF to) {
+    Send(QEvent::MouseButtonPress, from);
+    Send(QEvent::MouseMove, to);
+    Send(QEvent::MouseButtonRelease, to);
+  }
+  QPointF Corner() { return picture.view().ToPixels({0, 0}); }
+};
+
+TEST_F(ExploredPictureTest, IsEnlargedByCtrlAndWheelAtTheMouse) {
+  Wheel({120, 90}, 3, Qt::ControlModifier);  // 1.25^3
+  EXPECT_NEAR(picture.view().zoom(), 1.953125, 1e-9);
+  const QPointF held = picture.view().ToPixels({1200, 900});
+  EXPECT_NEAR(held.x(), 120, 1e-6);
+  EXPECT_NEAR(held.y(), 90, 1e-6);
+}
+
+TEST_F(ExploredPictureTest, LeavesTheWheelAloneWithoutCtrl) {
+  Wheel({120, 90}, 3, Qt::NoModifier);
+  EXPECT_EQ(picture.view().zoom(), 1);
+}
+
+TEST_F(ExploredPictureTest, StillTellsAPressInUnitsOfTheDrawing) {
+  Wheel({120, 90}, 3, Qt::ControlModifier);
+  Send(QEvent::MouseButtonPress, {120, 90});
+  EXPECT_NEAR(pressed.x(), 1200, 1e-6);
+  EXPECT_NEAR(pressed.y(), 900, 1e-6);
+}
+
+TEST_F(ExploredPictureTest, IsMovedByADrag) {
+  Drag({100, 100}, {160, 130});
+  EXPECT_NEAR(Corner().x(), 60, 1e-6);
+  EXPECT_NEAR(Corner().y(), 30, 1e-6);
+}
+
+TEST_F(ExploredPictureTest, IsNotMovedByAPressThatTrembles) {
+  Drag({100, 100}, {101, 101});
+  EXPECT_NEAR(Corner().x(), 0, 1e-6);
+}
+
+TEST_F(ExploredPictureTest, ShowsAllAgainByHomeAndByADoubleClick) {
+  for (const bool byKey : {true, false}) {
+    Wheel({120, 90}, 3, Qt::ControlModifier);
+    Drag({100, 100}, {160, 130});
+    byKey ? Key(Qt::Key_Home) : Send(QEvent::MouseButtonDblClick, {50, 50});
+    EXPECT_EQ(picture.view().zoom(), 1);
+    EXPECT_NEAR(Corner().x(), 0, 1e-6);
+  }
+}
+
+TEST_F(ExploredPictureTest, IsEnlargedAndMovedByKeys) {
+  Key(Qt::Key_Plus);
+  EXPECT_NEAR(picture.view().zoom(), 1.25, 1e-9);
+  const double x = Corner().x();
+  Key(Qt::Key_Right);
+  EXPECT_NEAR(Corner().x(), x - 40, 1e-6);
+  Key(Qt::Key_Minus);
+  EXPECT_NEAR(picture.view().zoom(), 1, 1e-9);
+}
+
+TEST_F(ExploredPictureTest, KeepsItsViewWhenTheDrawingChanges) {
+  Wheel({120, 90}, 3, Qt::ControlModifier);
+  const QPointF before = Corner();
+  Drawing drawing = picture.drawing();
+  drawing.shapes.emplace_back(CircleShape{100, 100, 50});
+  picture.SetDrawing(drawing);
+  EXPECT_EQ(Corner(), before);
+}
+
+TEST_F(PictureTest, ThatIsNotToBeExploredStaysAsItIs) {
+  picture.resize(480, 300);
+  Send(QEvent::MouseButtonPress, {100, 100});
+  Send(QEvent::MouseMove, {200, 200});
+  EXPECT_NEAR(picture.view().ToPixels({0, 0}).x(), 0, 1e-6);
+  EXPECT_EQ(picture.focusPolicy(), Qt::NoFocus);
 }
 
 TEST_F(PictureTest, IsWrittenAsAPngWithItsLines) {

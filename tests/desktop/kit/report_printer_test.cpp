@@ -28,6 +28,9 @@ class FilePlatform : public DesktopPlatform {
     return path_;
   }
 
+  void ShowNote(const std::string& text) override { notes.push_back(text); }
+
+  std::vector<std::string> notes;
   std::vector<std::string> texts;
   std::vector<std::string> filters;
 
@@ -74,6 +77,7 @@ TEST_F(ReportPrinterTest, WritesAPdfWithEachPage) {
   EXPECT_TRUE(content.startsWith("%PDF"));
   EXPECT_EQ(content.count("/Type /Page\n"), 3);
   EXPECT_TRUE(platform.texts.empty());
+  EXPECT_EQ(platform.notes, std::vector<std::string>{"Saved to " + Path("report.pdf")});
 }
 
 TEST_F(ReportPrinterTest, GivesThePdfItsTitle) {
@@ -109,6 +113,7 @@ TEST_F(ReportPrinterTest, AFileThatCannotBeWrittenIsTold) {
   FilePlatform platform(session_, Path("no such folder/report.pdf"));
   platform.PrintReport(ThreePages());
   EXPECT_EQ(platform.texts.size(), 1u);
+  EXPECT_TRUE(platform.notes.empty());
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "app/drawing.h"
+#include "app/colour.h"
 
 namespace lignara {
 

@@ -1,0 +1,243 @@
+#include "desktop/kit/scene_layout.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <optional>
+
+#include "desktop/kit/name_room.h"
+#include "desktop/kit/text.h"
+
+namespace lignara {
+namespace {
+
+constexpr std::array<int, 10> kSteps = {1, 2, 5, 10, 20, 50, 100, 200, 500, 1000};
+constexpr double kNameGap = 3;
+/// Where more of the names than this part find no place, fewer are shown.
+constexpr double kMostDropped = 0.08;
+
+/// A mark of a series: a text that stands at a place again and again.
+struct Mark {
+  int series, place;
+  QPointF at;
+  double width;  ///< of its text, 0 without one
+};
+
+/// The first step at which the texts of all series stand clear of each other.
+std::size_t FirstStep(const std::vector<Mark>& marks, double height, double gap) {
+  std::map<int, const Mark*> last;
+  double most = 1;
+  for (const Mark& mark : marks) {
+    const Mark*& before = last[mark.series];
+    if (before != nullptr && mark.place == before->place + 1) {
+      const double dx = std::fabs(mark.at.x() - before->at.x());
+      const double dy = std::fabs(mark.at.y() - before->at.y());
+      const double across = (mark.width + gap) / std::max(dx, 1e-6);
+      const double down = (height + gap) / std::max(dy, 1e-6);
+      most = std::max(most, std::min(across, down));
+    }
+    before = &mark;
+  }
+  const auto found = std::lower_bound(kSteps.begin(), kSteps.end(), most - 1e-9);
+  return static_cast<std::size_t>(std::min(found, kSteps.end() - 1) - kSteps.begin());
+}
+
+QPointF Way(NameSide side) {
+  switch (side) {
+    case NameSide::Above:
+      return {0, -1};
+    case NameSide::Below:
+      return {0, 1};
+    case NameSide::Left:
+      return {-1, 0};
+    case NameSide::Right:
+      return {1, 0};
+  }
+  return {1, 0};
+}
+
+/// How thin strokes have to be so that lines side by side do not run together.
+double ThinnessAt(double distance, double unit) {
+  constexpr double kRoomy = 24, kThinnest = 0.3;
+  return std::clamp(distance / (kRoomy * unit), kThinnest, 1.0);
+}
+
+/// The direction in which a name stands best: square to its line, on the side asked for.
+QPointF WishOf(const NamedLine& line, const QLineF& drawn) {
+  const QPointF side = Way(line.side);
+  if (drawn.length() < 1e-6) return side;
+  const QPointF square = QPointF(-drawn.dy(), drawn.dx()) / drawn.length();
+  return QPointF::dotProduct(square, side) < 0 ? -square : square;
+}
+
+/// Lays a scene out at one view.
+class LayoutMaker {
+ public:
+  LayoutMaker(const Scene& scene, const PictureView& view, const QRectF& room,
+              const QFontMetricsF& metrics)
+      : scene_(scene), view_(view), room_(room), metrics_(metrics) {
+    layout_.unit = metrics.height() / 16;
+  }
+
+  SceneLayout Make() {
+    std::vector<Mark> marks;
+    for (const NamedLine& line : scene_.lines) {
+      marks.push_back({line.series, line.place, MarkOf(line), Width(line.name)});
+    }
+    const double gap = kNameGap * layout_.unit;
+    std::size_t step = FirstStep(marks, metrics_.height(), 2 * gap);
+    layout_.thinness = Thinness(marks);
+    PlaceAll(kSteps[step]);
+    for (int more = 0; more < 2 && TooManyDropped() && step + 1 < kSteps.size(); ++more) {
+      PlaceAll(kSteps[++step]);
+    }
+    return layout_;
+  }
+
+ private:
+  void PlaceAll(int step) {
+    layout_.step = step;
+    names_.emplace(room_.adjusted(1, 1, -1, -1), kNameGap * layout_.unit);
+    layout_.names.clear();
+    layout_.points.clear();
+    layout_.loads.clear();
+    layout_.values.clear();
+    for (const NamedLine& line : scene_.lines) names_->AddLine(Drawn(line));
+    ChooseShown();
+    for (const std::size_t i : shown_) {
+      names_->AddCircle(MarkOf(scene_.lines[i]), layout_.radius());
+    }
+    PlaceLoads();
+    PlaceNames();
+    PlacePoints();
+  }
+
+  /// Of the lines whose turn it is those are shown whose circles lie clear of each other.
+  void ChooseShown() {
+    shown_.clear();
+    std::vector<QPointF> circles;
+    for (const bool lit : {true, false}) {
+      for (std::size_t i = 0; i < scene_.lines.size(); ++i) {
+        const QPointF mark = MarkOf(scene_.lines[i]);
+        if (scene_.lines[i].lit != lit || !IsItsTurn(scene_.lines[i])) continue;
+        if (!lit && IsOnOneOf(circles, mark)) continue;
+        circles.push_back(mark);
+        shown_.push_back(i);
+      }
+    }
+  }
+
+  bool IsItsTurn(const NamedLine& line) const {
+    if (!room_.contains(MarkOf(line))) return false;
+    const int shift = line.between ? layout_.step / 2 : 0;
+    return line.lit || (line.place + shift) % layout_.step == 0;
+  }
+
+  bool IsOnOneOf(const std::vector<QPointF>& circles, const QPointF& mark) const {
+    const double least = 2 * layout_.radius() + layout_.unit;
+    return std::any_of(circles.begin(), circles.end(),
+                       [&](const QPointF& other) { return QLineF(other, mark).length() < least; });
+  }
+
+  bool TooManyDropped() const {
+    const auto wanted = static_cast<double>(shown_.size());
+    return wanted - static_cast<double>(layout_.names.size()) > kMostDropped * wanted;
+  }
+
+  void PlaceNames() {
+    for (const std::size_t i : shown_) {
+      const NamedLine& line = scene_.lines[i];
+      const auto box = names_->PlaceBeside(MarkOf(line), layout_.radius(),
+                                           WishOf(line, Drawn(line)), SizeOf(line.name));
+      if (box) layout_.names.push_back({i, ToQt(line.name), *box});
+    }
+  }
+
+  double Thinness(const std::vector<Mark>& marks) const {
+    double least = 1e9;
+    for (std::size_t i = 1; i < marks.size(); ++i) {
+      if (marks[i].series != marks[i - 1].series) continue;
+      least = std::min(least, QLineF(marks[i].at, marks[i - 1].at).length());
+    }
+    return ThinnessAt(least, layout_.unit);
+  }
+
+  /// Arrows first, each with its room; then the values, which thin out by themselves.
+  void PlaceLoads() {
+    std::vector<Mark> arrows, values;
+    for (const LoadArrow& load : scene_.loads) {
+      const QPointF node = view_.ToPixels({load.x, load.y});
+      arrows.push_back({load.series, load.place, node, 8 * layout_.unit});
+      values.push_back({load.series, load.place, node, Width(load.value)});
+    }
+    const int arrowStep = kSteps[FirstStep(arrows, 1e6, 0)];
+    const double gap = kNameGap * layout_.unit;
+    const int valueStep = std::max(arrowStep, kSteps[FirstStep(values, 1e6, 2 * gap)]);
+    for (std::size_t i = 0; i < scene_.loads.size(); ++i) {
+      if (scene_.loads[i].place % arrowStep != 0 || !room_.contains(arrows[i].at)) continue;
+      layout_.loads.push_back(i);
+      names_->Take(ArrowBox(arrows[i].at));
+    }
+    for (const std::size_t i : layout_.loads) {
+      if (scene_.loads[i].place % valueStep == 0) PlaceValue(i, arrows[i].at);
+    }
+  }
+
+  QRectF ArrowBox(const QPointF& node) const {
+    const double u = layout_.unit;
+    return {node.x() - 4 * u, node.y() - (kLoadGap + kLoadLength) * u, 8 * u, kLoadLength * u};
+  }
+
+  /// Over the arrow, or aslant of its tail where a name or a circle is in the way.
+  void PlaceValue(std::size_t i, const QPointF& node) {
+    const QSizeF size = SizeOf(scene_.loads[i].value);
+    const double low = ArrowBox(node).top() - kNameGap * layout_.unit;
+    const double farthest = std::max(room_.left() + 2, room_.right() - size.width() - 2);
+    for (const double part : {0.5, 0.9, 0.1}) {
+      const double left = std::clamp(node.x() - part * size.width(), room_.left() + 2, farthest);
+      const QRectF box(QPointF(left, low - size.height()), size);
+      if (!names_->IsFree(box)) continue;
+      names_->Take(box);
+      layout_.values.push_back({i, ToQt(scene_.loads[i].value), box});
+      return;
+    }
+  }
+
+  void PlacePoints() {
+    for (std::size_t i = 0; i < scene_.points.size(); ++i) {
+      const PointName& point = scene_.points[i];
+      const QPointF at = view_.ToPixels({point.x, point.y});
+      if (point.place % layout_.step != 0 || !room_.contains(at)) continue;
+      const auto box =
+          names_->PlaceBeside(at, kNameGap * layout_.unit, QPointF(0, -1), SizeOf(point.name));
+      if (box) layout_.points.push_back({i, ToQt(point.name), *box});
+    }
+  }
+
+  QPointF MarkOf(const NamedLine& line) const { return view_.ToPixels({line.markX, line.markY}); }
+  QLineF Drawn(const NamedLine& line) const {
+    return {view_.ToPixels({line.x1, line.y1}), view_.ToPixels({line.x2, line.y2})};
+  }
+  double Width(const std::string& text) const { return metrics_.horizontalAdvance(ToQt(text)); }
+  /// Digits and capitals reach from the base line to the cap height: a letter's room is less high
+  /// than a line of text.
+  QSizeF SizeOf(const std::string& text) const { return {Width(text), metrics_.height() * 0.8}; }
+
+  const Scene& scene_;
+  const PictureView& view_;
+  const QRectF room_;
+  const QFontMetricsF metrics_;
+  std::optional<NameRoom> names_;
+  SceneLayout layout_;
+  std::vector<std::size_t> shown_;
+};
+
+}  // namespace
+
+SceneLayout LayOut(const Scene& scene, const PictureView& view, const QRectF& room,
+                   const QFontMetricsF& metrics) {
+  return LayoutMaker(scene, view, room, metrics).Make();
+}
+
+}  // namespace lignara
