@@ -1,11 +1,11 @@
 #include "app/replace_file.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 
 #include "tests/support/data_folder.h"
+#include "tests/support/file_size_limit.h"
 
 namespace lignara {
 namespace {
@@ -55,22 +55,26 @@ TEST(ReplaceFile, AFileThatCannotBeWrittenBesideLeavesTheOldOne) {
 }
 
 TEST(ReplaceFile, AWriteThatBreaksOffLeavesTheOldOne) {
-  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no full device here";
   const DataFolder folder;
   folder.Write("A", "old\n");
-  std::filesystem::create_symlink("/dev/full", folder.Path("A.new"));
-  EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
+  bool replaced = true;
+  {
+    const FileSizeLimit limit(2);
+    replaced = ReplaceFile(folder.Path("A"), "new\n");
+  }
+  EXPECT_FALSE(replaced);
   EXPECT_EQ(FileBytes(folder.Path("A")), "old\n");
   EXPECT_EQ(FilesIn(folder), 1U);
 }
 
-TEST(ReplaceFile, AFileThatMustNotBeWrittenStays) {
-  if (geteuid() == 0) GTEST_SKIP() << "the superuser may write any file";
+// A link to a directory cannot be opened for writing, by no user, but a rename would replace it.
+TEST(ReplaceFile, WhatMustNotBeWrittenStays) {
   const DataFolder folder;
-  folder.Write("A", "old\n");
-  std::filesystem::permissions(folder.Path("A"), std::filesystem::perms::owner_read);
+  std::filesystem::create_directory(folder.Path("inside"));
+  std::filesystem::create_directory_symlink("inside", folder.Path("A"));
   EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
-  EXPECT_EQ(FileBytes(folder.Path("A")), "old\n");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("A")));
+  EXPECT_EQ(FilesIn(folder), 2U);
 }
 
 }  // namespace

@@ -1,14 +1,13 @@
 #include "app/report_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <iterator>
 
+#include "tests/support/file_size_limit.h"
 #include "tests/support/recording_platform.h"
 
 namespace lignara {
@@ -79,24 +78,6 @@ TEST_F(ReportFileTest, FullDiskShowsTheSystemsWords) {
   WriteReportFile(*file, report, platform);
   EXPECT_EQ(platform.TakeTexts(), std::vector<std::string>{"/dev/full: " + SystemWords(ENOSPC)});
 }
-
-/// While one stands, no file can grow beyond so many bytes, as on a disk that is nearly full.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, signal_);
-  }
-
- private:
-  void (*signal_)(int);
-  rlimit before_{};
-};
 
 TEST_F(ReportFileTest, AReportThatDoesNotFitIsToldAndLeavesNoHalfFile) {
   const std::string path = Path("report_file_half.txt");

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+namespace lignara {
+
+/// While one stands, no file can grow beyond so many bytes, as on a disk that is nearly full.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signal_);
+  }
+
+ private:
+  void (*signal_)(int);
+  rlimit before_{};
+};
+
+}  // namespace lignara
