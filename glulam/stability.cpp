@@ -63,7 +63,9 @@ StableStress StableBending(const GlulamSection& section, Number f, Number e) {
 }
 
 StableStress ColumnStress(const GlulamSection& section, Number e) {
-  if (section.Slenderness() > kMostSlenderColumn) return {0, true};
+  const std::optional<Float32> slenderness = FieldNumber(section.Length() / section.Least());
+  if (!slenderness) return {};
+  if (*slenderness > kMostSlenderColumn) return {0, true};
   return {0.3 * e / Square(section.Length() / section.depth)};
 }
 

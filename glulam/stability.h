@@ -35,7 +35,7 @@ StableStress StableBending(const GlulamSection& section, Number f, Number e);
 
 /// The greatest compression along the grain by Euler's curve with the modulus `e`, in psi. Its
 /// slenderness is that of the depth, also where the width is less. Too long where the lesser side
-/// goes into the length more than 50 times.
+/// goes into the length more than 50 times; 0 where that ratio is beyond 32 bits, a fault.
 StableStress ColumnStress(const GlulamSection& section, Number e);
 
 }  // namespace lignara

@@ -232,6 +232,15 @@ TEST_F(StabilityTest, ARatioAboveFiftyGivesNone) {
   EXPECT_EQ(window.useNote, kColumnNote);
 }
 
+// 120 / 1e-40 is beyond any number: no column stress is known to be safe, though lu / d is 10 only.
+TEST_F(StabilityTest, ARatioTooLargeIsToldAndGivesNone) {
+  Enter("10", "12", "1e-40");
+  const Texts told = platform.TakeTexts();
+  ASSERT_FALSE(told.empty());
+  EXPECT_EQ(told.back(), "The number is too large");
+  EXPECT_EQ(Fc(), "0.00");
+}
+
 // 12 by 12 at 20 ft: 0.3 x 1600000 / 400 = 1200.
 TEST_F(StabilityTest, EulerCapsTheColumnStress) {
   Enter("20", "12", "12");
