@@ -125,6 +125,8 @@ TEST_F(DiagramTest, ShowsATextAtItsRimWhole) {
   const int whole = inkBeyond(10);
   EXPECT_GT(whole, 20);
   EXPECT_NEAR(inkBeyond(20), whole, whole / 4);
+}
+
 class ExploredPictureTest : public PictureTest {
  protected:
   ExploredPictureTest() {
