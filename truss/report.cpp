@@ -5,7 +5,7 @@
 #include <initializer_list>
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "app/project_header.h"
 #include "app/report_file.h"
 #include "truss/canvas.h"
@@ -185,18 +185,20 @@ void WriteLoadsToWoodType(TrussReport& sections) {
 }  // namespace
 
 void OpenHeadings(TrussWindow& window) { window.headingsOpen = true; }
+void CloseHeadings(TrussWindow& window) { window.headingsOpen = false; }
 
 void AcceptHeadings(TrussWindow& window, SessionState& session) {
   session.ReportTitle = window.titleText;
   session.ReportDescription = window.descriptionText;
-  window.headingsOpen = false;
+  CloseHeadings(window);
 }
 
 void OpenFonts(TrussWindow& window) { window.fontsOpen = true; }
+void CloseFonts(TrussWindow& window) { window.fontsOpen = false; }
 
 void AcceptFonts(TrussWindow& window, SessionState& session) {
   ChooseReportFont(session, window.fontTimes, window.fontTen);
-  window.fontsOpen = false;
+  CloseFonts(window);
 }
 
 Report TRUSS_FILE(const TrussWindow& window, SessionState& session) {

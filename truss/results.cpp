@@ -1,7 +1,7 @@
 #include "truss/results.h"
 
 #include "app/list_rows.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "app/window_names.h"
 #include "truss/truss_types.h"
 
@@ -44,6 +44,12 @@ void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platfor
 }
 
 void CloseMemberLengths(TrussWindow& window) { window.lengthsOpen = false; }
+
+void OpenDeflections(TrussWindow& window) { window.deflectionsOpen = true; }
+void CloseDeflections(TrussWindow& window) { window.deflectionsOpen = false; }
+
+void OpenStresses(TrussWindow& window) { window.stressOpen = true; }
+void CloseStresses(TrussWindow& window) { window.stressOpen = false; }
 
 void OpenWoodType(SessionState& session, Platform& platform) {
   session.DesignMode = "TRUSS";

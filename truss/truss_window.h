@@ -124,6 +124,12 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform);
 /// "Memb. Len.".
 void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platform& platform);
 void CloseMemberLengths(TrussWindow& window);
+/// "Deflections", and "Cancel" of the panel. The run fills the list, the panel being open or not.
+void OpenDeflections(TrussWindow& window);
+void CloseDeflections(TrussWindow& window);
+/// "Code Stress", and "OK" of the panel.
+void OpenStresses(TrussWindow& window);
+void CloseStresses(TrussWindow& window);
 /// "Wood Type".
 void OpenWoodType(SessionState& session, Platform& platform);
 

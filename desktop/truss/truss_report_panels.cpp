@@ -40,7 +40,7 @@ QGroupBox* MakeHeadingsPanel(TrussWindow& window, Binding& binding, SessionState
   binding.Press(ok, [&window, &session] { AcceptHeadings(window, session); });
   rows->addWidget(ok, 0, Qt::AlignRight);
   SetReturnButton(panel, ok);
-  binding.CloseOnEscape(panel, [&window] { window.headingsOpen = false; });
+  binding.CloseOnEscape(panel, [&window] { CloseHeadings(window); });
   binding.Shown(panel, &window.headingsOpen);
   return panel;
 }
@@ -56,7 +56,7 @@ QGroupBox* MakeFontsPanel(TrussWindow& window, Binding& binding, SessionState& s
   binding.Press(ok, [&window, &session] { AcceptFonts(window, session); });
   rows->addWidget(ok, 0, Qt::AlignRight);
   SetReturnButton(panel, ok);
-  binding.CloseOnEscape(panel, [&window] { window.fontsOpen = false; });
+  binding.CloseOnEscape(panel, [&window] { CloseFonts(window); });
   binding.Shown(panel, &window.fontsOpen);
   return panel;
 }

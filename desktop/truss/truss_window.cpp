@@ -155,13 +155,13 @@ QLayout* TrussForm::ResultPanels() {
   QListWidget* deflections = MakeList("Deflections", 9);
   row->addWidget(ListPanel(
       deflections, &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
-      [this] { record_.deflectionsOpen = false; }, 150));
+      [this] { CloseDeflections(record_); }, 150));
   binding().WhyEmpty(deflections, [this] { return record_.whyNoDeflections; });
   binding().OutOfDate(deflections, [this] { return AreDeflectionsOlder(record_); });
   QListWidget* stresses = MakeList("Actual and Allowable Axial Stresses", 9);
   row->addWidget(ListPanel(
       stresses, &record_.stressRows, &record_.stressOpen, "OK",
-      [this] { record_.stressOpen = false; }, 300));
+      [this] { CloseStresses(record_); }, 300));
   binding().Notes(stresses, &record_.stressNotes);
   binding().WhyEmpty(stresses, [this] { return record_.whyNoStresses; });
   binding().OutOfDate(stresses, [this] { return AreStressesOlder(record_); });
@@ -217,8 +217,8 @@ QLayout* TrussForm::CommandRow() {
   grid->addWidget(run, 0, 1);
   grid->addWidget(
       Button("&Memb. Len.", [this] { ShowMemberLengths(record_, session(), platform()); }), 0, 2);
-  grid->addWidget(Button("&Deflections", [this] { record_.deflectionsOpen = true; }), 1, 0);
-  grid->addWidget(Button("&Code Stress", [this] { record_.stressOpen = true; }), 1, 1);
+  grid->addWidget(Button("&Deflections", [this] { OpenDeflections(record_); }), 1, 0);
+  grid->addWidget(Button("&Code Stress", [this] { OpenStresses(record_); }), 1, 1);
   return grid;
 }
 

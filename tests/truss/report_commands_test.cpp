@@ -98,5 +98,20 @@ TEST(ReportPanels, FontChoiceGoesIntoTheSession) {
   }
 }
 
+TEST(ReportPanels, LeftWithoutOkChangeNothingInTheSession) {
+  OpenedTruss truss("PRATT1", 6, 30, 7.5);
+  OpenHeadings(truss.window);
+  truss.window.titleText = "Barn";
+  CloseHeadings(truss.window);
+  EXPECT_FALSE(truss.window.headingsOpen);
+  EXPECT_EQ(truss.session.ReportTitle, "");
+  truss.session.ReportFont.Name = "Times New Roman";
+  OpenFonts(truss.window);
+  truss.window.fontTimes = false;
+  CloseFonts(truss.window);
+  EXPECT_FALSE(truss.window.fontsOpen);
+  EXPECT_EQ(truss.session.ReportFont.Name, "Times New Roman");
+}
+
 }  // namespace
 }  // namespace lignara

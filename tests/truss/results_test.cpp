@@ -107,5 +107,24 @@ TEST(WoodType, OpensTheCalculatorForATruss) {
   EXPECT_EQ(platform.calls, Texts{"open WTYPETR"});
 }
 
+// The lists are those of the last run, which stands behind them whether they are open or not.
+TEST(ResultPanels, OpenAndCloseWithTheirListsAsTheyAre) {
+  TestTruss truss = StandardTruss("KINGPOST", 4);
+  truss.window.deflectionRows = {"TN = 0.001"};
+  truss.window.stressRows = {"", "TL1"};
+  OpenDeflections(truss.window);
+  EXPECT_TRUE(truss.window.deflectionsOpen);
+  EXPECT_FALSE(truss.window.stressOpen);
+  OpenStresses(truss.window);
+  EXPECT_TRUE(truss.window.stressOpen);
+  CloseDeflections(truss.window);
+  EXPECT_FALSE(truss.window.deflectionsOpen);
+  EXPECT_TRUE(truss.window.stressOpen);
+  CloseStresses(truss.window);
+  EXPECT_FALSE(truss.window.stressOpen);
+  EXPECT_EQ(truss.window.deflectionRows, Texts{"TN = 0.001"});
+  EXPECT_EQ(truss.window.stressRows, (Texts{"", "TL1"}));
+}
+
 }  // namespace
 }  // namespace lignara
