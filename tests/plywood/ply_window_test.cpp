@@ -96,6 +96,7 @@ TEST_P(PlyWindow, EachKeyChosenAsItIsChangesNothing) {
   ChooseLast();
   const std::string before = Shown(State());
   for (std::size_t key = 0; key < State().keys.size(); ++key) {
+    ASSERT_GE(State().keys[key].choice.row, 0) << State().keys[key].caption;
     ChoosePlyRow(window, GetParam(), key, State().keys[key].choice.row);
     EXPECT_EQ(Shown(State()), before) << State().keys[key].caption;
   }
