@@ -22,7 +22,8 @@ ShearJoint ReadJoint(BoltWindow& window) {
   joint.L1 = ReadNumber(window.L1);
   joint.L2 = ReadNumber(window.L2);
   joint.L3 = ReadNumber(window.L3);
-  joint.theta = ReadNumber(window.A) * (kPi / 180);
+  const Float32 angle = ReadNumber(window.A);
+  joint.theta = angle * (kPi / 180);
   return joint;
 }
 

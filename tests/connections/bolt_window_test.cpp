@@ -178,5 +178,15 @@ TEST_F(BoltWindowTest, LengthTooLargeIsToldAndCountsAsNone) {
             (Texts{"The number is too large", "YOUR L2 AND/OR L3 VALUE MUST BE LESS THAN L1"}));
 }
 
+TEST_F(BoltWindowTest, AngleTooLargeIsToldAndCountsAsNone) {
+  for (const char* angle : {"1e39", "-1e39", "1e400"}) {
+    window.A = angle;
+    Compute("1.5", 0);
+    EXPECT_EQ(platform.TakeTexts(), Texts{"The number is too large"}) << angle;
+    // As along the grain: 940 x 1.25 x 0.9.
+    EXPECT_EQ(window.atAngle, "1057.50") << angle;
+  }
+}
+
 }  // namespace
 }  // namespace lignara
