@@ -123,8 +123,12 @@ void FieldFile::FailNumber(const char* how) {
   Report("A number in " + fileName_ + how);
 }
 
-int FieldFile::ReadCount() {
-  const double count = std::nearbyint(ReadValue());
+int FieldFile::ReadCount() { return CountOf(ReadValue()); }
+
+int FieldFile::ReadFilledCount() { return CountOf(ReadFilledValue()); }
+
+int FieldFile::CountOf(double value) {
+  const double count = std::nearbyint(value);
   const bool large = count > std::numeric_limits<std::int16_t>::max();
   if (count >= 0 && !large) return static_cast<int>(count);
   Report("A number in " + fileName_ + (large ? " is too large" : " is too small"));

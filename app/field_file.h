@@ -54,6 +54,8 @@ class FieldFile {
   /// The next field as the count of the records that follow: 0 to 32767. What is no such number is
   /// shown and counts as 0.
   int ReadCount();
+  /// The same where a count has to stand: an empty field is told as one that cannot be read.
+  int ReadFilledCount();
   /// False where the last field asked for was missing, no number, or too large.
   bool LastFieldRead() const { return lastFieldRead_; }
   /// True where no further field can be read.
@@ -62,6 +64,7 @@ class FieldFile {
  private:
   std::optional<std::string> Next();
   double ValueOf(const std::string& field);
+  int CountOf(double value);
   void FailNumber(const char* how);
   /// Shows what happened, unless the file has shown the same before.
   void Report(const std::string& text);

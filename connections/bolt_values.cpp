@@ -45,7 +45,7 @@ BoltValueTable ReadBoltValues(const std::string& dataDirectory, Platform& platfo
   FaultScope faults(platform);
   FieldFile file(dataDirectory, kBoltValueFile, platform);
   BoltValueTable table;
-  const int count = file.ReadCount();
+  const int count = file.ReadFilledCount();
   for (int i = 1; i <= count; ++i) table.Add(ReadRow(file));
   return table;
 }

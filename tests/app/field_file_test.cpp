@@ -206,6 +206,16 @@ TEST_F(FieldFileTest, CountIsA16BitNumber) {
   }
 }
 
+TEST_F(FieldFileTest, AnEmptyCountIsNoCountWhereOneHasToStand) {
+  FieldFile file = Open(",7,40000\n");
+  EXPECT_EQ(file.ReadFilledCount(), 0);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in TEST.CSV cannot be read"});
+  EXPECT_EQ(file.ReadFilledCount(), 7);
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(file.ReadFilledCount(), 0);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in TEST.CSV is too large"});
+}
+
 TEST_F(FieldFileTest, NumberTooLargeIsZeroAndShownOnce) {
   FieldFile file = Open("1e999,2,-1e999\n");
   EXPECT_EQ(file.ReadValue(), 0.0);

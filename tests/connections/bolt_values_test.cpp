@@ -72,6 +72,10 @@ TEST_F(BoltValuesTest, MissingFileIsOneBoxAndAnEmptyTable) {
 TEST_F(BoltValuesTest, CountThatCannotBeReadIsABoxAndAnEmptyTable) {
   EXPECT_EQ(Read("rows\n1.5,0.5,1,1,1,1,1,1,1,1\n").size(), 0);
   EXPECT_EQ(platform.TakeTexts(), Texts{"A number in BV.CSV cannot be read"});
+  EXPECT_EQ(Read("\"\",1.5,0.5,1,1,1,1,1,1,1,1\n").size(), 0);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in BV.CSV cannot be read"});
+  EXPECT_EQ(Read("-3\n").size(), 0);
+  EXPECT_EQ(platform.TakeTexts(), Texts{"A number in BV.CSV is too small"});
   EXPECT_EQ(Read("99999\n").size(), 0);
   EXPECT_EQ(platform.TakeTexts(), Texts{"A number in BV.CSV is too large"});
 }
