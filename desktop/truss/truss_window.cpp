@@ -160,8 +160,8 @@ QLayout* TrussForm::ResultPanels() {
   binding().OutOfDate(deflections, [this] { return AreDeflectionsOlder(record_); });
   QListWidget* stresses = MakeList("Actual and Allowable Axial Stresses", 9);
   row->addWidget(ListPanel(
-      stresses, &record_.stressRows, &record_.stressOpen, "OK",
-      [this] { CloseStresses(record_); }, 300));
+      stresses, &record_.stressRows, &record_.stressOpen, "OK", [this] { CloseStresses(record_); },
+      300));
   binding().Notes(stresses, &record_.stressNotes);
   binding().WhyEmpty(stresses, [this] { return record_.whyNoStresses; });
   binding().OutOfDate(stresses, [this] { return AreStressesOlder(record_); });
