@@ -4,11 +4,13 @@
 #include <filesystem>
 #include <system_error>
 
+#include "app/system_error.h"
+
 namespace lignara {
 namespace {
 
 void ShowSystemError(const std::string& path, int code, Platform& platform) {
-  platform.ShowMessage({path + ": " + std::generic_category().message(code)});
+  platform.ShowMessage({path + ": " + SystemErrorText(code)});
 }
 
 }  // namespace

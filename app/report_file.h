@@ -19,7 +19,7 @@ struct ReportFile {
 };
 
 /// Asks for a file and creates it, empty. Nothing when the user cancels, or when the file cannot be
-/// written: then the system's own words are shown in a plain box.
+/// written: then it is told with the system's words in a plain box.
 std::optional<ReportFile> CreateReportFile(Platform& platform);
 
 /// Writes a whole report and closes the file; a failure is shown in the system's own words, and a

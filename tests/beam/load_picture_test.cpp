@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "tests/support/beam_fixture.h"
+#include "tests/support/typed.h"
 
 namespace lignara {
 namespace {
@@ -131,7 +132,7 @@ TEST_F(LoadPicture, ShowsTheChosenLoadInRed) {
 }
 
 TEST_F(LoadPicture, LettersOfManyLoadsKeepApart) {
-  for (int i = 0; i < 101; ++i) beam.Point(std::to_string(0.05 + 0.098 * i), "1000");
+  for (int i = 0; i < 101; ++i) beam.Point(Typed(0.05 + 0.098 * i), "1000");
   struct Place {
     double x, y, width;
   };

@@ -5,6 +5,7 @@
 
 #include "tests/support/beam_fixture.h"
 #include "tests/support/plain_beam.h"
+#include "tests/support/typed.h"
 
 namespace lignara {
 namespace {
@@ -37,7 +38,7 @@ void ExpectCurve(const std::vector<double>& plain, const Float32Array& fast, con
 
 /// RUN against the plain double loop.
 void ExpectPlainSums(TestBeam& beam) {
-  beam.Constants(std::to_string(kE), std::to_string(kI));
+  beam.Constants(Typed(kE), Typed(kI));
   beam.Run();
   ASSERT_EQ(beam.Boxes(), Texts());
   const PlainRun plain = SolvePlainly(beam.window.beam, kE);
@@ -112,12 +113,11 @@ TEST_P(EachClass, SumsRandomLoadsAtOddAccuraciesAsThePlainLoopDoes) {
     RemoveAllLoads(beam.window);
     for (int i = 0; i < 12; ++i) {
       const double A = place(random);
-      const std::string a = std::to_string(A), b = std::to_string((9.95 - A) / 2);
-      beam.Point(a, std::to_string(size(random)));
-      beam.Add(static_cast<LoadKind>(2 + i % 3),
-               {{"A", a}, {"B", b}, {"W", std::to_string(size(random))}});
+      const std::string a = Typed(A), b = Typed((9.95 - A) / 2);
+      beam.Point(a, Typed(size(random)));
+      beam.Add(static_cast<LoadKind>(2 + i % 3), {{"A", a}, {"B", b}, {"W", Typed(size(random))}});
       // A moment needs stations on both sides.
-      if (N > 20) beam.Moment(a, std::to_string(size(random)));
+      if (N > 20) beam.Moment(a, Typed(size(random)));
     }
     beam.window.beam.accuracySteps = N;
     beam.window.beam.equivalentLoads = Q;

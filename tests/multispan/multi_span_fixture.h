@@ -6,6 +6,7 @@
 #include "multispan/multi_span_window.h"
 #include "multispan/results_window.h"
 #include "tests/support/recording_platform.h"
+#include "tests/support/typed.h"
 
 namespace lignara {
 
@@ -29,8 +30,8 @@ class MultiSpanTest : public testing::Test {
   void Previous() { ShowPreviousSpan(window, session); }
   /// Stores a span of E 1600000 and I 100, and goes on to the next.
   void EnterSpan(double length, double uniform) {
-    Type(SpanField::Length, std::to_string(length));
-    Type(SpanField::Uniform, std::to_string(uniform));
+    Type(SpanField::Length, Typed(length));
+    Type(SpanField::Uniform, Typed(uniform));
     Type(SpanField::Inertia, "100");
     Type(SpanField::Modulus, "1600000");
     Store();

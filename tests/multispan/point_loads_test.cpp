@@ -1,4 +1,5 @@
 #include "tests/multispan/multi_span_fixture.h"
+#include "tests/support/typed.h"
 
 namespace lignara {
 namespace {
@@ -201,7 +202,7 @@ TEST_F(PointLoads, CountDoesNotLookForGaps) {
 TEST_F(PointLoads, FiftyCount) {
   OpenThree();
   for (int k = 1; k <= 52; ++k) {
-    EnterLoad("10", std::to_string(k * 0.15));
+    EnterLoad("10", Typed(k * 0.15));
     NextLoad();
   }
   EXPECT_TRUE(Messages().empty());
@@ -213,7 +214,7 @@ TEST_F(PointLoads, FiftyCount) {
 TEST_F(PointLoads, EndWithTheList) {
   OpenThree();
   for (int k = 1; k <= 120; ++k) {
-    EnterLoad("10", std::to_string(k * 0.05));
+    EnterLoad("10", Typed(k * 0.05));
     NextLoad();
   }
   EXPECT_EQ(window.loadNumber, "100");
