@@ -25,7 +25,8 @@ bool WriteFile(const std::string& path, const std::string& bytes) {
 bool ReplaceFile(const std::string& path, const std::string& bytes) {
   if (!MayWrite(path)) return false;
   // Written beside and put in place at once: a full disk costs the new file, never the old one.
-  const std::string beside = path + ".new";
+  // Not ".new": so are called the files that an installation lays beside those of the user.
+  const std::string beside = path + ".part";
   std::error_code error;
   if (WriteFile(beside, bytes)) {
     std::filesystem::rename(beside, path, error);

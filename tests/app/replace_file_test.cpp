@@ -32,6 +32,15 @@ TEST(ReplaceFile, ReplacesAFileAndLeavesNothingBeside) {
   EXPECT_EQ(FilesIn(folder), 1U);
 }
 
+// Such a file lies there after a new version of the program came: the user has still to look at it.
+TEST(ReplaceFile, ANewVersionThatLiesBesideStays) {
+  const DataFolder folder;
+  folder.Write("A", "own\n");
+  folder.Write("A.new", "shipped\n");
+  EXPECT_TRUE(ReplaceFile(folder.Path("A"), "own again\n"));
+  EXPECT_EQ(FileBytes(folder.Path("A.new")), "shipped\n");
+}
+
 TEST(ReplaceFile, FailsWithoutItsFolder) {
   const DataFolder folder;
   EXPECT_FALSE(ReplaceFile(folder.Path("none/A"), "new\n"));
@@ -49,7 +58,7 @@ TEST(ReplaceFile, ADirectoryOfThatNameStays) {
 TEST(ReplaceFile, AFileThatCannotBeWrittenBesideLeavesTheOldOne) {
   const DataFolder folder;
   folder.Write("A", "old\n");
-  std::filesystem::create_directories(folder.Path("A.new/inside"));
+  std::filesystem::create_directories(folder.Path("A.part/inside"));
   EXPECT_FALSE(ReplaceFile(folder.Path("A"), "new\n"));
   EXPECT_EQ(FileBytes(folder.Path("A")), "old\n");
 }

@@ -109,7 +109,7 @@ TEST_F(UserFactorsTest, AFactorTooLargeIsToldAndNothingIsSaved) {
 
 TEST_F(UserFactorsTest, AWriteThatFailsLeavesTheFileWholeAndSaysNothing) {
   const std::string before = FileBytes(folder.Path("USERADJ.CSV"));
-  std::filesystem::create_directories(folder.Path("USERADJ.CSV.new/inside"));
+  std::filesystem::create_directories(folder.Path("USERADJ.CSV.part/inside"));
   window.factors[0] = "0.5";
   EXPECT_EQ(Save(), before);
   EXPECT_TRUE(platform.messages.empty());
