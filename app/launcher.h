@@ -7,9 +7,10 @@
 
 namespace lignara {
 
-/// The first window: what its one field holds.
+/// The first window: what it holds.
 struct LauncherWindow {
   std::string spanText;  ///< "Enter No. of Spans"
+  std::string status;    ///< the line at its foot; empty where there is nothing to say
 };
 
 /// Gives the session its first content: the data directory, the neutral current member, the report

@@ -1,3 +1,4 @@
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -7,6 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/data_directory.h"
+#include "app/data_folder_status.h"
 #include "app/launcher.h"
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
@@ -36,6 +39,7 @@ class LauncherForm : public ToolWindow {
     tools->addWidget(BeamPanel());
     tools->addWidget(DataBasePanel());
     tools->addStretch();
+    ShowDataFolder();
   }
 
   void CloseControl() override {
@@ -53,6 +57,20 @@ class LauncherForm : public ToolWindow {
     QMenu* help = AddHelpMenu();
     binding().Menu(help->addAction("&About..."),
                    [this] { platform().OpenWindow(window_name::kAbout); });
+  }
+
+  /// Says at the foot what is amiss with the data folder. Where nothing is, there is no foot.
+  void ShowDataFolder() {
+    const QFileInfo folder(ToQt(FolderOf(session().DataDirectory)));
+    record_.status = DataFolderStatus(session().DataDirectory, folder.isWritable());
+    if (record_.status.empty()) return;
+    QLabel* status = AddStatusText("Status");
+    status->setWordWrap(true);
+    status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    status->setText(ToQt(record_.status));
+    // A path may need several lines, of which the status bar knows nothing.
+    const int frame = InLetters(40);
+    status->setFixedHeight(status->heightForWidth(centralWidget()->sizeHint().width() - frame));
   }
 
   QGroupBox* TrussPanel() {
