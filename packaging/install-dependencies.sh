@@ -1,12 +1,17 @@
 #!/usr/bin/env bash
-# Installs what a Debian 12 machine lacks to build and start Lignara ("run") or to test it ("test").
+# Installs what a Debian 12 machine lacks to build and start Lignara ("run"), to make its package
+# ("package") or to test both ("test").
 # What is there already is left alone; only the installation itself asks for root.
 set -euo pipefail
 
 purpose=${1:-run}
 packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
+if [ "$purpose" != run ]; then
+  packages+=(dpkg-dev)
+fi
 if [ "$purpose" = test ]; then
   packages+=(git libgtest-dev libgmock-dev libbenchmark-dev clang-format gcovr locales)
+  packages+=(lintian desktop-file-utils appstream)
 fi
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
