@@ -53,38 +53,42 @@ class ShearWalk {
   std::vector<double> shears_;
 };
 
-void Trace(const BeamCase& beam, const DistributionResult& result, ShearDiagram& diagram) {
-  ShearWalk walk(result.reaction[1]);
-  diagram.spans.emplace_back();
+void Trace(const BeamCase& beam, const DistributionResult& result, ShearWalk& walk,
+           std::vector<ShearDiagram::Range>& spans) {
   for (int j = 1; j <= beam.count; ++j) {
     const std::size_t first = walk.last();
     walk.Cross(beam.Span(j));
-    diagram.spans.push_back({first, walk.last()});
+    spans.push_back({first, walk.last()});
     walk.Fall(-result.reaction[j + 1]);
-  }
-  const std::vector<double> breaks = Breaks(beam);
-  for (std::size_t i = 0; i < walk.shears().size(); ++i) {
-    diagram.vertices.push_back({breaks[i / 2], walk.shears()[i]});
   }
 }
 
 }  // namespace
 
 double ShearDiagram::ShearAt(double x) const {
-  double shear = 0;
+  Guarded<double> shear;
   for (std::size_t i = 1; i + 1 < vertices.size(); i += 2) {
     const ShearVertex& left = vertices[i];
     const ShearVertex& right = vertices[i + 1];
     // Two vertices at one place have no line between them.
     if (left.x == right.x || x < left.x || x > right.x) continue;
-    shear = left.shear + (right.shear - left.shear) * (x - left.x) / (right.x - left.x);
+    RunStep([&] {
+      shear = left.shear + (right.shear - left.shear) * (x - left.x) / (right.x - left.x);
+    });
   }
   return shear;
 }
 
 ShearDiagram DrawShear(const BeamCase& beam, const DistributionResult& result) {
   ShearDiagram diagram;
-  RunStep([&] { Trace(beam, result, diagram); });
+  diagram.spans.emplace_back();
+  ShearWalk walk(result.reaction[1]);
+  RunStep([&] { Trace(beam, result, walk, diagram.spans); });
+  // A shear that is too large ends the walk; what was found before stands.
+  const std::vector<double> breaks = Breaks(beam);
+  for (std::size_t i = 0; i < walk.shears().size(); ++i) {
+    diagram.vertices.push_back({breaks[i / 2], walk.shears()[i]});
+  }
   return diagram;
 }
 

@@ -79,6 +79,25 @@ TEST(ShearVertices, HoldAnyNumberOfSpansAndLoads) {
   EXPECT_NEAR(d.vertices.back().shear, 0, 0.01);
 }
 
+// 64 bits hold 1e308 lbs/ft but not the 1e309 lbs of the second span.
+TEST(ShearVertices, EndWhereAShearIsTooLargeAndKeepWhatStandsBefore) {
+  BeamCase beam = BeamOf({10, 10, 10}, kPinned, kPinned, 100);
+  beam.Span(2).uniform = 1e308;
+  const ShearDiagram d = DiagramOf(beam);
+  ExpectNear(Places(d), {0, 0, 10, 10}, 0);
+  ExpectNear({d.vertices[2].shear - d.vertices[1].shear}, {-1000}, 1e-3);
+  ASSERT_EQ(d.spans.size(), 2u);
+  EXPECT_EQ(LargestShears(d).size(), 2u);
+  EXPECT_EQ(d.ShearAt(25), 0);
+}
+
+// 1e308 and -1e308 stand beside each other: the line between them is no number.
+TEST(ShearAt, IsZeroWhereTheLineIsTooSteepForANumber) {
+  ShearDiagram d;
+  d.vertices = {{0, 0}, {0, 1e308}, {10, -1e308}, {10, 0}};
+  EXPECT_EQ(d.ShearAt(5), 0);
+}
+
 // Largest shears of each span.
 
 // Three spans of 10 ft under 300, 20 and 150 lbs/ft.
