@@ -166,8 +166,26 @@ class BeamSketcher {
     for (double i = 0; i <= gaps; ++i) {
       Arrow(at_.Left(j) + at_.Width(j) * i / gaps, height, load > 0, Colour::Blue);
     }
-    uniformValues_.Put((at_.Left(j) + at_.Right(j)) / 2, kBeamY - height - kTextHeight - kGap,
-                       PlainNumber(model_.spanUniform[j]), Colour::Blue, at_.Width(j));
+    LetterUniformLoad(j, kBeamY - height - kTextHeight - kGap);
+  }
+
+  /// The value of a load over its span, or once over all neighbours that bear the same where they
+  /// are too short for it.
+  void LetterUniformLoad(int j, double y) {
+    const std::string value = PlainNumber(model_.spanUniform[j]);
+    int first = j;
+    int last = j;
+    if (TextWidth(value) > at_.Width(j)) {
+      while (first > 1 && SameUniform(first - 1, j)) --first;
+      while (last < count_ && SameUniform(last + 1, j)) ++last;
+    }
+    if (first != j) return;  // lettered with the first of them
+    const double room = at_.Right(last) - at_.Left(j);
+    uniformValues_.Put(at_.Left(j) + room / 2, y, value, Colour::Blue, room);
+  }
+
+  bool SameUniform(int i, int j) const {
+    return model_.spanUniform[i].value() == model_.spanUniform[j].value();
   }
 
   void DrawPointLoads(int j) {

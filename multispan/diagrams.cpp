@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "app/number_text.h"
 
 namespace lignara {
 namespace {
 
-constexpr double kTextShare = 0.065;  // of the height
+constexpr double kTextShare = 0.09;  // of the height
+constexpr double kTextGap = 0.005;   // of the width, between a peak and its letters
 /// A curve of more points than a screen has columns would only cost time.
 constexpr int kCurvePoints = 2000;
 
@@ -61,7 +63,8 @@ class Diagram {
   }
   void Letter(const Point& peak, const char* pattern) {
     const double beside = peak.value > 0 ? -1.3 : 0.2;
-    drawing_.shapes.emplace_back(TextShape{peak.x, Y(peak.value) + beside * drawing_.textHeight,
+    drawing_.shapes.emplace_back(TextShape{peak.x + kTextGap * drawing_.width,
+                                           Y(peak.value) + beside * drawing_.textHeight,
                                            FormatNumber(peak.value, pattern), colour_});
   }
 
@@ -69,14 +72,15 @@ class Diagram {
   Colour colour_;
 };
 
-/// Twice the largest sum of the magnitudes of two neighbouring vertices.
+/// Twice the largest sum of the magnitudes of two neighbouring vertices. A picture is never
+/// infinitely high.
 double ShearHeight(const ShearDiagram& shear) {
   double largest = 0;
   for (std::size_t i = 0; i + 1 < shear.vertices.size(); ++i) {
     largest = std::max(largest,
                        std::fabs(shear.vertices[i].shear) + std::fabs(shear.vertices[i + 1].shear));
   }
-  return 2 * largest;
+  return std::min(2 * largest, std::numeric_limits<double>::max());
 }
 
 /// The stations of the curve, thinned where there are very many; the peaks stay.

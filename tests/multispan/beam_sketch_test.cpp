@@ -46,6 +46,22 @@ class BeamSketch : public MultiSpanTest {
   }
 };
 
+// 51 spans are too short for a value of their own: neighbours with the same load share one.
+TEST_F(BeamSketch, LettersAUniformLoadOnceOverShortSpansThatBearTheSame) {
+  Open(51);
+  for (int j = 1; j <= 51; ++j) EnterSpan(10, j <= 30 ? 1250 : 2000);
+  const std::vector<std::string> texts = TextsOf(Picture());
+  EXPECT_EQ(std::count(texts.begin(), texts.end(), "1250"), 1);
+  EXPECT_EQ(std::count(texts.begin(), texts.end(), "2000"), 1);
+}
+
+TEST_F(BeamSketch, LettersAUniformLoadOverEachSpanThatHasRoom) {
+  Open(3);
+  for (int j = 1; j <= 3; ++j) EnterSpan(10, 120);
+  const std::vector<std::string> texts = TextsOf(Picture());
+  EXPECT_EQ(std::count(texts.begin(), texts.end(), "120"), 3);
+}
+
 TEST_F(BeamSketch, ShowsSpansToScale) {
   Open(2);
   EnterSpan(10, 0);
