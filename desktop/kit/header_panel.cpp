@@ -9,6 +9,7 @@
 
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
+#include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 
 namespace lignara {
@@ -55,6 +56,11 @@ QGroupBox* MakeHeaderPanel(HeaderPanel& panel, Binding& binding, SessionState& s
   binding.CloseOnEscape(box, [&panel] { panel.open = false; });
   binding.Shown(box, &panel.open);
   return box;
+}
+
+QString TitleOr(const QString& otherwise, const SessionState& session) {
+  const QString title = ToQt(session.Header.Title).trimmed();
+  return title.isEmpty() ? otherwise : title;
 }
 
 }  // namespace lignara
