@@ -9,6 +9,8 @@ namespace lignara {
 struct SpanPointLoad {
   double force = 0;  ///< lbs, downward positive
   double x = 0;      ///< from the left end of the span, ft
+
+  bool operator==(const SpanPointLoad&) const = default;
 };
 
 /// One span as the solver takes it.
@@ -23,6 +25,8 @@ struct BeamSpan {
 
   /// Only the first entry is asked: where it is free, the span takes none of its point loads.
   bool HasPointLoads() const { return points.front().force != 0; }
+
+  bool operator==(const BeamSpan&) const = default;
 };
 
 /// A beam and its loads as the solver takes them. The real loads and a unit load are two of these.
@@ -38,6 +42,8 @@ struct BeamCase {
   double TotalLength() const;
   /// The distance of a span's left end from that of the beam; of count + 1: the total length.
   double StartOf(int j) const;
+
+  bool operator==(const BeamCase&) const = default;
 };
 
 /// The spans and loads of the model, up to the last span that its lists have room for.

@@ -12,8 +12,9 @@ constexpr const char* kTableNumber = "##0.##";
 constexpr const char* kReadOut = "#.##";
 
 constexpr ResultCaptions kEnglish = {"Units are lbs and ft-lbs", "Location(ft)", "Def.(in)",
-                                     "Max(in) ="};
-constexpr ResultCaptions kMetric = {"Units are N and N-m", "Location(m)", "Def.(cm)", "Max(cm)"};
+                                     "Max(in) =", "ft"};
+constexpr ResultCaptions kMetric = {"Units are N and N-m", "Location(m)", "Def.(cm)", "Max(cm)",
+                                    "m"};
 
 void FillTables(MultiSpanResults& window) {
   const MultiSpanSolution& run = *window.run;
@@ -34,6 +35,12 @@ void DrawDiagrams(MultiSpanResults& window) {
   window.momentPicture = DrawMomentDiagram(*window.run, window.cursor);
 }
 
+const char* StatusOf(const MultiSpanResults& window) {
+  if (window.runOlder) return "The beam has changed since this run: run it again";
+  if (window.stressOlder) return "A member has changed since the stress check: check again";
+  return "";
+}
+
 }  // namespace
 
 const ResultCaptions& ResultCaptionsOf(int unitSystem) {
@@ -47,12 +54,20 @@ void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session)
   if (window.run == nullptr) return;
   FillTables(window);
   window.maxMoment = FormatNumber(window.run->maximum.moment, kTableNumber);
-  window.maxMomentPlace = "at " + FormatNumber(window.run->maximum.location, kTableNumber) + " ft";
+  window.maxMomentPlace = "at " + FormatNumber(window.run->maximum.location, kTableNumber) + " " +
+                          ResultCaptionsOf(session.unitSystem.value()).length;
   DrawDiagrams(window);
 }
 
-bool IsOutOfDate(const MultiSpanResults& window, const SessionState& session) {
-  return window.run != session.MultiSpanRun;
+void RefreshMultiSpanResults(MultiSpanResults& window, const SessionState& session) {
+  if (window.run != session.MultiSpanRun) ShowMultiSpanResults(window, session);
+  if (window.run == nullptr) return;
+  const MultiSpanModel& model = session.MultiSpan;
+  window.runOlder = window.run->curve.integrations != model.curveIntegrations.value() ||
+                    window.run->beam != RealLoads(model);
+  const bool checked = !window.stressRows.empty();
+  window.stressOlder = checked && (window.runOlder || window.stressInputs != StressInputsOf(model));
+  window.status = StatusOf(window);
 }
 
 void ReadDiagrams(MultiSpanResults& window, double x) {

@@ -36,6 +36,14 @@ struct ShapePanel {
   Drawing picture;
 };
 
+/// What a stress check reads of the spans besides the run.
+struct StressInputs {
+  std::vector<float> numbers;
+  std::vector<std::string> names;
+
+  bool operator==(const StressInputs&) const = default;
+};
+
 /// The window `MDOUTPUT`, "Moment Distribution Output": the last run of the multi-span beam.
 /// Checks, unbraced lengths and the input data of reports are those of the model as it is now.
 struct MultiSpanResults {
@@ -55,8 +63,13 @@ struct MultiSpanResults {
 
   UnbracedPanel unbraced;
   std::vector<std::string> stressRows;  ///< the list "Stress Check"
+  StressInputs stressInputs;            ///< those of the list
   ShapePanel shape;
   HeaderPanel header;
+
+  bool runOlder = false;     ///< the beam has changed since the run
+  bool stressOlder = false;  ///< what the list "Stress Check" was made from has changed since
+  std::string status;        ///< says so in the status line
 };
 
 /// The captions that depend on the system of units.
@@ -65,6 +78,7 @@ struct ResultCaptions {
   const char* location;
   const char* deflection;
   const char* largest;
+  const char* length;  ///< the unit behind a place
 };
 const ResultCaptions& ResultCaptionsOf(int unitSystem);
 
@@ -72,8 +86,9 @@ const ResultCaptions& ResultCaptionsOf(int unitSystem);
 
 /// Shows the last run of the session; all panels are as on a window that opens.
 void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session);
-/// The window shows an older run than the last one.
-bool IsOutOfDate(const MultiSpanResults& window, const SessionState& session);
+/// Brings the window up to date before it is shown again: a run that was made meanwhile takes the
+/// place of the one shown, and results older than their input are known as such.
+void RefreshMultiSpanResults(MultiSpanResults& window, const SessionState& session);
 /// The mouse comes to a place of a diagram: shear and moment there, and the cursor lines.
 void ReadDiagrams(MultiSpanResults& window, double x);
 /// Moves the cursor by hundredths of the beam, to its ends at most; the first move starts at an
@@ -105,6 +120,8 @@ void CloseDeflectedShape(MultiSpanResults& window);
 void CheckWoodSpans(MultiSpanResults& window, SessionState& session, Platform& platform);
 /// Menu "Check Stress", "Glu-Lam Members...".
 void CheckGlulamSpans(MultiSpanResults& window, const SessionState& session, Platform& platform);
+/// What a check made now would read of the spans of the model.
+StressInputs StressInputsOf(const MultiSpanModel& model);
 
 // Reports (multi_span_report.cpp).
 

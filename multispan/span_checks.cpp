@@ -122,7 +122,30 @@ void WriteUseConditions(const MultiSpanModel& model, Rows& rows) {
   }
 }
 
+void AddGlulamInputs(const GlulamTransfer& glulam, std::vector<float>& numbers) {
+  for (const Float32& value : glulam.Values) numbers.push_back(value.value());
+  for (const Int16* code : {&glulam.DurationCode, &glulam.LoadCode, &glulam.MoistureCode}) {
+    numbers.push_back(code->value());
+  }
+}
+
 }  // namespace
+
+StressInputs StressInputsOf(const MultiSpanModel& model) {
+  StressInputs inputs;
+  for (int j = 1; j <= SpansOf(model); ++j) {
+    const auto span = static_cast<std::size_t>(j);
+    for (const Float32Array* list :
+         {&model.spanSectionModulus, &model.spanShearArea, &model.spanB, &model.spanD,
+          &model.spanFb, &model.spanFv, &model.spanE, &model.spanUnbraced}) {
+      inputs.numbers.push_back((*list)[j].value());
+    }
+    AddGlulamInputs(model.spanGlulam[span], inputs.numbers);
+    inputs.names.push_back(model.spanMember[span]);
+    inputs.names.push_back(model.spanType[span]);
+  }
+  return inputs;
+}
 
 void CheckWoodSpans(MultiSpanResults& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
@@ -141,6 +164,7 @@ void CheckWoodSpans(MultiSpanResults& window, SessionState& session, Platform& p
   if (window.run == nullptr) return;
   WriteActual(window, model, model.spanMember, window.stressRows);
   WriteAllowable(model, session.Member.AllowFb, window.stressRows);
+  window.stressInputs = StressInputsOf(model);
 }
 
 void CheckGlulamSpans(MultiSpanResults& window, const SessionState& session, Platform& platform) {
@@ -155,6 +179,7 @@ void CheckGlulamSpans(MultiSpanResults& window, const SessionState& session, Pla
   WriteActual(window, model, model.spanType, window.stressRows);
   WriteGlulamAllowables(model, window.stressRows);
   WriteUseConditions(model, window.stressRows);
+  window.stressInputs = StressInputsOf(model);
 }
 
 }  // namespace lignara

@@ -14,10 +14,15 @@
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
+#include "desktop/kit/header_panel.h"
 #include "desktop/kit/option_frame.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/text.h"
+#include "desktop/multispan/arrow_button.h"
 #include "desktop/windows.h"
+#include "multispan/descriptions.h"
 #include "multispan/integrations.h"
 
 namespace lignara {
@@ -55,6 +60,8 @@ class MultiSpanForm : public ToolWindow {
     side->addLayout(RunRow());
     panels->addLayout(side);
     rows->addLayout(panels);
+    AddStatusLine();
+    resize(930, 640);
     length_->setFocus();
   }
 
@@ -62,6 +69,8 @@ class MultiSpanForm : public ToolWindow {
     RefreshSpanNote(record_, session());
     ToolWindow::Refresh();
   }
+
+  QString DocumentName() const override { return TitleOr(windowTitle(), session()); }
 
  protected:
   void Returned() override { ActivateMultiSpan(record_, session(), platform()); }
@@ -89,15 +98,16 @@ class MultiSpanForm : public ToolWindow {
 
   QPushButton* Arrow(const QString& caption, const QString& tip, Binding::Command command) {
     QPushButton* button = Button(caption, std::move(command));
-    button->setFixedWidth(40);
-    button->setToolTip(tip);
+    MakeArrow(button, tip);
     return button;
   }
 
   Picture* BeamPicture() {
     auto* picture = Named("Beam", new Picture);
-    picture->setMinimumHeight(150);
+    picture->setMinimumHeight(InLetters(150));
     binding().Show(picture, &record_.picture);
+    binding().Follow(
+        [this, picture] { Describe(picture, ToQt(DescribeBeam(session().MultiSpan))); });
     LetUserSave(picture, platform());
     return picture;
   }
@@ -182,7 +192,6 @@ class MultiSpanForm : public ToolWindow {
     row->addWidget(update);
     row->addWidget(Button("Load &Same ", [this] { LoadSameSpan(record_, session()); }));
     auto* note = Named("Span Note", new QLabel);
-    note->setWordWrap(true);
     binding().Text(note, &record_.note);
     row->addWidget(note, 1);
     SetReturnButton(panel, update);
@@ -204,12 +213,8 @@ class MultiSpanForm : public ToolWindow {
     QPushButton* update =
         Button("Update &Load", [this] { UpdatePointLoad(record_, session(), platform()); });
     binding().Enabled(update, [this] { return record_.spanAccepted; });
-    auto* row = new QHBoxLayout;
-    row->addWidget(update);
-    auto* note = new QLabel("Note, X is the distance from the left side of the span.");
-    note->setWordWrap(true);
-    row->addWidget(note, 1);
-    rows->addLayout(row);
+    rows->addWidget(update, 0, Qt::AlignLeft);
+    rows->addWidget(new QLabel("Note, X is the distance from the left side of the span."));
     SetReturnButton(panel, update);
     return panel;
   }

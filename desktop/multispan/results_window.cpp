@@ -19,9 +19,13 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/header_panel.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/table.h"
+#include "desktop/kit/text.h"
+#include "desktop/multispan/arrow_button.h"
 #include "desktop/windows.h"
+#include "multispan/descriptions.h"
 
 namespace lignara {
 namespace {
@@ -44,14 +48,16 @@ class ResultsForm : public ToolWindow {
     upper->addLayout(Diagrams(), 1);
     rows->addLayout(upper, 3);
     rows->addLayout(Panels(), 1);
-    resize(1100, 760);
+    binding().Text(AddStatusText("Status"), &record_.status);
+    resize(940, 680);
   }
 
-  /// A run that was made meanwhile takes the place of the one shown.
   void Refresh() override {
-    if (IsOutOfDate(record_, session())) ShowMultiSpanResults(record_, session());
+    RefreshMultiSpanResults(record_, session());
     ToolWindow::Refresh();
   }
+
+  QString DocumentName() const override { return TitleOr(windowTitle(), session()); }
 
   /// The arrow keys move the cursor of the diagrams.
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -89,6 +95,16 @@ class ResultsForm : public ToolWindow {
     return button;
   }
 
+  /// A result of the run: grey once the beam has changed.
+  void GreyWhenOld(QWidget* result) {
+    binding().OutOfDate(result, [this] { return record_.runOlder; });
+  }
+
+  void ShowResult(QLineEdit* field, const std::string* text) {
+    binding().Text(field, text);
+    GreyWhenOld(field);
+  }
+
   QLayout* Tables() {
     auto* rows = new QVBoxLayout;
     rows->addWidget(
@@ -105,9 +121,10 @@ class ResultsForm : public ToolWindow {
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(6, 4, 6, 6);
     QTableWidget* table = MakeTable(caption, captions);
-    table->setMinimumSize(260, 90);
-    table->setMaximumWidth(340);
+    table->setMinimumSize(InLetters(250), InLetters(72));
+    table->setMaximumWidth(InLetters(320));
     binding().Table(table, rows);
+    GreyWhenOld(table);
     column->addWidget(table);
     return panel;
   }
@@ -116,8 +133,9 @@ class ResultsForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Unbraced Lengths");
     auto* rows = new QVBoxLayout(panel);
     auto* top = new QHBoxLayout;
-    QPushButton* back = Arrow("<", [this] { ShowPreviousUnbraced(record_, session()); });
-    QPushButton* on = Arrow(">", [this] { ShowNextUnbraced(record_, session()); });
+    QPushButton* back =
+        Arrow("<", "Previous span", [this] { ShowPreviousUnbraced(record_, session()); });
+    QPushButton* on = Arrow(">", "Next span", [this] { ShowNextUnbraced(record_, session()); });
     QGroupBox* span = MakePanel("Span");
     auto* walk = new QHBoxLayout(span);
     walk->setContentsMargins(6, 2, 6, 4);
@@ -141,16 +159,16 @@ class ResultsForm : public ToolWindow {
     return panel;
   }
 
-  QPushButton* Arrow(const QString& caption, Binding::Command command) {
+  QPushButton* Arrow(const QString& caption, const QString& tip, Binding::Command command) {
     QPushButton* button = Button(caption, std::move(command));
-    button->setFixedWidth(40);
+    MakeArrow(button, tip);
     return button;
   }
 
   QLayout* Diagrams() {
     auto* rows = new QVBoxLayout;
-    rows->addWidget(DiagramPanel("Shear Diag.", &record_.shearPicture), 1);
-    rows->addWidget(DiagramPanel("Moment Diag.", &record_.momentPicture), 1);
+    rows->addWidget(DiagramPanel("Shear Diag.", &record_.shearPicture, DescribeShear), 1);
+    rows->addWidget(DiagramPanel("Moment Diag.", &record_.momentPicture, DescribeMoment), 1);
     rows->addLayout(ReadOuts());
     auto* notes = new QHBoxLayout;
     notes->addWidget(new QLabel(captions_.units));
@@ -161,19 +179,22 @@ class ResultsForm : public ToolWindow {
     return rows;
   }
 
-  Picture* DiagramPicture(const char* name, const Drawing* drawing, int height) {
+  using Describer = std::string (*)(const MultiSpanResults& window);
+
+  Picture* DiagramPicture(const char* name, const Drawing* drawing, Describer words, int height) {
     auto* picture = Named(name, new Picture);
-    picture->setMinimumSize(260, height);
+    picture->setMinimumSize(InLetters(250), InLetters(height));
     binding().Show(picture, drawing);
+    binding().Follow([this, picture, words] { Describe(picture, ToQt(words(record_))); });
     LetUserSave(picture, platform());
     return picture;
   }
 
-  QGroupBox* DiagramPanel(const char* name, const Drawing* drawing) {
+  QGroupBox* DiagramPanel(const char* name, const Drawing* drawing, Describer words) {
     QGroupBox* panel = MakePanel(name);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(6, 4, 6, 6);
-    Picture* picture = DiagramPicture(name, drawing, 100);
+    Picture* picture = DiagramPicture(name, drawing, words, 85);
     picture->OnMove([this](double x, double) { binding().Run([&] { ReadDiagrams(record_, x); }); });
     picture->setFocusPolicy(Qt::StrongFocus);
     picture->installEventFilter(this);
@@ -187,12 +208,12 @@ class ResultsForm : public ToolWindow {
     for (const auto& [caption, text] :
          {std::pair{"Location", &record_.location}, std::pair{"Shear", &record_.shear},
           std::pair{"Moment", &record_.moment}, std::pair{"Max Moment", &record_.maxMoment}}) {
-      binding().Text(PutValue(grid, 0, column, caption, 60), text);
+      ShowResult(PutValue(grid, 0, column, caption, 60), text);
       column += 2;
     }
     QLineEdit* place = MakeField("Max Moment Location", 70);
     ShowOnly(place);
-    binding().Text(place, &record_.maxMomentPlace);
+    ShowResult(place, &record_.maxMomentPlace);
     grid->addWidget(place, 0, column);
     return grid;
   }
@@ -211,8 +232,10 @@ class ResultsForm : public ToolWindow {
     column->setContentsMargins(6, 4, 6, 6);
     QListWidget* list = MakeList("Stress Check", 5);
     binding().List(list, &record_.stressRows);
+    list->setUniformItemSizes(false);  // the widest row is not the first: it scrolls sideways
     binding().WhyEmpty(list,
                        [] { return "The menu \"Check Stress\" lists the stresses of all spans."; });
+    binding().OutOfDate(list, [this] { return record_.stressOlder; });
     column->addWidget(list);
     return panel;
   }
@@ -221,7 +244,7 @@ class ResultsForm : public ToolWindow {
     QGroupBox* panel = MakePanel("Deflected Shape");
     auto* rows = new QVBoxLayout(panel);
     rows->setContentsMargins(6, 4, 6, 6);
-    Picture* picture = DiagramPicture("Deflected Shape", &record_.shape.picture, 60);
+    Picture* picture = DiagramPicture("Deflected Shape", &record_.shape.picture, DescribeShape, 60);
     picture->OnPress([this](double x, double) {
       binding().Run([&] { MoveShapeStation(record_, record_.shape.shape.StationAt(x)); });
     });
@@ -234,10 +257,10 @@ class ResultsForm : public ToolWindow {
                      [this](int station) { MoveShapeStation(record_, station); });
     rows->addWidget(bar);
     auto* grid = new QGridLayout;
-    binding().Text(PutValue(grid, 0, 0, captions_.location, 64), &record_.shape.location);
-    binding().Text(PutValue(grid, 0, 2, captions_.deflection, 64), &record_.shape.deflection);
-    binding().Text(PutValue(grid, 1, 0, "Rotation(rad)", 64), &record_.shape.rotation);
-    binding().Text(PutValue(grid, 1, 2, captions_.largest, 64), &record_.shape.largest);
+    ShowResult(PutValue(grid, 0, 0, captions_.location, 64), &record_.shape.location);
+    ShowResult(PutValue(grid, 0, 2, captions_.deflection, 64), &record_.shape.deflection);
+    ShowResult(PutValue(grid, 1, 0, "Rotation(rad)", 64), &record_.shape.rotation);
+    ShowResult(PutValue(grid, 1, 2, captions_.largest, 64), &record_.shape.largest);
     rows->addLayout(grid);
     QPushButton* close = Button("Cl&ose", [this] { CloseDeflectedShape(record_); });
     grid->addWidget(close, 1, 4);

@@ -24,6 +24,7 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
+#include "multispan/multi_span_solution.h"
 #include "script/script_platform.h"
 
 namespace lignara {
@@ -50,7 +51,10 @@ class Monkey {
   }
 
   /// From here on the window is the newest, which the monkey likes best.
-  void Open(const char* window) { platform_.OpenWindow(window); }
+  void Open(const char* window) {
+    RunABeam();
+    platform_.OpenWindow(window);
+  }
 
   void Play(int actions) {
     for (int i = 0; i < actions && !testing::Test::HasFailure(); ++i) {
@@ -68,6 +72,20 @@ class Monkey {
  private:
   int Pick(std::size_t count) {
     return std::uniform_int_distribution<int>(0, static_cast<int>(count) - 1)(random_);
+  }
+
+  /// A beam of three spans and its run, for the windows that show them.
+  void RunABeam() {
+    session_.SpanCount = 3;
+    MultiSpanModel& beam = session_.MultiSpan;
+    beam.spanCount = 3;
+    for (int j = 1; j <= 3; ++j) {
+      beam.spanLength[j] = 10 + j;
+      beam.spanE[j] = 1600000;
+      beam.spanI[j] = 100;
+      beam.spanUniform[j] = 120;
+    }
+    session_.MultiSpanRun = std::make_shared<const MultiSpanSolution>(solveMultiSpan(beam));
   }
 
   /// A dialog may come up or not: an answer for each kind that the next action can meet.
@@ -209,7 +227,8 @@ TEST_P(MonkeyInAWindowTest, FindsNoCrashAndNoInternal) {
 
 INSTANTIATE_TEST_SUITE_P(Windows, MonkeyInAWindowTest,
                          testing::Values(window_name::kPlywood, window_name::kGlulam,
-                                         window_name::kFasteners, window_name::kBolts));
+                                         window_name::kFasteners, window_name::kBolts,
+                                         window_name::kMultiSpan, window_name::kMultiSpanResults));
 
 INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Range(1u, 9u));
 

@@ -46,6 +46,23 @@ const std::initializer_list<const char*> kOpenAllTrussPanels = {"window TRUSS",
                                                                 "menu \"Files\" \"Fonts...\"",
                                                                 "press \"Area Load (lbs/sf)\""};
 
+const std::initializer_list<const char*> kRunTwoSpans = {"window main",
+                                                         "enter \"Enter No. of Spans\" 2",
+                                                         "press \"Multi-Span Beam\"",
+                                                         "window MS",
+                                                         "enter \"Length(ft)\" 10",
+                                                         "enter \"Unif. ld(lb/ft)\" 120",
+                                                         "enter \"Mom. of Inertia(in^4)\" 100",
+                                                         "press \"Update Span\"",
+                                                         "press \"Span\" \">\"",
+                                                         "press \"Load Same \"",
+                                                         "press \"Run\"",
+                                                         "window MDOUTPUT"};
+
+const std::initializer_list<const char*> kOpenAllBeamResults = {
+    "window MDOUTPUT", "menu \"Show Deflected Shape...\"",
+    "menu \"Files\" \"Project Description...\""};
+
 OpenDesktop::OpenDesktop() : OpenDesktop(QSize(1366, 900)) {}
 
 OpenDesktop::OpenDesktop(const QSize& screen)

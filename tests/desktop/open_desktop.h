@@ -60,4 +60,9 @@ void ExpectNoCaptionCutOff(const ToolWindow* window);
 /// Lines that open a truss window with all its panels.
 extern const std::initializer_list<const char*> kOpenAllTrussPanels;
 
+/// Lines that enter a beam of two spans of 10 ft under 120 lbs/ft in the launcher and run it.
+extern const std::initializer_list<const char*> kRunTwoSpans;
+/// Lines that then open all panels of its results.
+extern const std::initializer_list<const char*> kOpenAllBeamResults;
+
 }  // namespace lignara

@@ -47,6 +47,48 @@ TEST(Readers, HearWhatTheTrussPictureShows) {
             "King post truss, 2 panels, after a run: largest force TL 1 1300.00 lbs compression");
 }
 
+/// The description that a reader has of a picture of a window.
+std::string DescriptionIn(ToolWindow* window, const char* picture) {
+  for (QWidget* control : VisibleControls(window)) {
+    if (CaptionOf(control) != picture || dynamic_cast<Picture*>(control) == nullptr) continue;
+    EXPECT_EQ(ReaderOf(control)->role(), QAccessible::Graphic);
+    return FromQt(ReaderOf(control)->text(QAccessible::Description));
+  }
+  return "no such picture";
+}
+
+// 450 lbs on the outer supports, 120 x 100 / 8 ft-lbs over the middle one; at 4.4 ft
+// w x (L^3 - 3 L x^2 + 2 x^3) / 48 E I = 20.736 x 0.44 x 0.5896 / 48 = 0.1121 in.
+TEST(Readers, HearWhatThePicturesOfAMultiSpanBeamShow) {
+  OpenDesktop desktop;
+  desktop.Play(kRunTwoSpans);
+  desktop.Play(kOpenAllBeamResults);
+  EXPECT_EQ(DescriptionIn(desktop.Window("MS"), "Beam"),
+            "Beam of 2 spans, left end pinned, right end pinned, 2 uniform loads, 0 point loads");
+  ToolWindow* results = desktop.Window("MDOUTPUT");
+  desktop.Play({"click \"Shear Diag.\" 2.5 0"});
+  EXPECT_EQ(DescriptionIn(results, "Shear Diag."),
+            "Shear along the beam: largest 750.00 lbs, 150. at 2.5 ft");
+  EXPECT_EQ(DescriptionIn(results, "Moment Diag."),
+            "Moment along the beam: largest 1500.00 ft-lbs, 750. at 2.5 ft");
+  EXPECT_EQ(DescriptionIn(results, "Deflected Shape"),
+            "Deflected shape: largest 0.1121 in, 0.0000 in at 0.000 ft");
+}
+
+TEST(Readers, HearWhichWayAnArrowWalks) {
+  OpenDesktop desktop;
+  desktop.Play(kRunTwoSpans);
+  QStringList walks;
+  for (const char* name : {"MS", "MDOUTPUT"}) {
+    for (QWidget* control : VisibleControls(desktop.Window(name))) {
+      const bool arrow = CaptionOf(control) == "<" || CaptionOf(control) == ">";
+      if (arrow) walks << ReaderOf(control)->text(QAccessible::Name);
+    }
+  }
+  EXPECT_EQ(FromQt(walks.join(", ")),
+            "Previous span, Next span, Previous load, Next load, Previous span, Next span");
+}
+
 /// Fails the test for each stop of the Tab key of which a reader has nothing to say.
 void ExpectNamesAndRoles(ToolWindow* window) {
   int stops = 0;
@@ -70,6 +112,9 @@ TEST(Readers, HearANameAndARoleWhereverTheTabKeyStops) {
                 "window FASTENER", "press \"Bolts\"", "window main", "press \"Glu-Lam Data Base\"",
                 "window main", "press \"Ply Wood\"", "window main",
                 "press \"Pure Wood Data Base\""});
+  desktop.Play(kRunTwoSpans);
+  desktop.Play(kOpenAllBeamResults);
+  desktop.Play({"window MS", "menu \"Options\" \"Integrations...\""});
   for (const QString& name : desktop.platform.OpenWindows()) {
     ExpectNamesAndRoles(desktop.platform.FindWindow(name));
   }

@@ -54,10 +54,11 @@ class SmallScreens : public testing::TestWithParam<SmallScreen> {
 
   OpenDesktop& desktop() { return *desktop_; }
 
-  void Look(const char* name) {
+  /// `which` tells pictures of one window apart.
+  void Look(const char* name, const char* which = "") {
     ToolWindow* window = desktop().Window(name);
     QApplication::processEvents();
-    Save(window);
+    Save(window, which);
     const QSize least = window->minimumSizeHint();
     EXPECT_LE(least.width(), 1000) << name;
     EXPECT_LE(least.height(), 700) << name;
@@ -68,10 +69,10 @@ class SmallScreens : public testing::TestWithParam<SmallScreen> {
   }
 
  private:
-  static void Save(ToolWindow* window) {
+  static void Save(ToolWindow* window, const char* which) {
     const QString directory = qEnvironmentVariable("LIGNARA_PICTURES");
     if (directory.isEmpty()) return;
-    const QString name = QString("%1-%2.png").arg(GetParam().name, window->name());
+    const QString name = QString("%1-%2%3.png").arg(GetParam().name, window->name(), which);
     EXPECT_TRUE(window->grab().save(QDir(directory).filePath(name)));
   }
 
@@ -130,6 +131,28 @@ TEST_P(SmallScreens, HoldTheDataBases) {
                   "window main", "press \"Glu-Lam Data Base\"", "window main",
                   "press \"Ply Wood\""});
   for (const char* name : {"FASTENER", "bolts", "GL", "ply"}) Look(name);
+}
+
+TEST_P(SmallScreens, HoldABeamOfTwoSpansWithItsResults) {
+  desktop().Play(kRunTwoSpans);
+  for (const char* name : {"MS", "MDOUTPUT"}) Look(name);
+  const QSize before = desktop().Window("MDOUTPUT")->size();
+  desktop().Play(kOpenAllBeamResults);
+  Look("MDOUTPUT");
+  EXPECT_EQ(desktop().Window("MDOUTPUT")->size(), before);
+  desktop().Play({"window MS", "menu \"Options\" \"Integrations...\""});
+  Look("INTGR");
+}
+
+TEST_P(SmallScreens, HoldABeamOfFiftyOneSpansWithItsResults) {
+  desktop().Play({"enter \"Enter No. of Spans\" 51", "press \"Multi-Span Beam\"", "window MS",
+                  "enter \"Length(ft)\" 10", "enter \"Unif. ld(lb/ft)\" 120",
+                  "enter \"Mom. of Inertia(in^4)\" 100", "press \"Update Span\""});
+  for (int j = 2; j <= 51; ++j) {
+    desktop().Play({"press \"Span\" \">\"", "press \"Load Same \""});
+  }
+  desktop().Play({"press \"Run\""});
+  for (const char* name : {"MS", "MDOUTPUT"}) Look(name, "51");
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, SmallScreens, testing::ValuesIn(kScreens),

@@ -139,6 +139,34 @@ TEST_F(PointLoads, AtThePlaceOfAnEarlierLoadOutOfOrderAreRefused) {
   EXPECT_EQ(Messages(), Texts{kTaken});
 }
 
+// Where several refusals apply the first of them is told.
+TEST_F(PointLoads, AreRefusedInTheOrderOfTheChecks) {
+  OpenThree();
+  model().spanLength[2] = 0;
+  Next();
+  EnterLoad("500", "0");  // both ends of a span without length
+  EXPECT_EQ(Messages(), Texts{kOnJoint});
+  model().spanLength[3] = 0;
+  Next();
+  EnterLoad("500", "0");  // the left joint and the right end
+  EXPECT_EQ(Messages(), Texts{kOnLeftJoint});
+  OpenThree();
+  EnterLoad("500", "5");
+  NextLoad();
+  EnterLoad("500", "0");  // at the left end and out of order
+  EXPECT_EQ(Messages(), Texts{kOnLeftEnd});
+  EnterLoad("500", "-1");  // off the span and out of order
+  EXPECT_EQ(Messages(), Texts{kOffSpan});
+  model().spanLength[1] = 4;
+  EnterLoad("500", "4");  // on the joint and out of order
+  EXPECT_EQ(Messages(), Texts{kOnJoint});
+  model().spanLength[1] = 10;
+  EnterLoad("500", "7");
+  NextLoad();
+  EnterLoad("500", "5");  // out of order at the place of the first
+  EXPECT_EQ(Messages(), Texts{kOrder});
+}
+
 TEST_F(PointLoads, CanBeStoredAgainAtTheirOwnPlace) {
   OpenThree();
   EnterLoad("500", "5");

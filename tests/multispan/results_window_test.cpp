@@ -1,5 +1,7 @@
 #include "multispan/results_window.h"
 
+#include <cmath>
+
 #include "app/number_text.h"
 #include "tests/multispan/multi_span_fixture.h"
 
@@ -47,6 +49,12 @@ TEST_F(ResultsWindow, ShowsTheMaximumAndItsPlace) {
   EXPECT_EQ(results.maxMomentPlace, "at 10. ft");
 }
 
+TEST_F(ResultsWindow, PlaceOfTheMaximumFollowsTheUnits) {
+  session.unitSystem = 1;
+  Solve({10, 10}, 120);
+  EXPECT_EQ(results.maxMomentPlace, "at 10. m");
+}
+
 TEST_F(ResultsWindow, OpensWithoutReadOutsAndWithClosedPanels) {
   Solve({10, 10}, 120);
   EXPECT_EQ((Texts{results.location, results.shear, results.moment}), (Texts{"", "", ""}));
@@ -55,17 +63,121 @@ TEST_F(ResultsWindow, OpensWithoutReadOutsAndWithClosedPanels) {
   EXPECT_TRUE(results.stressRows.empty());
 }
 
-TEST_F(ResultsWindow, ANewRunPutsItOutOfDateAndEmptiesItsPanels) {
+TEST_F(ResultsWindow, ANewRunTakesThePlaceOfTheOldAndEmptiesThePanels) {
   Solve({10, 10}, 120);
-  EXPECT_FALSE(IsOutOfDate(results, session));
   results.stressRows = {"old"};
+  ReadDiagrams(results, 4);
   ShowDeflectedShape(results, session, platform);
+  OpenHeaderPanel(results.header, session);
+  RefreshMultiSpanResults(results, session);
+  EXPECT_TRUE(results.shape.open);  // the same run still
+  model().spanUniform[1] = model().spanUniform[2] = 240;
   Run();
-  EXPECT_TRUE(IsOutOfDate(results, session));
-  ShowMultiSpanResults(results, session);
+  RefreshMultiSpanResults(results, session);
   EXPECT_TRUE(results.stressRows.empty());
+  EXPECT_EQ((Texts{results.location, results.shear, results.moment}), (Texts{"", "", ""}));
   EXPECT_FALSE(results.shape.open);
-  EXPECT_EQ(results.endMoments.size(), 2u);
+  EXPECT_FALSE(results.header.open);
+  EXPECT_EQ(results.maxMoment, "3000.");  // 240 x 100 / 8
+}
+
+// Older than the beam.
+
+class OlderResults : public ResultsWindow {
+ protected:
+  OlderResults() {
+    Solve({10, 10}, 120);
+    EnterLoad("500", "5");
+    RunAndShow();
+  }
+  bool RunIsOlder() {
+    RefreshMultiSpanResults(results, session);
+    EXPECT_EQ(results.status.empty(), !results.runOlder && !results.stressOlder);
+    return results.runOlder;
+  }
+  bool StressIsOlder() {
+    RefreshMultiSpanResults(results, session);
+    return results.stressOlder;
+  }
+};
+
+TEST_F(OlderResults, AreThoseOfARunWhoseInputHasChanged) {
+  EXPECT_FALSE(RunIsOlder());
+  for (Float32Array MultiSpanModel::*list :
+       {&MultiSpanModel::spanLength, &MultiSpanModel::spanI, &MultiSpanModel::spanE}) {
+    const float before = (model().*list)[2].value();
+    (model().*list)[2] = before + 1;
+    EXPECT_TRUE(RunIsOlder());
+    (model().*list)[2] = before;
+    EXPECT_FALSE(RunIsOlder());
+  }
+  model().spanUniform[2] = 121;
+  EXPECT_TRUE(RunIsOlder());
+  EXPECT_EQ(results.status, "The beam has changed since this run: run it again");
+  Run();
+  EXPECT_FALSE(RunIsOlder());
+}
+
+TEST_F(OlderResults, FollowPointLoadsSupportsAndIntegrations) {
+  EnterLoad("501", "5");
+  EXPECT_TRUE(RunIsOlder());
+  EnterLoad("500", "6");
+  EXPECT_TRUE(RunIsOlder());
+  EnterLoad("500", "5");
+  EXPECT_FALSE(RunIsOlder());
+  Support(FarEnd::Left, EndSupport::Fixed);
+  EXPECT_TRUE(RunIsOlder());
+  Support(FarEnd::Left, EndSupport::Pinned);
+  model().curveIntegrations = 7999;
+  EXPECT_TRUE(RunIsOlder());
+  model().curveIntegrations = 8000;
+  EXPECT_FALSE(RunIsOlder());
+}
+
+TEST_F(OlderResults, DoNotFollowWhatTheRunDoesNotRead) {
+  model().spanUnbraced[1] = 4;
+  model().spanSectionModulus[1] = 30;
+  model().spanMember[1] = "Hem-Fir, 2X10";
+  Type(SpanField::Length, "99");  // never stored
+  EXPECT_FALSE(RunIsOlder());
+}
+
+TEST_F(OlderResults, AreThoseOfABeamThatWasOpenedAnew) {
+  Open(2);
+  EXPECT_TRUE(RunIsOlder());
+}
+
+TEST_F(OlderResults, OfAStressCheckFollowItsMembersAndTheRun) {
+  session.Member.MemberSource = 2;
+  EXPECT_FALSE(StressIsOlder());
+  model().spanUnbraced[1] = 4;
+  EXPECT_FALSE(StressIsOlder());  // nothing was checked
+  CheckGlulamSpans(results, session, platform);
+  EXPECT_FALSE(StressIsOlder());
+  for (Float32Array MultiSpanModel::*list :
+       {&MultiSpanModel::spanSectionModulus, &MultiSpanModel::spanShearArea, &MultiSpanModel::spanB,
+        &MultiSpanModel::spanD, &MultiSpanModel::spanFb, &MultiSpanModel::spanFv,
+        &MultiSpanModel::spanUnbraced}) {
+    const float before = (model().*list)[2].value();
+    (model().*list)[2] = before + 1;
+    EXPECT_TRUE(StressIsOlder());
+    EXPECT_EQ(results.status, "A member has changed since the stress check: check again");
+    (model().*list)[2] = before;
+    EXPECT_FALSE(StressIsOlder());
+  }
+  model().spanGlulam[1].Value(GlulamValue::Fv) = 240;
+  EXPECT_TRUE(StressIsOlder());
+  CheckGlulamSpans(results, session, platform);
+  EXPECT_FALSE(StressIsOlder());
+  model().spanGlulam[1].MoistureCode = 2;
+  EXPECT_TRUE(StressIsOlder());
+  CheckGlulamSpans(results, session, platform);
+  model().spanType[2] = "GLU-LAM";
+  EXPECT_TRUE(StressIsOlder());
+  CheckGlulamSpans(results, session, platform);
+  Support(FarEnd::Right, EndSupport::Fixed);
+  EXPECT_TRUE(StressIsOlder());
+  EXPECT_EQ(results.status, "The beam has changed since this run: run it again");
 }
 
 TEST_F(ResultsWindow, WithoutARunHasNothingToShow) {
@@ -106,6 +218,25 @@ TEST_F(ResultsWindow, ReadOutsOfNothingAreAPoint) {
   EXPECT_EQ(ReadAt(0), (Texts{".", "450.", "."}));
   EXPECT_EQ(ReadAt(3.75), (Texts{"3.75", ".", "843.75"}));
   EXPECT_EQ(ReadAt(25), (Texts{"25.", ".", "."}));
+}
+
+// A uniform load is kept in 64 bits: 1e308 lbs/ft can be entered, but what follows from it is no
+// number. Steps of the solver end silently, and nothing shows infinity.
+TEST_F(ResultsWindow, HugeLoadsShowNothingThatIsNoNumber) {
+  Open(3);
+  for (int j = 0; j < 3; ++j) EnterSpan(10, 100);
+  for (const double load : {1e308, -1e308, 1e300}) {
+    model().spanUniform[2] = load;
+    RunAndShow();
+    ShowDeflectedShape(results, session, platform);
+    PrintMultiSpanReport(results, session, platform);
+    EXPECT_TRUE(std::isfinite(results.shearPicture.height));
+    EXPECT_TRUE(std::isfinite(results.momentPicture.height));
+    for (const double x : {5, 15, 25}) {
+      for (const std::string& text : ReadAt(x)) EXPECT_EQ(text.find_first_of("in"), text.npos);
+    }
+    EXPECT_TRUE(Messages().empty());
+  }
 }
 
 TEST_F(ResultsWindow, CursorStandsInBothDiagrams) {

@@ -84,6 +84,14 @@ TEST_F(SpanChecks, WoodWantsAllDataOfEachSpan) {
   }
 }
 
+TEST_F(SpanChecks, WoodWantsASawnMemberBeforeItsData) {
+  Solve(8, 8);
+  model().spanFb[1] = 0;
+  session.Member.MemberSource = 2;
+  CheckWood();
+  EXPECT_EQ(Messages(), Texts{"YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"});
+}
+
 TEST_F(SpanChecks, EmptyTheListFirst) {
   Solve(8, 8);
   CheckWood();

@@ -5,9 +5,11 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <set>
 
@@ -33,6 +35,15 @@ class MultiSpanWindowsTest : public testing::Test {
                   "enter \"Mom. of Inertia(in^4)\" 100", "press \"Update Span\"",
                   "press \"Span\" \">\"", "press \"Load Same \"", "press \"Run\"",
                   "window MDOUTPUT"});
+    QApplication::processEvents();
+    return desktop.Window("MDOUTPUT");
+  }
+
+  /// Runs the member in the fields on two spans and checks it.
+  ToolWindow* OpenResultsOfTheMember() {
+    desktop.Play({"window MS", "enter \"Length(ft)\" 10", "enter \"Unif. ld(lb/ft)\" 120",
+                  "press \"Update Span\"", "press \"Span\" \">\"", "press \"Load Same \"",
+                  "press \"Run\"", "window MDOUTPUT", "menu \"Check Stress\" \"Wood member...\""});
     QApplication::processEvents();
     return desktop.Window("MDOUTPUT");
   }
@@ -185,6 +196,69 @@ TEST_F(MultiSpanWindowsTest, PressOnTheDeflectedShapeMovesItsStation) {
   OpenResults();
   desktop.Play({"menu \"Show Deflected Shape...\"", "click \"Deflected Shape\" 4.1 0"});
   EXPECT_EQ(Read("read \"Location(ft)\""), "value \"4.000\"");
+}
+
+// Results older than the beam.
+
+TEST_F(MultiSpanWindowsTest, ResultsOlderThanTheBeamAreGreyAndSaySo) {
+  ToolWindow* window = OpenAllPanels();
+  const auto grey = [&](const char* name) {
+    return Control(window, name)->property("outOfDate").toBool();
+  };
+  const char* results[] = {
+      "Span End Moments", "Support Reactions", "Location",           "Shear",
+      "Moment",           "Max Moment",        "Location(ft)",       "Def.(in)",
+      "Rotation(rad)",    "Max(in) =",         "Max Moment Location"};
+  for (const char* name : results) EXPECT_FALSE(grey(name)) << name;
+  desktop.Play({"window MS", "press \"Far Right Support\" \"Fixed\"", "window MDOUTPUT"});
+  for (const char* name : results) EXPECT_TRUE(grey(name)) << name;
+  EXPECT_EQ(Read("read \"Status\""), "value \"The beam has changed since this run: run it again\"");
+  desktop.Play({"window MS", "press \"Run\"", "window MDOUTPUT"});
+  EXPECT_FALSE(grey("Support Reactions"));
+  EXPECT_EQ(Read("read \"Status\""), "value \"\"");
+}
+
+TEST_F(MultiSpanWindowsTest, AStressCheckOlderThanItsMembersIsGrey) {
+  OpenInput();
+  desktop.Play({"menu \"Options\" \"Member Data Base...\"", "window WTYPETR",
+                "press \"Width\" \"2\"", "press \"Depth\" \"10\"", "press \"Accept\"",
+                "press \"OK\""});
+  QWidget* list = Control(OpenResultsOfTheMember(), "Stress Check");
+  EXPECT_FALSE(list->property("outOfDate").toBool());
+  desktop.Play({"enter \"Unbraced Length (ft)\" 4", "press \"Unbraced Lengths\" \"Enter\""});
+  EXPECT_TRUE(list->property("outOfDate").toBool());
+  desktop.Play({"menu \"Check Stress\" \"Wood member...\""});
+  EXPECT_FALSE(list->property("outOfDate").toBool());
+}
+
+// The lines of a glulam check are long: none hides its value.
+TEST_F(MultiSpanWindowsTest, LongLinesOfAStressCheckScrollSideways) {
+  OpenInput();
+  desktop.Play({"menu \"Options\" \"Member Data Base...\"", "window WTYPETR",
+                "press \"Width\" \"2\"", "press \"Depth\" \"10\"", "press \"Accept\"",
+                "press \"OK\""});
+  auto* list = qobject_cast<QListWidget*>(Control(OpenResultsOfTheMember(), "Stress Check"));
+  ASSERT_NE(list, nullptr);
+  list->setFixedWidth(120);
+  QApplication::processEvents();
+  EXPECT_GT(list->horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(MultiSpanWindowsTest, DocumentsBearTheTitleOfTheProject) {
+  ToolWindow* window = OpenAllPanels();
+  EXPECT_EQ(window->DocumentName(), "Moment Distribution Output");
+  EXPECT_EQ(desktop.Window("MS")->DocumentName(), "Multi Span Beams");
+  desktop.Play({"enter \"Title:\" \" Library roof \"",
+                "press \"Project Description for Print Header\" \"OK\""});
+  EXPECT_EQ(window->DocumentName(), "Library roof");
+  EXPECT_EQ(desktop.Window("MS")->DocumentName(), "Library roof");
+}
+
+TEST_F(MultiSpanWindowsTest, OpenInsideASmallScreenWhateverTheScreen) {
+  for (ToolWindow* window : {OpenResults(), desktop.Window("MS")}) {
+    EXPECT_LE(window->width(), 1016) << FromQt(window->name());
+    EXPECT_LE(window->height(), 732) << FromQt(window->name());
+  }
 }
 
 // A new run.
