@@ -33,7 +33,7 @@ std::string Value(const Float32& number) { return FormatNumber(number, kTwoDecim
 
 void WriteSpan(Report& report, const MultiSpanModel& model, int j) {
   const auto span = static_cast<std::size_t>(j);
-  report.Line("MEMBER(" + std::to_string(j) + ") = " + model.spanMember[span]);
+  report.Heads({"MEMBER(" + std::to_string(j) + ") = " + model.spanMember[span]});
   report.Line(model.spanType[span]);
   for (const InputLine& line : kInputLines) {
     report.Line(line.label + Value((model.*line.value)[j]) + line.unit);
@@ -42,6 +42,16 @@ void WriteSpan(Report& report, const MultiSpanModel& model, int j) {
   for (int k = 1; k <= model.pointCount[j].value(); ++k) {
     report.Line("Point Load = " + Value(model.pointLoad[span][k]) + " lbs at " +
                 Value(model.pointX[span][k]) + " ft from left end.");
+  }
+}
+
+/// The headings of the list stand again on paper where their lines go on on a further page.
+void WriteStressRow(Report& report, const std::string& row) {
+  const auto& headings = stress_heading::kAll;
+  if (std::find(std::begin(headings), std::end(headings), row) != std::end(headings)) {
+    report.Heads({row});
+  } else {
+    report.Line(row);
   }
 }
 
@@ -87,8 +97,8 @@ Report MultiSpanReport(const MultiSpanResults& window, const SessionState& sessi
   const MultiSpanModel& model = session.MultiSpan;
   Report report = NewReport(session);
   WriteHeader(report, session.Header);
-  report.Line("RESULTS");
-  for (const std::string& row : window.stressRows) report.Line(row);
+  report.Heads({"RESULTS"});
+  for (const std::string& row : window.stressRows) WriteStressRow(report, row);
   report.Line("INPUT DATA");
   report.Line();
   for (int j = 1; j <= model.spanCount.value() && HasMultiSpan(j); ++j) {

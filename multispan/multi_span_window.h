@@ -29,7 +29,8 @@ struct MultiSpanWindow {
 
   /// A span has been stored whole since the window was opened: loads and axes can be entered.
   bool spanAccepted = false;
-  /// Tells that the fields differ from what is stored for the span; empty where they do not.
+  /// Tells that the fields differ from what is stored for the span, or that a load of the span lies
+  /// off it; else empty.
   std::string note;
   Drawing picture;
 

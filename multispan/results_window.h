@@ -44,6 +44,15 @@ struct StressInputs {
   bool operator==(const StressInputs&) const = default;
 };
 
+/// The headings within the list "Stress Check".
+namespace stress_heading {
+inline constexpr const char* kActual = "ACTUAL STRESSES";
+inline constexpr const char* kAllowable = "ALLOWABLE STRESSES";
+inline constexpr const char* kGlulamAllowable = "ALLOWABLE STRESS VALUES";
+inline constexpr const char* kConditions = "MEMBER USE CONDITIONS";
+inline constexpr const char* kAll[] = {kActual, kAllowable, kGlulamAllowable, kConditions};
+}  // namespace stress_heading
+
 /// The window `MDOUTPUT`, "Moment Distribution Output": the last run of the multi-span beam.
 /// Checks, unbraced lengths and the input data of reports are those of the model as it is now.
 struct MultiSpanResults {

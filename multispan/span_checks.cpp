@@ -43,7 +43,7 @@ bool HasCheckData(const MultiSpanModel& model, int span) {
 /// "ACTUAL STRESSES" with the names of the spans.
 void WriteActual(const MultiSpanResults& window, const MultiSpanModel& model,
                  const MultiSpanModel::BySpan<std::string>& names, Rows& rows) {
-  rows.push_back("ACTUAL STRESSES");
+  rows.push_back(stress_heading::kActual);
   for (int j = 1; j <= SpansOf(model); ++j) {
     Float32 bending;
     Float32 shear;
@@ -85,7 +85,7 @@ void AdjustFb(const MultiSpanModel& model, int j, const Slenderness& of, Float32
 }
 
 void WriteAllowable(const MultiSpanModel& model, Float32& fb, Rows& rows) {
-  rows.push_back("ALLOWABLE STRESSES");
+  rows.push_back(stress_heading::kAllowable);
   for (int j = 1; j <= SpansOf(model); ++j) {
     const Slenderness slenderness = SlendernessOf(model, j);
     AdjustFb(model, j, slenderness, fb);
@@ -98,7 +98,7 @@ void WriteAllowable(const MultiSpanModel& model, Float32& fb, Rows& rows) {
 }
 
 void WriteGlulamAllowables(const MultiSpanModel& model, Rows& rows) {
-  rows.push_back("ALLOWABLE STRESS VALUES");
+  rows.push_back(stress_heading::kGlulamAllowable);
   for (int j = 1; j <= SpansOf(model); ++j) {
     const GlulamTransfer& glulam = model.spanGlulam[static_cast<std::size_t>(j)];
     for (std::size_t i = 0; i < kGlulamValues; ++i) {
@@ -109,7 +109,7 @@ void WriteGlulamAllowables(const MultiSpanModel& model, Rows& rows) {
 }
 
 void WriteUseConditions(const MultiSpanModel& model, Rows& rows) {
-  rows.push_back("MEMBER USE CONDITIONS");
+  rows.push_back(stress_heading::kConditions);
   for (int j = 1; j <= SpansOf(model); ++j) {
     const GlulamTransfer& glulam = model.spanGlulam[static_cast<std::size_t>(j)];
     rows.push_back("SPAN " + std::to_string(j));

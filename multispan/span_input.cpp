@@ -64,6 +64,15 @@ bool ShowsWhatIsStored(const MultiSpanWindow& window, const MultiSpanModel& mode
          window.weakAxis == (model.spanAxis[span] == 1);
 }
 
+/// The first point load that lies behind the end of its span, which was made shorter after the load
+/// was entered; 0 where there is none.
+int LoadOffSpan(const MultiSpanModel& model, int span) {
+  for (int k = 1; k <= model.pointCount[span].value(); ++k) {
+    if (model.pointX[static_cast<std::size_t>(span)][k] > model.spanLength[span]) return k;
+  }
+  return 0;
+}
+
 /// Copies what a list holds for one span to the next.
 template <typename T>
 void CopyToNext(BoundedArray<T>& list, int span) {
@@ -136,6 +145,8 @@ void RefreshSpanNote(MultiSpanWindow& window, const SessionState& session) {
     window.note = "Only " + std::to_string(kMultiSpanLimit) + " spans can be stored";
   } else if (!ShowsWhatIsStored(window, session.MultiSpan)) {
     window.note = "Not stored yet";
+  } else if (const int load = LoadOffSpan(session.MultiSpan, window.currentSpan.value())) {
+    window.note = "Load " + std::to_string(load) + " is off the span";
   }
 }
 

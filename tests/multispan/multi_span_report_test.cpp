@@ -79,6 +79,21 @@ TEST_F(MultiSpanReportTest, ListsTheFirstEntriesUpToTheCount) {
             std::string::npos);
 }
 
+// A list of many spans goes on on further pages: what it belongs to is said again there.
+TEST_F(MultiSpanReportTest, HeadingsAndMembersStandAgainOnFurtherPages) {
+  results.stressRows = {"ACTUAL STRESSES",         "Span 1 GLU-LAM",        "ALLOWABLE STRESSES",
+                        "ALLOWABLE STRESS VALUES", "MEMBER USE CONDITIONS", "SPAN 1"};
+  Texts heads;
+  const Report report = MultiSpanReport(results, session);
+  for (const Report::Item& item : report.items()) {
+    const auto* line = std::get_if<ReportLine>(&item);
+    if (line != nullptr && line->heads) heads.push_back(line->Text());
+  }
+  EXPECT_EQ(heads, (Texts{"RESULTS", "ACTUAL STRESSES", "ALLOWABLE STRESSES",
+                          "ALLOWABLE STRESS VALUES", "MEMBER USE CONDITIONS",
+                          "MEMBER(1) = Hem-Fir, 2X10", "MEMBER(2) = Hem-Fir, 2X10"}));
+}
+
 TEST_F(MultiSpanReportTest, ReadsTheModelAsItIsNow) {
   model().spanUniform[1] = 999;
   EXPECT_NE(Text().find("Uniform Load = 999.00 lbs/ft"), std::string::npos);

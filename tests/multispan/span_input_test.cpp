@@ -342,6 +342,22 @@ TEST_F(SpanInput, NoteTellsOfAnotherMemberPutOverTheFields) {
   EXPECT_EQ(window.note, "Not stored yet");
 }
 
+TEST_F(SpanInput, NoteTellsOfALoadThatAShortenedSpanLeftBehind) {
+  Open(2);
+  EnterSpan(10, 0);
+  Previous();
+  EnterLoad("500", "4");
+  ShowNextLoad(window, session);
+  EnterLoad("500", "8");
+  Type(SpanField::Length, "5");
+  EXPECT_EQ(window.note, "Not stored yet");
+  Store();
+  EXPECT_EQ(window.note, "Load 2 is off the span");
+  EnterLoad("500", "4.5");
+  RefreshSpanNote(window, session);
+  EXPECT_EQ(window.note, "");
+}
+
 TEST_F(SpanInput, NoteTellsOfAnotherAxis) {
   Open(2);
   Type(SpanField::Length, "10");
