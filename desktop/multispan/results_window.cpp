@@ -170,12 +170,6 @@ class ResultsForm : public ToolWindow {
     rows->addWidget(DiagramPanel("Shear Diag.", &record_.shearPicture, DescribeShear), 1);
     rows->addWidget(DiagramPanel("Moment Diag.", &record_.momentPicture, DescribeMoment), 1);
     rows->addLayout(ReadOuts());
-    auto* notes = new QHBoxLayout;
-    notes->addWidget(new QLabel(captions_.units));
-    notes->addSpacing(24);
-    notes->addWidget(new QLabel("Move cursor over V or M diag. to get values."));
-    notes->addStretch();
-    rows->addLayout(notes);
     return rows;
   }
 
@@ -204,17 +198,16 @@ class ResultsForm : public ToolWindow {
 
   QLayout* ReadOuts() {
     auto* grid = new QGridLayout;
-    int column = 0;
-    for (const auto& [caption, text] :
-         {std::pair{"Location", &record_.location}, std::pair{"Shear", &record_.shear},
-          std::pair{"Moment", &record_.moment}, std::pair{"Max Moment", &record_.maxMoment}}) {
-      ShowResult(PutValue(grid, 0, column, caption, 60), text);
-      column += 2;
-    }
-    QLineEdit* place = MakeField("Max Moment Location", 70);
+    ShowResult(PutValue(grid, 0, 0, "Location", 76), &record_.location);
+    ShowResult(PutValue(grid, 0, 2, "Shear", 76), &record_.shear);
+    ShowResult(PutValue(grid, 0, 4, "Moment", 76), &record_.moment);
+    grid->addWidget(new QLabel(captions_.units), 0, 6);
+    ShowResult(PutValue(grid, 1, 0, "Max Moment", 76), &record_.maxMoment);
+    QLineEdit* place = MakeField("Max Moment Location", 76);
     ShowOnly(place);
     ShowResult(place, &record_.maxMomentPlace);
-    grid->addWidget(place, 0, column);
+    grid->addWidget(place, 1, 2, 1, 2);
+    grid->addWidget(new QLabel("Move cursor over V or M diag. to get values."), 1, 4, 1, 3);
     return grid;
   }
 
