@@ -122,7 +122,7 @@ class ResultsForm : public ToolWindow {
     column->setContentsMargins(6, 4, 6, 6);
     QTableWidget* table = MakeTable(caption, captions);
     table->setMinimumSize(InLetters(250), InLetters(72));
-    table->setMaximumWidth(InLetters(290));
+    table->setMaximumWidth(InLetters(340));
     binding().Table(table, rows);
     GreyWhenOld(table);
     column->addWidget(table);
