@@ -17,21 +17,19 @@
 namespace lignara {
 namespace {
 
-/// The captions around a widget and its own, from the window inward. Empty for a widget without a
-/// caption, such as the scroll bars inside a list: the panel around it is not its name.
-QStringList FullPath(const QWidget* widget) {
-  QStringList path;
-  if (CaptionOf(widget).isEmpty()) return path;
-  for (const QWidget* at = widget; at != nullptr && !at->isWindow(); at = at->parentWidget()) {
-    const bool names = at == widget || qobject_cast<const QGroupBox*>(at) != nullptr;
-    if (names && !CaptionOf(at).isEmpty()) path.prepend(CaptionOf(at));
+/// The captions of the panels around a widget, from the window inward, and its own.
+QStringList FullPath(const QWidget* widget, const QString& own) {
+  QStringList path = {own};
+  for (const QWidget* at = widget->parentWidget(); at != nullptr && !at->isWindow();
+       at = at->parentWidget()) {
+    if (qobject_cast<const QGroupBox*>(at) == nullptr) continue;
+    if (const QString caption = CaptionOf(at); !caption.isEmpty()) path.prepend(caption);
   }
   return path;
 }
 
-/// True when `path` ends as `full` does and names its other captions in order.
+/// True when `path` names captions of `full` in order, the last of which it shares.
 bool Names(const QStringList& path, const QStringList& full) {
-  if (path.isEmpty() || full.isEmpty() || path.last() != full.last()) return false;
   qsizetype at = 0;
   for (const QString& caption : full) {
     if (at < path.size() && path[at] == caption) ++at;
@@ -64,7 +62,11 @@ std::vector<Found> Search(QMainWindow* window, const QStringList& path, const Ki
   for (QWidget* widget : window->findChildren<QWidget*>()) {
     const std::size_t kind = KindOf(widget, kinds);
     if (widget->window() != window || kind == kinds.size()) continue;
-    const QStringList full = FullPath(widget);
+    // A widget without a caption, such as a scroll bar inside a list, has no name: that of the
+    // panel around it is not its own.
+    const QString own = CaptionOf(widget);
+    if (own.isEmpty() || own != path.last()) continue;
+    const QStringList full = FullPath(widget, own);
     if (Names(path, full)) found.push_back({widget, full == path, kind});
   }
   return found;

@@ -1,6 +1,7 @@
 #include "script/script_platform.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QLayout>
 #include <algorithm>
 
 #include "app/report.h"
@@ -31,10 +32,24 @@ class PagePrinter {
 
 }  // namespace
 
-void ScriptPlatform::OpenWindow(const std::string& name) {
-  DesktopPlatform::OpenWindow(name);
-  ToolWindow* window = FindWindow(ToQt(name));
-  if (window != nullptr && !paints_) window->setUpdatesEnabled(false);
+void ScriptPlatform::Place(ToolWindow* window) {
+  if (paints_) {
+    DesktopPlatform::Place(window);
+    return;
+  }
+  window->setUpdatesEnabled(false);
+  for (QLayout* layout : window->findChildren<QLayout*>()) layout->setEnabled(false);
+}
+
+void ScriptPlatform::LetBeSeen(ToolWindow* window) {
+  if (window->updatesEnabled()) return;
+  for (QLayout* layout : window->findChildren<QLayout*>()) {
+    layout->setEnabled(true);
+    layout->invalidate();
+  }
+  DesktopPlatform::Place(window);
+  window->setUpdatesEnabled(true);
+  QApplication::processEvents();
 }
 
 void ScriptPlatform::ShowMessage(const Message& message) {

@@ -24,11 +24,11 @@ class ScriptPlatform : public DesktopPlatform {
   ScriptPlatform(SessionState& session, ScriptOutput output)
       : DesktopPlatform(session), output_(std::move(output)) {}
 
-  /// Windows that nobody looks at are not painted, but for pictures that the script asks for. Holds
-  /// for windows opened from now on.
+  /// Windows that nobody looks at are neither laid out nor painted until `LetBeSeen`. Holds for
+  /// windows opened from now on.
   void PaintNothing() { paints_ = false; }
-
-  void OpenWindow(const std::string& name) override;
+  /// From now on a window stands as on a screen.
+  void LetBeSeen(ToolWindow* window);
 
   void ShowMessage(const Message& message) override;
   bool AskYesNo(const std::string& title, const std::string& text) override;
@@ -45,6 +45,9 @@ class ScriptPlatform : public DesktopPlatform {
 
   /// Why a dialog could not be answered since the last call; empty when all could.
   QString TakeFailure();
+
+ protected:
+  void Place(ToolWindow* window) override;
 
  private:
   /// The next kept answer, if it is one that the dialog can take; notes a failure otherwise.

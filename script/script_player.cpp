@@ -16,6 +16,7 @@
 #include "desktop/kit/binding.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/picture_button.h"
+#include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "script/script_error.h"
 #include "script/script_platform.h"
@@ -101,6 +102,13 @@ void PrintTableRows(const QTableWidget* table, const ScriptOutput& output) {
   }
 }
 
+/// What is read in a field or a label. The `&` before the key of the field beside it is not seen.
+QString TextOf(const QWidget* widget) {
+  if (const auto* field = qobject_cast<const QLineEdit*>(widget)) return field->text();
+  const auto* label = static_cast<const QLabel*>(widget);
+  return label->buddy() != nullptr ? WithoutKeyMarks(label->text()) : label->text();
+}
+
 QString StateOf(const QWidget* widget) {
   QString state = widget->isVisible() ? "state visible" : "state hidden";
   state += widget->isEnabled() ? " enabled" : " disabled";
@@ -113,22 +121,6 @@ QString StateOf(const QWidget* widget) {
   }
   return state;
 }
-
-/// A window that is not painted while nobody looks is painted for a picture of it.
-class PaintForPicture {
- public:
-  explicit PaintForPicture(QWidget* window) : window_(window), was_(window->updatesEnabled()) {
-    window_->setUpdatesEnabled(true);
-    QApplication::processEvents();
-  }
-  ~PaintForPicture() { window_->setUpdatesEnabled(was_); }
-  PaintForPicture(const PaintForPicture&) = delete;
-  PaintForPicture& operator=(const PaintForPicture&) = delete;
-
- private:
-  QWidget* window_;
-  bool was_;
-};
 
 }  // namespace
 
@@ -238,6 +230,7 @@ void ScriptPlayer::Key(const Words& words) {
   if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
     throw ScriptError{"there is no key " + Quoted(words.back().text)};
   }
+  platform_.LetBeSeen(Current());  // where a key leads depends on what stands where
   control->setFocus();
   const QKeyCombination key = sequence[0];
   const QString text = words.back().text.size() == 1 ? words.back().text : QString();
@@ -300,9 +293,7 @@ void ScriptPlayer::Read(const Words& words) {
   const QWidget* control =
       FindControl(window, PathOf(words, words.size()),
                   {{Visible(IsAny<QLineEdit>)}, {Visible(IsNamedLabel)}, {Visible(IsLabel)}});
-  const auto* field = qobject_cast<const QLineEdit*>(control);
-  output_("value " +
-          Quoted(field != nullptr ? field->text() : static_cast<const QLabel*>(control)->text()));
+  output_("value " + Quoted(TextOf(control)));
 }
 
 void ScriptPlayer::Rows(const Words& words) {
@@ -349,7 +340,7 @@ void ScriptPlayer::Windows(const Words&) {
 void ScriptPlayer::SavePicture(const Words& words) {
   QWidget* control = Control(words, words.size() - 1, {IsPicture});
   auto* picture = dynamic_cast<Picture*>(control);
-  const PaintForPicture painted(Current());
+  platform_.LetBeSeen(Current());
   const QString path = words.back().text;
   const bool saved =
       picture != nullptr ? picture->SavePng(path) : control->grab().save(path, "PNG");
@@ -357,7 +348,7 @@ void ScriptPlayer::SavePicture(const Words& words) {
 }
 
 void ScriptPlayer::Screenshot(const Words& words) {
-  const PaintForPicture painted(Current());
+  platform_.LetBeSeen(Current());
   if (!Current()->grab().save(words[0].text, "PNG")) {
     throw ScriptError{"cannot write " + words[0].text};
   }

@@ -18,6 +18,7 @@
 #include "desktop/kit/program_icon.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/report_printer.h"
+#include "desktop/kit/scroll_page.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/kit/window_kind.h"
@@ -156,6 +157,7 @@ void DesktopPlatform::NoteActive(ToolWindow* window) {
 }
 
 void DesktopPlatform::Place(ToolWindow* window) {
+  TakeInContents(window);
   const QRect screen = Screen(*window);
   // A window may name a size of its own, for letters of usual size; any other gets what it wants.
   // None is larger than the screen.

@@ -57,10 +57,13 @@ class DesktopPlatform : public Platform {
   /// All open windows show their records again.
   void RefreshWindows();
 
+ protected:
+  /// Lays a new window out and puts it where it shall stand.
+  virtual void Place(ToolWindow* window);
+
  private:
   /// The modal window that was opened last; null where there is none.
   ToolWindow* NewestModal() const;
-  void Place(ToolWindow* window);
   /// Windows that belong to one that closes live on with its own parent.
   void AdoptChildren(ToolWindow* closing);
 

@@ -59,7 +59,7 @@ FocusMark::FocusMark(QWidget* window) : QObject(window), window_(window) {
 void FocusMark::Follow(QWidget* now) {
   if (marked_) marked_->removeEventFilter(this);
   marked_ = now;
-  delete rim_;
+  if (rim_) rim_->hide();
   // What has just been shown has no place yet.
   QTimer::singleShot(0, now, [now] { RevealWithPanel(now); });
   // Fields mark themselves, with a rim and the cursor.
@@ -71,6 +71,7 @@ void FocusMark::Follow(QWidget* now) {
 void FocusMark::ShowRim() {
   QWidget* host = HostOf(marked_);
   if (host == nullptr || !marked_->isVisible()) return;
+  if (rim_ && rim_->parentWidget() != host) delete rim_;
   if (!rim_) rim_ = new Rim(host);
   PlaceRim();
   rim_->show();

@@ -11,19 +11,33 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent), most_(1000, 640) 
   setFocusPolicy(Qt::NoFocus);
 }
 
+void ScrollPage::Hold(QWidget* content) {
+  content_ = content;
+  content_->setParent(viewport());
+}
+
+void ScrollPage::TakeIn() {
+  if (widget() == nullptr && content_ != nullptr) setWidget(content_);
+}
+
 void ScrollPage::SetMost(const QSize& most) {
   most_ = most;
   updateGeometry();
 }
 
 QSize ScrollPage::sizeHint() const {
-  return widget() == nullptr ? QScrollArea::sizeHint() : WithBars(widget()->sizeHint());
+  return content_ == nullptr ? QScrollArea::sizeHint() : WithBars(content_->sizeHint());
 }
 
 QSize ScrollPage::minimumSizeHint() const {
-  if (widget() == nullptr) return QScrollArea::minimumSizeHint();
-  const QSize least = widget()->minimumSizeHint().expandedTo(widget()->minimumSize());
+  if (content_ == nullptr) return QScrollArea::minimumSizeHint();
+  const QSize least = content_->minimumSizeHint().expandedTo(content_->minimumSize());
   return WithBars(least).boundedTo(most_);
+}
+
+bool ScrollPage::focusNextPrevChild(bool next) {
+  return widget() == nullptr ? QWidget::focusNextPrevChild(next)
+                             : QScrollArea::focusNextPrevChild(next);
 }
 
 /// A bar that is needed one way takes room the other way.
@@ -37,6 +51,10 @@ QSize ScrollPage::WithBars(const QSize& size) const {
 bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {
   if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
   return QScrollArea::eventFilter(watched, event);
+}
+
+void TakeInContents(const QWidget* window) {
+  for (ScrollPage* page : window->findChildren<ScrollPage*>()) page->TakeIn();
 }
 
 void Reveal(QWidget* widget) {

@@ -10,11 +10,17 @@ class ScrollPage : public QScrollArea {
  public:
   explicit ScrollPage(QWidget* parent = nullptr);
 
+  /// Holds a widget. It is laid out when it is taken in, which a window that is seen does before it
+  /// is shown.
+  void Hold(QWidget* content);
+  void TakeIn();
+
   /// The room that it insists on at most.
   void SetMost(const QSize& most);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  bool focusNextPrevChild(bool next) override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -23,7 +29,11 @@ class ScrollPage : public QScrollArea {
   QSize WithBars(const QSize& size) const;
 
   QSize most_;
+  QWidget* content_ = nullptr;
 };
+
+/// Takes in what the pages of a window hold.
+void TakeInContents(const QWidget* window);
 
 /// Scrolls all areas around a widget so that it can be seen.
 void Reveal(QWidget* widget);

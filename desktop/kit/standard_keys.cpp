@@ -51,11 +51,13 @@ QList<QKeySequence> KeysTaken(const QMainWindow* window) {
 }
 
 void SetMenuKeys(QMainWindow* window) {
+  QList<QKeySequence> taken = KeysTaken(window);
   for (QAction* action : window->findChildren<QAction*>()) {
     if (action->menu() != nullptr) continue;  // a menu in a menu has the captions of its own items
     const QKeySequence key = KeyOf(kMenuKeys, PlainCaption(action->text()));
-    const bool free = action->shortcut().isEmpty() && !KeysTaken(window).contains(key);
-    if (!key.isEmpty() && free) action->setShortcut(key);
+    if (key.isEmpty() || !action->shortcut().isEmpty() || taken.contains(key)) continue;
+    action->setShortcut(key);
+    taken << key;
   }
 }
 

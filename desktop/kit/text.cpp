@@ -2,13 +2,18 @@
 
 namespace lignara {
 
-QString PlainCaption(const QString& caption) {
-  QString plain;
+QString WithoutKeyMarks(const QString& caption) {
+  QString seen;
   for (qsizetype i = 0; i < caption.size(); ++i) {
     const bool mark = caption[i] == '&' && i + 1 < caption.size();
     if (mark) ++i;  // "&&" stands for the sign itself
-    plain += caption[i] == '\n' ? QChar(' ') : caption[i];
+    seen += caption[i];
   }
+  return seen;
+}
+
+QString PlainCaption(const QString& caption) {
+  QString plain = WithoutKeyMarks(caption).replace('\n', ' ');
   while (plain.endsWith(' ')) plain.chop(1);
   return plain;
 }

@@ -50,7 +50,7 @@ void ToolWindow::Furnish(const QSize& screen) {
   QWidget* focus = focusWidget();
   QWidget* content = takeCentralWidget();
   auto* page = new ScrollPage(this);
-  page->setWidget(content);
+  page->Hold(content);
   setCentralWidget(page);
   const auto* status = findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly);
   int bars = menuWidget() == nullptr ? 0 : menuWidget()->sizeHint().height();

@@ -140,7 +140,7 @@ QWidget* TrussForm::ResultArea() {
     if (anyOpen()) page->show();
   });
   results_ = InWidget(ResultPanels());
-  page->setWidget(results_);
+  page->Hold(results_);
   binding().Follow([page, anyOpen] {
     if (!anyOpen()) page->hide();
   });
@@ -195,7 +195,7 @@ QWidget* TrussForm::SideColumn() {
   rows->addWidget(ResultsPanel(), 1);
   auto* page = new ScrollPage;
   page->SetMost({InLetters(390), InLetters(200)});
-  page->setWidget(InWidget(rows));
+  page->Hold(InWidget(rows));
   return page;
 }
 
