@@ -15,8 +15,8 @@ void ShowSystemError(const std::string& path, int code, Platform& platform) {
 
 }  // namespace
 
-std::optional<ReportFile> CreateReportFile(Platform& platform) {
-  const std::optional<std::string> path = platform.ChooseSaveFile(kReportFilter);
+std::optional<ReportFile> CreateReportFile(Platform& platform, const char* filter) {
+  const std::optional<std::string> path = platform.ChooseSaveFile(filter);
   if (!path) return std::nullopt;
   errno = 0;
   ReportFile file{*path, std::ofstream(*path, std::ios::binary | std::ios::trunc)};
@@ -27,9 +27,9 @@ std::optional<ReportFile> CreateReportFile(Platform& platform) {
   return file;
 }
 
-void WriteReportFile(ReportFile& file, const Report& report, Platform& platform) {
+void WriteWhole(ReportFile& file, std::string_view bytes, Platform& platform) {
   errno = 0;
-  file.stream << ReportText(report);
+  file.stream << bytes;
   file.stream.close();
   if (file.stream) {
     platform.ShowNote("Saved to " + file.path);
@@ -41,6 +41,10 @@ void WriteReportFile(ReportFile& file, const Report& report, Platform& platform)
   if (std::filesystem::is_regular_file(file.path, ignored)) {
     std::filesystem::remove(file.path, ignored);
   }
+}
+
+void WriteReportFile(ReportFile& file, const Report& report, Platform& platform) {
+  WriteWhole(file, ReportText(report), platform);
 }
 
 }  // namespace lignara

@@ -1,12 +1,15 @@
 #include "desktop/kit/report_printer.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPalette>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 
 #include "app/launcher.h"
 #include "app/report.h"
+#include "app/report_file.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/drawing_painter.h"
 #include "desktop/kit/legend.h"
@@ -28,12 +31,12 @@ QFont FontOf(const Report& report) {
 /// Paints one page after the other.
 class PagePainter {
  public:
-  PagePainter(QPrinter& printer, QPainter& painter, const QRectF& area)
-      : printer_(printer), painter_(painter), area_(area) {}
+  PagePainter(QPagedPaintDevice& paper, QPainter& painter, const QRectF& area)
+      : paper_(paper), painter_(painter), area_(area) {}
 
   void Paint(const std::vector<PaperPage>& pages) {
     for (std::size_t i = 0; i < pages.size(); ++i) {
-      if (i > 0) printer_.newPage();
+      if (i > 0) paper_.newPage();
       for (const PlacedItem& item : pages[i]) std::visit(*this, item);
       PaintNumber(i + 1, pages.size());
     }
@@ -59,48 +62,74 @@ class PagePainter {
  private:
   /// In the upper margin, where no print zone is.
   void PaintNumber(std::size_t page, std::size_t pages) {
-    const double base = kPageNumber * printer_.resolution();
+    const double base = kPageNumber * paper_.logicalDpiY();
     const QRectF room(area_.left(), 0, area_.width(), base);
     painter_.drawText(room, Qt::AlignRight | Qt::AlignBottom,
                       QString("Page %1 of %2").arg(page).arg(pages));
   }
 
-  QPrinter& printer_;
+  QPagedPaintDevice& paper_;
   QPainter& painter_;
   const QRectF area_;
 };
 
-/// The paper without its margins, in units of the printer.
-QRectF TextArea(const QPrinter& printer) {
-  const double margin = kMargin * printer.resolution();
-  return printer.paperRect(QPrinter::DevicePixel).adjusted(margin, margin, -margin, -margin);
+/// The sheet without its margins, in dots.
+QRectF TextArea(const QPagedPaintDevice& paper) {
+  const int dots = paper.logicalDpiX();
+  const double margin = kMargin * dots;
+  return QRectF(paper.pageLayout().fullRectPixels(dots)).adjusted(margin, margin, -margin, -margin);
+}
+
+/// Paints a report on sheets of letter size. False when they cannot be painted on.
+bool PaintReport(const Report& report, QPagedPaintDevice& paper) {
+  paper.setPageSize(QPageSize(QPageSize::Letter));
+  QPainter painter;
+  if (!painter.begin(&paper)) return false;
+  painter.setFont(FontOf(report));
+  const QRectF area = TextArea(paper);
+  PagePainter(paper, painter, area).Paint(LayOut(report, FontOf(report), &paper, area.size()));
+  return painter.end();
+}
+
+void SendToPrinter(const Report& report, DesktopPlatform& platform) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(platform.DocumentName());
+  printer.setCreator(kProgramName);
+  printer.setFullPage(true);
+  if (PaintReport(report, printer)) {
+    platform.ShowNote(FromQt("Sent to " + printer.printerName()));
+  } else {
+    platform.ShowMessage({"The report could not be printed."});
+  }
+}
+
+QByteArray PdfOf(const Report& report, const QString& title) {
+  QBuffer pdf;
+  pdf.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pdf);
+  writer.setTitle(title);
+  writer.setCreator(kProgramName);
+  writer.setPageMargins(QMarginsF());
+  PaintReport(report, writer);
+  return pdf.data();
+}
+
+/// Made whole before a byte is written, so that the file is whole too, or told and gone.
+void WritePdf(const Report& report, DesktopPlatform& platform) {
+  std::optional<ReportFile> file = CreateReportFile(platform, kPdfFilter);
+  if (!file) return;
+  const QByteArray pdf = PdfOf(report, platform.DocumentName());
+  WriteWhole(*file, {pdf.constData(), static_cast<std::size_t>(pdf.size())}, platform);
 }
 
 }  // namespace
 
 void PrintOnPaper(const Report& report, DesktopPlatform& platform) {
-  QPrinter printer(QPrinter::HighResolution);
   if (QPrinterInfo::defaultPrinter().isNull()) {
-    const auto path = platform.ChooseSaveFile(kPdfFilter);
-    if (!path) return;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(ToQt(*path));
+    WritePdf(report, platform);
+  } else {
+    SendToPrinter(report, platform);
   }
-  printer.setDocName(platform.DocumentName());
-  printer.setCreator(kProgramName);
-  printer.setPageSize(QPageSize(QPageSize::Letter));
-  printer.setFullPage(true);
-  QPainter painter;
-  if (!painter.begin(&printer)) {
-    platform.ShowMessage({"The report could not be printed."});
-    return;
-  }
-  painter.setFont(FontOf(report));
-  const QRectF area = TextArea(printer);
-  PagePainter(printer, painter, area).Paint(LayOut(report, FontOf(report), &printer, area.size()));
-  const QString file = printer.outputFileName();
-  platform.ShowNote(
-      FromQt(file.isEmpty() ? "Sent to " + printer.printerName() : "Saved to " + file));
 }
 
 }  // namespace lignara

@@ -12,6 +12,7 @@
 #include "app/report.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
+#include "tests/support/file_size_limit.h"
 
 namespace lignara {
 namespace {
@@ -109,11 +110,33 @@ TEST_F(ReportPrinterTest, CancelPrintsNothing) {
   EXPECT_TRUE(platform.texts.empty());
 }
 
-TEST_F(ReportPrinterTest, AFileThatCannotBeWrittenIsTold) {
-  FilePlatform platform(session_, Path("no such folder/report.pdf"));
+using Texts = std::vector<std::string>;
+
+TEST_F(ReportPrinterTest, AFolderThatIsNotThereIsToldWithThePath) {
+  const std::string path = Path("no such folder/report.pdf");
+  FilePlatform platform(session_, path);
   platform.PrintReport(ThreePages());
-  EXPECT_EQ(platform.texts.size(), 1u);
+  EXPECT_EQ(platform.texts, Texts{path + ": No such file or directory"});
   EXPECT_TRUE(platform.notes.empty());
+}
+
+TEST_F(ReportPrinterTest, AFullDiskIsTold) {
+  FilePlatform platform(session_, "/dev/full");
+  platform.PrintReport(ThreePages());
+  EXPECT_EQ(platform.texts, Texts{"/dev/full: No space left on device"});
+  EXPECT_TRUE(platform.notes.empty());
+}
+
+TEST_F(ReportPrinterTest, APdfThatDoesNotFitIsToldAndLeavesNoHalfFile) {
+  const std::string path = Path("half.pdf");
+  FilePlatform platform(session_, path);
+  {
+    const FileSizeLimit limit(1000);
+    platform.PrintReport(ThreePages());
+  }
+  EXPECT_EQ(platform.texts, Texts{path + ": File too large"});
+  EXPECT_TRUE(platform.notes.empty());
+  EXPECT_FALSE(QFileInfo::exists(ToQt(path)));
 }
 
 }  // namespace
