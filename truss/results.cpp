@@ -2,7 +2,6 @@
 
 #include "app/list_rows.h"
 #include "app/number_pattern.h"
-#include "app/window_names.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -50,10 +49,5 @@ void CloseDeflections(TrussWindow& window) { window.deflectionsOpen = false; }
 
 void OpenStresses(TrussWindow& window) { window.stressOpen = true; }
 void CloseStresses(TrussWindow& window) { window.stressOpen = false; }
-
-void OpenWoodType(SessionState& session, Platform& platform) {
-  session.DesignMode = "TRUSS";
-  platform.OpenWindow(window_name::kMemberSize);
-}
 
 }  // namespace lignara

@@ -1,6 +1,7 @@
 #include "truss/truss_window.h"
 
 #include "app/fault.h"
+#include "app/window_names.h"
 #include "truss/canvas.h"
 #include "truss/truss_types.h"
 
@@ -34,6 +35,11 @@ void OpenTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   ResetView(window.view, session);
   RedrawTruss(window, session, platform);
   SHOW_NODE_LOADS(window, session);
+}
+
+void OpenWoodType(SessionState& session, Platform& platform) {
+  session.DesignMode = "TRUSS";
+  platform.OpenWindow(window_name::kMemberSize);
 }
 
 }  // namespace lignara

@@ -87,10 +87,12 @@ struct TrussWindow {
   bool fontTen = true;          ///< 10 points, else 8
 };
 
-// Life of the window (truss_window.cpp).
+// The window and the one that goes with it (truss_window.cpp).
 
 /// The window as it opens: model empty, zoom 1, node loads 0, truss drawn, node list filled.
 void OpenTruss(TrussWindow& window, SessionState& session, Platform& platform);
+/// "Wood Type": on to the window in which the members get their sizes.
+void OpenWoodType(SessionState& session, Platform& platform);
 
 // Node loads (node_loads.cpp).
 
@@ -130,8 +132,6 @@ void CloseDeflections(TrussWindow& window);
 /// "Code Stress", and "OK" of the panel.
 void OpenStresses(TrussWindow& window);
 void CloseStresses(TrussWindow& window);
-/// "Wood Type".
-void OpenWoodType(SessionState& session, Platform& platform);
 
 // Canvas (canvas.cpp, canvas_hit.cpp); the report's commands stand in truss/report.h.
 

@@ -98,15 +98,6 @@ TEST(MemberLengths, HalvesOfEnglishDiffer) {
             (Texts{"DL 2 = 14.42", "DL 3 = 19.70", "DR 2 = 10.00", "DR 3 = 19.70"}));
 }
 
-TEST(WoodType, OpensTheCalculatorForATruss) {
-  SessionState session;
-  RecordingPlatform platform;
-  session.DesignMode = "BEAM";
-  OpenWoodType(session, platform);
-  EXPECT_EQ(session.DesignMode, "TRUSS");
-  EXPECT_EQ(platform.calls, Texts{"open WTYPETR"});
-}
-
 // The lists are those of the last run, which stands behind them whether they are open or not.
 TEST(ResultPanels, OpenAndCloseWithTheirListsAsTheyAre) {
   TestTruss truss = StandardTruss("KINGPOST", 4);

@@ -90,5 +90,14 @@ TEST(OpenTruss, DimensionsBeyondTheArraysAreFaultsAndNoCrash) {
   }
 }
 
+TEST(WoodType, OpensTheCalculatorForATruss) {
+  SessionState session;
+  RecordingPlatform platform;
+  session.DesignMode = "BEAM";
+  OpenWoodType(session, platform);
+  EXPECT_EQ(session.DesignMode, "TRUSS");
+  EXPECT_EQ(platform.calls, std::vector<std::string>{"open WTYPETR"});
+}
+
 }  // namespace
 }  // namespace lignara
