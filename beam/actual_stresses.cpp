@@ -1,6 +1,7 @@
 #include "beam/actual_stresses.h"
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 
 namespace lignara {
 namespace {

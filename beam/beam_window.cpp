@@ -1,7 +1,8 @@
 #include "beam/beam_window.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "app/window_names.h"
 #include "beam/diagrams.h"
 #include "beam/load_picture.h"

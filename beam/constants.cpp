@@ -1,5 +1,6 @@
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "beam/beam_window.h"
 #include "beam/load_picture.h"
 #include "beam/support_class.h"

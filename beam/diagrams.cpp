@@ -5,7 +5,7 @@
 #include <limits>
 #include <optional>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 
 namespace lignara {
 namespace {

@@ -1,5 +1,5 @@
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "beam/actual_stresses.h"
 #include "beam/stress_check.h"
 #include "glulam/glulam_columns.h"

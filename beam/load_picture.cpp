@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "app/sketch_pen.h"
 
 namespace lignara {

@@ -1,7 +1,8 @@
 #include "beam/report.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "app/report_file.h"
 #include "beam/diagrams.h"
 #include "beam/support_class.h"

@@ -1,7 +1,7 @@
 #include "beam/stress_check.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "beam/actual_stresses.h"
 
 namespace lignara {

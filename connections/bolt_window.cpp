@@ -2,7 +2,8 @@
 
 #include "app/fault.h"
 #include "app/field_number.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "connections/bolt_shear.h"
 #include "connections/bolt_sketches.h"
 #include "connections/rod_table.h"

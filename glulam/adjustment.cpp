@@ -6,7 +6,8 @@
 
 #include "app/fault.h"
 #include "app/field_number.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "glulam/combination_files.h"
 #include "glulam/glulam_columns.h"
 #include "glulam/glulam_window.h"

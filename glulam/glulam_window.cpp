@@ -1,7 +1,7 @@
 #include "glulam/glulam_window.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "app/window_names.h"
 #include "glulam/combination_files.h"
 #include "glulam/user_factors.h"

@@ -1,7 +1,7 @@
 // From the data base to the current member and to the record of the glulam values.
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_reader.h"
 #include "app/section.h"
 #include "app/window_names.h"
 #include "glulam/glulam_window.h"

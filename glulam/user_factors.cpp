@@ -6,7 +6,8 @@
 #include "app/fault.h"
 #include "app/field_file.h"
 #include "app/field_number.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "app/replace_file.h"
 
 namespace lignara {

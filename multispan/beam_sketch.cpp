@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 
 namespace lignara {
 namespace {

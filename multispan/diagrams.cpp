@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 
 namespace lignara {
 namespace {

@@ -1,7 +1,7 @@
 #include "multispan/integrations.h"
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_reader.h"
 #include "app/window_names.h"
 
 namespace lignara {

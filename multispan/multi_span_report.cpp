@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "app/report_file.h"
 #include "multispan/beam_sketch.h"
 #include "multispan/diagrams.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "multispan/diagrams.h"
 
 namespace lignara {

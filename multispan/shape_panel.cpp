@@ -1,4 +1,4 @@
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "multispan/diagrams.h"
 #include "multispan/results_window.h"
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "glulam/glulam_columns.h"
 #include "glulam/use_conditions.h"
 #include "multispan/results_window.h"

@@ -1,4 +1,5 @@
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "plywood/panel_kinds.h"
 #include "plywood/stamp.h"
 

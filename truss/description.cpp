@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "app/fault.h"
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "truss/truss_types.h"
 
 namespace lignara {

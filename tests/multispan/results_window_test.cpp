@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "tests/multispan/multi_span_fixture.h"
 
 namespace lignara {

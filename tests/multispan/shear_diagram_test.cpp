@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/number_text.h"
+#include "app/number_pattern.h"
 #include "tests/multispan/beams.h"
 
 namespace lignara {

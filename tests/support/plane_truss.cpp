@@ -4,7 +4,7 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "app/number_text.h"
+#include "app/number_reader.h"
 #include "tests/support/linear_equations.h"
 
 namespace lignara {
