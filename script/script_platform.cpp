@@ -43,11 +43,14 @@ void ScriptPlatform::Place(ToolWindow* window) {
 
 void ScriptPlatform::LetBeSeen(ToolWindow* window) {
   if (window->updatesEnabled()) return;
-  for (QLayout* layout : window->findChildren<QLayout*>()) {
+  const QList<QLayout*> layouts = window->findChildren<QLayout*>();
+  for (QLayout* layout : layouts) {
     layout->setEnabled(true);
     layout->invalidate();
   }
   DesktopPlatform::Place(window);
+  // They have passed over the sizes that their widgets got meanwhile.
+  for (QLayout* layout : layouts) layout->activate();
   window->setUpdatesEnabled(true);
   QApplication::processEvents();
 }
