@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
+#include "desktop/kit/curve_stroke.h"
 #include "desktop/kit/scene_painter.h"
 #include "desktop/kit/text.h"
 
@@ -67,23 +69,32 @@ class ShapePainter {
         fit_(fit),
         ground_(ground),
         pixel_(painter.device()->logicalDpiY() / 96.0),
-        rims_(drawing.shapes.size() < kCrowd) {
+        rims_(drawing.stretched || drawing.shapes.size() < kCrowd),
+        curve_(painter, pixel_ / 2) {
     QFont font = painter.font();
     font.setPixelSize(static_cast<int>(std::lround(TextPixels(drawing.textHeight))));
     painter.setFont(font);
   }
 
   void operator()(const LineShape& line) {
-    SetPen(line.colour, 14.0);
-    painter_.drawLine(fit_.Place(line.x1, line.y1), fit_.Place(line.x2, line.y2));
+    const QPointF from = fit_.Place(line.x1, line.y1), to = fit_.Place(line.x2, line.y2);
+    if (line.colour != penColour_) {
+      penColour_ = line.colour;
+      linePen_ = PenOf(line.colour, 14.0);
+    }
+    if (stretched_) return curve_.Add(from, to, linePen_);
+    painter_.setPen(linePen_);
+    painter_.drawLine(from, to);
   }
   void operator()(const CircleShape& circle) {
-    SetPen(circle.colour, 8.0);
+    Finish();
+    painter_.setPen(PenOf(circle.colour, 8.0));
     const double radius = circle.radius * fit_.scaleY;
     painter_.drawEllipse(fit_.Place(circle.x, circle.y), radius, radius);
   }
   /// A rim in the colour of the ground keeps a text legible where lines run behind it.
   void operator()(const TextShape& text) {
+    Finish();
     const QPointF corner = Inward(fit_.Place(text.x, text.y), ToQt(text.text));
     const QPointF base(corner.x(), corner.y() + QFontMetricsF(painter_.font()).ascent());
     if (rims_) {
@@ -94,6 +105,8 @@ class ShapePainter {
     painter_.setPen(ColourOn(ground_, text.colour));
     painter_.drawText(base, ToQt(text.text));
   }
+  /// The lines of a diagram are gathered, since a curve may have thousands.
+  void Finish() { curve_.Finish(); }
 
  private:
   double TextPixels(double height) const {
@@ -109,9 +122,9 @@ class ShapePainter {
     return {std::max(target_.left(), std::min(corner.x(), right)),
             std::max(target_.top(), std::min(corner.y(), bottom))};
   }
-  void SetPen(Colour colour, double width) {
+  QPen PenOf(Colour colour, double width) const {
     const double pixels = stretched_ ? 1.5 * pixel_ : std::max(1.2, width * fit_.scaleY);
-    painter_.setPen(QPen(ColourOn(ground_, colour), pixels, Qt::SolidLine, Qt::RoundCap));
+    return {ColourOn(ground_, colour), pixels, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
   }
 
   QPainter& painter_;
@@ -121,6 +134,9 @@ class ShapePainter {
   const QColor ground_;
   const double pixel_;  ///< of a screen, on the device at hand
   const bool rims_;
+  std::optional<Colour> penColour_;  ///< of the line before, which most lines go on
+  QPen linePen_;
+  CurveStroke curve_;
 };
 
 }  // namespace
@@ -172,6 +188,7 @@ void PaintDrawing(QPainter& painter, const PictureView& view, const QRectF& room
     ShapePainter shapes(painter, room, drawing, FitOf(view, room, drawing),
                         palette.color(QPalette::Base));
     for (const Shape& shape : drawing.shapes) std::visit(shapes, shape);
+    shapes.Finish();
   }
   painter.restore();
 }
