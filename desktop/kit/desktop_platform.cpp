@@ -32,6 +32,9 @@ ToolWindow* FindIn(const std::vector<ToolWindow*>& windows, const QString& name)
   return found == windows.end() ? nullptr : *found;
 }
 
+/// Reading the help is no work elsewhere: who comes back from it finds all that was typed.
+bool IsHelp(const ToolWindow* window) { return window->name() == window_name::kHelp; }
+
 }  // namespace
 
 DesktopPlatform::DesktopPlatform(SessionState& session)
@@ -127,7 +130,7 @@ ToolWindow* DesktopPlatform::MakeWindow(const std::string& name) {
   if (kind->modal) window->setWindowModality(Qt::ApplicationModal);
   window->Furnish(Screen(*window).size());
   Place(window);
-  lastActive_ = window;  // opening it is no coming back
+  if (!IsHelp(window)) lastActive_ = window;  // opening it is no coming back
   return window;
 }
 
@@ -152,6 +155,7 @@ void DesktopPlatform::Activate(ToolWindow* window) {
 
 void DesktopPlatform::NoteActive(ToolWindow* window) {
   if (lastActive_ == window || FindIn(windows_, window->name()) != window) return;
+  if (IsHelp(window)) return;
   lastActive_ = window;
   window->CameBack();
 }
