@@ -3,6 +3,8 @@
 #include <cmath>
 #include <limits>
 
+#include "beam/load_kinds.h"
+
 namespace lignara {
 namespace {
 
@@ -40,10 +42,6 @@ void AddCouple(const Load& load, double L, double N, std::vector<PointComponent>
   const double force = load.m / (2 * dx);
   components.push_back({-force, load.a - dx, L - (load.a - dx)});
   components.push_back({force, load.a + dx, L - (load.a + dx)});
-}
-
-bool IsDistributed(LoadKind kind) {
-  return kind == LevelUniform || kind == SlopedLeftZero || kind == SlopedRightZero;
 }
 
 bool HasFault(double number) { return !(std::fabs(number) <= std::numeric_limits<float>::max()); }

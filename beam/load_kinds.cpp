@@ -47,10 +47,7 @@ bool HasTwoPins(const Beam& beam, const LoadInput&) {
 bool HasFreeEnd(const Beam& beam, const LoadInput&) { return IsCantilever(beam.supportClass); }
 
 bool HasAxialLoad(const Beam& beam, const LoadInput&) {
-  for (int load = 1; load <= beam.loadCount.value(); ++load) {
-    if (beam.KindOf(load) == LoadKind::AxialLoad) return true;
-  }
-  return false;
+  return HasLoadOf(beam, LoadKind::AxialLoad);
 }
 
 // What adding does besides.
@@ -218,6 +215,15 @@ const std::array<LoadKindInfo, kLoadKinds>& LoadKindTable() { return kLoadKindTa
 
 const LoadKindInfo& LoadKindOf(LoadKind kind) {
   return kLoadKindTable[static_cast<std::size_t>(kind) - 1];
+}
+
+bool IsDistributed(LoadKind kind) { return LoadKindOf(kind).Shows(LoadField::W); }
+
+bool HasLoadOf(const SingleSpanBeam& beam, LoadKind kind) {
+  for (int load = 1; load <= beam.loadCount.value(); ++load) {
+    if (beam.KindOf(load) == kind) return true;
+  }
+  return false;
 }
 
 }  // namespace lignara

@@ -56,4 +56,9 @@ struct LoadKindInfo {
 const std::array<LoadKindInfo, kLoadKinds>& LoadKindTable();
 const LoadKindInfo& LoadKindOf(LoadKind kind);
 
+/// True for the kinds that are spread over a length.
+bool IsDistributed(LoadKind kind);
+/// Whether the list has a load of a kind.
+bool HasLoadOf(const SingleSpanBeam& beam, LoadKind kind);
+
 }  // namespace lignara

@@ -6,36 +6,55 @@
 
 #include "app/number_pattern.h"
 #include "app/sketch_pen.h"
+#include "beam/label_rooms.h"
+#include "beam/load_lanes.h"
+#include "beam/support_class.h"
 
 namespace lignara {
 namespace {
 
 /// One unit of the sketch in units of the picture, whose lines are a few of those wide.
 constexpr double kUnit = 10;
-constexpr double kWidth = 1000, kHeight = 500, kTextHeight = 15;
+constexpr double kWidth = 1000, kTextHeight = 17;
 constexpr double kLeft = 110, kRight = 890;  // the ends of the beam
-constexpr double kBeam = kHeight / 2;        // its axis
 constexpr double kHalfDepth = 3;
-constexpr double kTop = kBeam - kHalfDepth;  // where loads from above end
-constexpr double kBottom = kBeam + kHalfDepth;
-constexpr double kDimensionTop = 392, kDimensionPitch = 26;
+constexpr double kDimensionPitch = 24;
 constexpr int kDimensionRows = 3;  // above that of the span
 
-/// A rectangle that a label takes.
-struct Room {
-  double x, y, width, height;
+/// Where things stand, from top to bottom. A low picture keeps its letters legible beside open
+/// panels; many loads need more room above each other.
+struct Heights {
+  explicit Heights(int loads) : whole(loads > kFew ? 440 : 360) {}
 
-  bool Overlaps(const Room& other) const {
-    return x < other.x + other.width && other.x < x + width && y < other.y + other.height &&
-           other.y < y + height;
-  }
+  double Beam() const { return whole / 2; }              ///< its axis
+  double Top() const { return Beam() - kHalfDepth; }     ///< where loads from above end
+  double Bottom() const { return Beam() + kHalfDepth; }  ///< and those from below
+  double Dimensions() const { return whole - 98; }
+  /// For loads and their labels.
+  double Above() const { return Top() - 2 * kTextHeight; }
+  double Below() const { return Dimensions() - 8 - Bottom(); }
+  double TallestPoint() const { return whole / 4; }
+
+  static constexpr int kFew = 12;
+  double whole;
 };
+
+/// About the width of a text, in the letters that most screens have.
+double WidthOf(const std::string& text) {
+  if (text == "W" || text == "M") return 0.95 * kTextHeight;
+  return 0.6 * kTextHeight * static_cast<double>(text.size());
+}
 
 /// Draws one beam with its loads.
 class LoadSketch {
  public:
   LoadSketch(const SingleSpanBeam& beam, int chosen)
-      : beam_(beam), chosen_(chosen), pen_(kWidth, kHeight, kTextHeight) {}
+      : beam_(beam),
+        chosen_(chosen),
+        at_(beam.loadCount.value()),
+        lanes_(FindLanes(beam)),
+        pen_(kWidth, at_.whole, kTextHeight),
+        labels_(at_.Dimensions()) {}
 
   void Draw();
   Drawing Take() const;
@@ -52,12 +71,16 @@ class LoadSketch {
   void DrawMoment(int load);
   void DrawDisplacement(int load);
   void DrawAxial(int load);
+  void DrawNotes();
   void DrawDimensions();
   void DrawDimensionsOf(int load, double y);
 
   void FindScales();
-  void FindLanes();
-  double LaneHeight() const { return std::max(14.0, 140.0 / std::max(lanes_, 1)); }
+  bool IsUpward(int load) const { return beam_.loadW[load] < 0; }
+  double LaneHeight(int load) const {
+    return IsUpward(load) ? std::min(70.0, at_.Below() / std::max(lanes_.below, 1))
+                          : std::min(74.0, at_.Above() / std::max(lanes_.above, 1));
+  }
   double At(const Number& feet) const;
   /// The height of a load to scale, between the smallest that is seen and the tallest.
   static double ToScale(double value, double largest, double least, double most);
@@ -66,21 +89,15 @@ class LoadSketch {
   /// number finds no room the letter stands alone, and where that finds none nothing stands.
   void Label(double x, double y, double step, const char* letter, const std::string& number,
              int load, Colour colour);
-  bool PlaceLabel(const Room& wanted, double step, Room& found);
 
   const SingleSpanBeam& beam_;
   const int chosen_;
+  const Heights at_;
+  const LoadLanes lanes_;
   SketchPen pen_;
   double largestP_ = 0, largestW_ = 0;
-  int lanes_ = 0;
-  std::vector<int> laneOf_;
-  std::vector<Room> labels_;
+  LabelRooms labels_;
 };
-
-bool IsDistributed(LoadKind kind) {
-  return kind == LoadKind::LevelUniform || kind == LoadKind::SlopedLeftZero ||
-         kind == LoadKind::SlopedRightZero;
-}
 
 double LoadSketch::At(const Number& feet) const {
   return kLeft + (kRight - kLeft) * (feet / beam_.spanLength).value();
@@ -103,44 +120,14 @@ void LoadSketch::FindScales() {
   }
 }
 
-/// Distributed loads that lie over each other are stacked.
-void LoadSketch::FindLanes() {
-  std::vector<double> ends;
-  laneOf_.assign(static_cast<std::size_t>(beam_.loadCount.value()) + 1, 0);
-  for (int load = 1; load <= beam_.loadCount.value(); ++load) {
-    if (!IsDistributed(beam_.KindOf(load))) continue;
-    const double start = beam_.loadA[load].value();
-    const double end = start + beam_.loadB[load].value();
-    std::size_t lane = 0;
-    while (lane < ends.size() && start < ends[lane]) ++lane;
-    if (lane == ends.size()) ends.push_back(end);
-    ends[lane] = std::max(ends[lane], end);
-    laneOf_[static_cast<std::size_t>(load)] = static_cast<int>(lane);
-  }
-  lanes_ = static_cast<int>(ends.size());
-}
-
-bool LoadSketch::PlaceLabel(const Room& wanted, double step, Room& found) {
-  constexpr int kTries = 6;
-  found = wanted;
-  for (int i = 0; i < kTries; ++i, found.y += step) {
-    const bool inside = found.y >= 0 && found.y + found.height <= kDimensionTop;
-    const bool taken = std::any_of(labels_.begin(), labels_.end(),
-                                   [&](const Room& room) { return room.Overlaps(found); });
-    if (inside && !taken) return true;
-  }
-  return false;
-}
-
 void LoadSketch::Label(double x, double y, double step, const char* letter,
                        const std::string& number, int load, Colour colour) {
-  const double letterWidth = pen_.TextWidth(letter) + pen_.letterWidth();
-  for (const double numberWidth : {pen_.TextWidth(number), 0.0}) {
+  constexpr double kGap = 0.3 * kTextHeight;
+  const double letterWidth = WidthOf(letter) + kGap;
+  for (const double numberWidth : {WidthOf(number), 0.0}) {
     const double width = letterWidth + numberWidth;
-    const double left = std::clamp(x - width / 2, 0.0, kWidth - width);
-    Room room{};
-    if (!PlaceLabel({left, y, width + pen_.letterWidth(), kTextHeight}, step, room)) continue;
-    labels_.push_back(room);
+    LabelRoom room{std::clamp(x - width / 2, 0.0, kWidth - width), y, width + kGap, kTextHeight};
+    if (!labels_.Take(room, step)) continue;
     pen_.Text(room.x, room.y, letter, ColourOf(load, colour));
     if (numberWidth > 0) pen_.Text(room.x + letterWidth, room.y, number, ColourOf(load, colour));
     return;
@@ -150,11 +137,12 @@ void LoadSketch::Label(double x, double y, double step, const char* letter,
 /// An arrow that ends on the beam, from above for a downward load.
 void LoadSketch::DrawPoint(int load) {
   const double P = beam_.loadP[load].value();
-  const double height = ToScale(P, largestP_, 30, 110);
-  const double x = At(beam_.loadA[load]);
   const bool down = P >= 0;
-  const double tail = down ? kTop - height : kBottom + height;
-  pen_.Arrow(x, tail, x, down ? kTop : kBottom, ColourOf(load, Colour::Blue));
+  const double height =
+      ToScale(P, largestP_, 26, down ? at_.TallestPoint() : at_.Below() - kTextHeight - 2);
+  const double x = At(beam_.loadA[load]);
+  const double tail = down ? at_.Top() - height : at_.Bottom() + height;
+  pen_.Arrow(x, tail, x, down ? at_.Top() : at_.Bottom(), ColourOf(load, Colour::Blue));
   Label(x, down ? tail - kTextHeight - 2 : tail + 2, down ? -kTextHeight : kTextHeight, "P",
         PlainNumber(beam_.loadP[load]) + " lbs", load, Colour::Blue);
 }
@@ -163,9 +151,10 @@ void LoadSketch::DrawPoint(int load) {
 void LoadSketch::DrawUniform(int load) {
   const double W = beam_.loadW[load].value();
   const double towards = W >= 0 ? -1 : 1;
-  const double full = std::min(LaneHeight() - 4, ToScale(W, largestW_, 12, 70));
-  const double base =
-      (W >= 0 ? kTop : kBottom) + towards * LaneHeight() * laneOf_[static_cast<std::size_t>(load)];
+  const double lane = LaneHeight(load);
+  const double full = std::min(lane - std::min(4.0, lane / 3), ToScale(W, largestW_, 12, 70));
+  const double base = (W >= 0 ? at_.Top() : at_.Bottom()) +
+                      towards * lane * lanes_.laneOf[static_cast<std::size_t>(load)];
   const double x1 = At(beam_.loadA[load]), x2 = At(beam_.loadA[load] + beam_.loadB[load]);
   const LoadKind kind = beam_.KindOf(load);
   const double h1 = kind == LoadKind::SlopedLeftZero ? 0 : full;
@@ -194,14 +183,14 @@ void LoadSketch::DrawMoment(int load) {
   const Colour colour = ColourOf(load, Colour::DarkOrange);
   const auto point = [&](int i) {
     const double angle = std::numbers::pi * (-1.25 + 1.5 * i / kSegments);
-    return std::pair{x + turn * kRadius * std::cos(angle), kBeam + kRadius * std::sin(angle)};
+    return std::pair{x + turn * kRadius * std::cos(angle), at_.Beam() + kRadius * std::sin(angle)};
   };
   SketchPen::Points points;
   for (int i = 0; i < kSegments; ++i) points.push_back(point(i));
   pen_.Path(points, colour);
   pen_.Arrow(points.back().first, points.back().second, point(kSegments).first,
              point(kSegments).second, colour);
-  Label(x, kBeam - kRadius - kTextHeight - 2, -kTextHeight, "M",
+  Label(x, at_.Beam() - kRadius - kTextHeight - 2, -kTextHeight, "M",
         PlainNumber(beam_.loadM[load]) + " ft-lb", load, Colour::DarkOrange);
 }
 
@@ -210,9 +199,9 @@ void LoadSketch::DrawDisplacement(int load) {
   const bool left = beam_.KindOf(load) == LoadKind::LeftDisplacement;
   const double x = left ? kLeft - 34 : kRight + 34;
   const double towards = beam_.loadDisp[load] >= 0 ? -1 : 1;
-  pen_.Arrow(x, kBeam - towards * kReach / 2, x, kBeam + towards * kReach,
+  pen_.Arrow(x, at_.Beam() - towards * kReach / 2, x, at_.Beam() + towards * kReach,
              ColourOf(load, Colour::Black));
-  Label(x, kBeam - kReach - kTextHeight - 2, -kTextHeight, "Disp",
+  Label(x, at_.Beam() - kReach - kTextHeight - 2, -kTextHeight, "Disp",
         PlainNumber(beam_.loadDisp[load]) + " in", load, Colour::Black);
 }
 
@@ -223,12 +212,22 @@ void LoadSketch::DrawAxial(int load) {
   const Colour colour = ColourOf(load, Colour::DarkOrange);
   for (const auto& [end, outward] : {std::pair{kLeft, -1.0}, std::pair{kRight, 1.0}}) {
     const double near = end + outward * kGap, far = end + outward * kReach;
-    pen_.Arrow(tension ? near : far, kBeam, tension ? far : near, kBeam, colour);
+    pen_.Arrow(tension ? near : far, at_.Beam(), tension ? far : near, at_.Beam(), colour);
   }
-  Label(kRight + 56, kBeam + 14, kTextHeight, "P", PlainNumber(beam_.loadAxial[load]) + " lbs",
-        load, Colour::DarkOrange);
-  pen_.Text(8, 8, "(+) = Tension");
-  pen_.Text(8, 8 + 1.2 * kTextHeight, "(-) = compression");
+  constexpr double kBelowSupport = 38;
+  Label(kRight + 56, at_.Beam() + kBelowSupport, kTextHeight, "P",
+        PlainNumber(beam_.loadAxial[load]) + " lbs", load, Colour::DarkOrange);
+}
+
+/// The sense of an axial load, in the corner.
+void LoadSketch::DrawNotes() {
+  double y = 8;
+  for (const char* note : {"(+) = Tension", "(-) = compression"}) {
+    LabelRoom room{8, y, WidthOf(note), kTextHeight};
+    labels_.Take(room, 0);
+    pen_.Text(room.x, room.y, note);
+    y += 1.2 * kTextHeight;
+  }
 }
 
 LoadSketch::Draft LoadSketch::DraftOf(LoadKind kind) {
@@ -254,23 +253,25 @@ LoadSketch::Draft LoadSketch::DraftOf(LoadKind kind) {
 void LoadSketch::DrawSupport(double x, SupportType support, double outward) {
   if (support == SupportType::Fixed) {
     constexpr double kWall = 36;
-    pen_.Line(x, kBeam - kWall, x, kBeam + kWall);
-    for (double y = kBeam - kWall; y < kBeam + kWall; y += 12) {
+    pen_.Line(x, at_.Beam() - kWall, x, at_.Beam() + kWall);
+    for (double y = at_.Beam() - kWall; y < at_.Beam() + kWall; y += 12) {
       pen_.Line(x, y, x + outward * 9, y + 9, Colour::Gray);
     }
   }
   if (support == SupportType::Pinned) {
     constexpr double kSide = 14, kRise = 24;
-    pen_.Path(
-        {{x, kBottom}, {x - kSide, kBottom + kRise}, {x + kSide, kBottom + kRise}, {x, kBottom}});
+    pen_.Path({{x, at_.Bottom()},
+               {x - kSide, at_.Bottom() + kRise},
+               {x + kSide, at_.Bottom() + kRise},
+               {x, at_.Bottom()}});
     for (double at = -kSide; at <= kSide; at += 7) {
-      pen_.Line(x + at, kBottom + kRise, x + at - 6, kBottom + kRise + 7, Colour::Gray);
+      pen_.Line(x + at, at_.Bottom() + kRise, x + at - 6, at_.Bottom() + kRise + 7, Colour::Gray);
     }
   }
 }
 
 void LoadSketch::DrawBeam() {
-  pen_.Box(kLeft, kTop, kRight, kBottom);
+  pen_.Box(kLeft, at_.Top(), kRight, at_.Bottom());
   DrawSupport(kLeft, beam_.leftSupport, -1);
   DrawSupport(kRight, beam_.rightSupport, 1);
 }
@@ -296,12 +297,12 @@ void LoadSketch::DrawDimensions() {
   if (static_cast<int>(placed.size()) > kDimensionRows) {
     placed = {chosen_ > 0 ? chosen_ : placed.back()};
   }
-  double y = kDimensionTop;
+  double y = at_.Dimensions();
   for (const int load : placed) {
     DrawDimensionsOf(load, y);
     y += kDimensionPitch;
   }
-  y = kDimensionTop + kDimensionRows * kDimensionPitch;
+  y = at_.Dimensions() + kDimensionRows * kDimensionPitch;
   pen_.LevelDimension(kLeft, kRight, y, "L");
   pen_.Text((kLeft + kRight) / 2 + pen_.letterWidth() * 2, y + pen_.tick(),
             PlainNumber(beam_.spanLength) + " ft");
@@ -309,8 +310,8 @@ void LoadSketch::DrawDimensions() {
 
 void LoadSketch::Draw() {
   FindScales();
-  FindLanes();
   DrawBeam();
+  if (HasLoadOf(beam_, LoadKind::AxialLoad)) DrawNotes();
   // The chosen load finds room for its label first.
   if (chosen_ > 0) (this->*DraftOf(beam_.KindOf(chosen_)))(chosen_);
   for (int load = 1; load <= beam_.loadCount.value(); ++load) {
@@ -347,6 +348,13 @@ void ShowLoadPicture(BeamWindow& window) {
   LoadSketch sketch(window.beam, window.loads.row + 1);
   sketch.Draw();
   window.loadPicture = sketch.Take();
+}
+
+std::string DescribeLoads(const SingleSpanBeam& beam) {
+  const int loads = beam.loadCount.value();
+  return "beam of " + PlainNumber(beam.spanLength) + " ft, left support " +
+         SupportWord(beam.leftSupport) + ", right support " + SupportWord(beam.rightSupport) +
+         ", " + std::to_string(loads) + (loads == 1 ? " load" : " loads");
 }
 
 }  // namespace lignara

@@ -11,11 +11,8 @@ namespace {
 constexpr const char* kTwoDecimals = "0.00";
 
 bool HasDisplacedSupport(const SingleSpanBeam& beam) {
-  for (int load = 1; load <= beam.loadCount.value(); ++load) {
-    const LoadKind kind = beam.KindOf(load);
-    if (kind == LoadKind::LeftDisplacement || kind == LoadKind::RightDisplacement) return true;
-  }
-  return false;
+  return HasLoadOf(beam, LoadKind::LeftDisplacement) ||
+         HasLoadOf(beam, LoadKind::RightDisplacement);
 }
 
 void ShowResults(BeamWindow& window) {

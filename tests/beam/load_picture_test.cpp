@@ -13,7 +13,7 @@ namespace {
 
 using enum SupportType;
 
-constexpr double kLeft = 1100, kRight = 8900, kAxis = 2500;  // the beam's ends, as drawn
+constexpr double kLeft = 1100, kRight = 8900, kAxis = 1800;  // the beam's ends, as drawn
 
 class LoadPicture : public testing::Test {
  protected:
@@ -45,6 +45,26 @@ class LoadPicture : public testing::Test {
           const auto* line = std::get_if<LineShape>(&shape);
           return line != nullptr && line->colour == colour;
         }));
+  }
+  /// No text of a load stands over another, by the width that letters have on most screens.
+  void ExpectLettersApart() const {
+    struct Place {
+      double x, y, width;
+    };
+    std::vector<Place> places;
+    for (const Shape& shape : Picture().shapes) {
+      const auto* text = std::get_if<TextShape>(&shape);
+      if (text == nullptr || text->y > Picture().height - 980) continue;
+      places.push_back({text->x, text->y, 0.6 * 170 * static_cast<double>(text->text.size())});
+    }
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      for (std::size_t j = i + 1; j < places.size(); ++j) {
+        const bool apart = std::fabs(places[i].y - places[j].y) >= 169.99 ||
+                           places[i].x + places[i].width <= places[j].x + 0.01 ||
+                           places[j].x + places[j].width <= places[i].x + 0.01;
+        EXPECT_TRUE(apart) << i << " and " << j;
+      }
+    }
   }
   /// The line that ends on top of the beam at a place along it, 0 to 1.
   double ArrowHeight(double share) const {
@@ -104,8 +124,8 @@ TEST_F(LoadPicture, LettersEachKind) {
 TEST_F(LoadPicture, DrawsLoadsToScaleAtTheirPlace) {
   beam.Point("2", "1000");
   beam.Point("7.5", "500");
-  EXPECT_NEAR(ArrowHeight(0.2), 1100, 0.01);
-  EXPECT_NEAR(ArrowHeight(0.75), 700, 0.01);  // between 300 and 1100
+  EXPECT_NEAR(ArrowHeight(0.2), 900, 0.01);
+  EXPECT_NEAR(ArrowHeight(0.75), 580, 0.01);  // between 260 and 900
 }
 
 TEST_F(LoadPicture, DrawsUpwardLoadsFromBelow) {
@@ -133,24 +153,52 @@ TEST_F(LoadPicture, ShowsTheChosenLoadInRed) {
 
 TEST_F(LoadPicture, LettersOfManyLoadsKeepApart) {
   for (int i = 0; i < 101; ++i) beam.Point(Typed(0.05 + 0.098 * i), "1000");
-  struct Place {
-    double x, y, width;
-  };
-  std::vector<Place> places;
+  EXPECT_GT(Letters().size(), 20u);
+  ExpectLettersApart();
+}
+
+TEST_F(LoadPicture, LettersOfAllKindsKeepApart) {
+  beam.Supports(Fixed, Fixed);
+  beam.Add(LoadKind::LeftDisplacement, {{"Disp", "0.25"}});
+  beam.Point("0.4", "200");
+  beam.Point("2.1", "1500");
+  beam.Point("3.1", "1500");
+  beam.Uniform("4", "3", "200");
+  beam.Moment("6.5", "-700");
+  beam.Axial("-2500");
+  ExpectLettersApart();
+}
+
+TEST_F(LoadPicture, IsLowForFewLoadsAndHighForMany) {
+  EXPECT_EQ(Picture().height, 3600);
+  for (int i = 0; i < 12; ++i) beam.Point("5", "1");
+  EXPECT_EQ(Picture().height, 3600);
+  beam.Point("5", "1");
+  EXPECT_EQ(Picture().height, 4400);
+}
+
+TEST_F(LoadPicture, StacksUpwardLoadsBelowTheBeamOnly) {
+  for (int i = 0; i < 4; ++i) beam.Uniform("0", "10", "100");
+  beam.Uniform("0", "10", "-100");
+  EXPECT_GE(LinesAt(kLeft, kAxis + 30), 2) << "next to the beam, whatever stands above it";
+  // Nothing reaches into the dimensions, 980 above the bottom.
   for (const Shape& shape : Picture().shapes) {
-    const auto* text = std::get_if<TextShape>(&shape);
-    if (text == nullptr) continue;
-    places.push_back({text->x, text->y, 75 * static_cast<double>(text->text.size())});
-  }
-  EXPECT_GT(places.size(), 20u);
-  for (std::size_t i = 0; i < places.size(); ++i) {
-    for (std::size_t j = i + 1; j < places.size(); ++j) {
-      const bool apart = std::fabs(places[i].y - places[j].y) >= 149.99 ||
-                         places[i].x + places[i].width <= places[j].x + 0.01 ||
-                         places[j].x + places[j].width <= places[i].x + 0.01;
-      EXPECT_TRUE(apart) << i << " and " << j;
+    const auto* line = std::get_if<LineShape>(&shape);
+    if (line != nullptr && line->colour == Colour::RoyalBlue) {
+      EXPECT_LT(std::max(line->y1, line->y2), 3600 - 980);
+      EXPECT_GT(std::min(line->y1, line->y2), 0);
     }
   }
+}
+
+TEST_F(LoadPicture, IsToldInWords) {
+  beam.Supports(Fixed, Free);
+  EXPECT_EQ(DescribeLoads(beam.window.beam),
+            "beam of 10 ft, left support fixed, right support free, 0 loads");
+  beam.Length("12.5");
+  beam.Point("5", "1");
+  EXPECT_EQ(DescribeLoads(beam.window.beam),
+            "beam of 12.5 ft, left support fixed, right support free, 1 load");
 }
 
 TEST_F(LoadPicture, StacksLoadsThatLieOverEachOther) {
@@ -158,7 +206,8 @@ TEST_F(LoadPicture, StacksLoadsThatLieOverEachOther) {
   const std::size_t one = Picture().shapes.size();
   beam.Uniform("0", "10", "100");
   EXPECT_GE(LinesAt(kLeft, kAxis - 30), 2);
-  EXPECT_GE(LinesAt(kLeft, kAxis - 30 - 700), 2) << "half of the height for each";
+  // 180 - 3 ft of the axis less two rows of letters, for two lanes: 71.5 each.
+  EXPECT_GE(LinesAt(kLeft, kAxis - 30 - 715), 2) << "half of the height for each";
   EXPECT_GT(Picture().shapes.size(), one);
 }
 
