@@ -38,15 +38,15 @@ class DiagramPainter {
     DrawCurve();
   }
 
-  /// A line from the base to the peak, with the value beside it.
+  /// A line from the base to the peak, with the value beside it: between both, where no curve runs.
   void MarkPeak(const std::string& value) {
     const int station = PeakStation(values_, last_);
-    drawing_.shapes.emplace_back(
-        LineShape{1.0 * station, Base(), 1.0 * station, YAt(station), Colour::Red});
-    const double above = std::max(0.0, YAt(station) - drawing_.textHeight);
-    const double y = YAt(station) < Base() ? above : YAt(station);
-    drawing_.shapes.emplace_back(TextShape{1.0 * station, y, value, Colour::Red});
+    const double tip = YAt(station);
+    drawing_.shapes.emplace_back(LineShape{1.0 * station, Base(), 1.0 * station, tip, Colour::Red});
+    const double y = (Base() + tip - drawing_.textHeight) / 2;
+    drawing_.shapes.emplace_back(TextShape{station + drawing_.width / 100, y, value, Colour::Red});
   }
+  /// The last shape of all: it is moved without the curve being drawn again.
   void MarkStation(int station) {
     drawing_.shapes.emplace_back(
         LineShape{1.0 * station, 0, 1.0 * station, drawing_.height, Colour::DarkOrange});
@@ -109,6 +109,21 @@ void Draw(BeamWindow& window) {
   }
 }
 
+/// The curves stay as they are, so that dragging is quick however many stations there are.
+void MoveMarks(BeamWindow& window) {
+  const int station = std::min(window.diagrams.station, window.results.grid.last);
+  for (const DiagramRow& row : kDiagramRows) {
+    std::vector<Shape>& shapes = (window.diagrams.*row.drawing).shapes;
+    if (shapes.empty()) continue;
+    auto& mark = std::get<LineShape>(shapes.back());
+    mark.x1 = mark.x2 = station;
+  }
+}
+
+std::string LocationText(const StationGrid& grid, int station) {
+  return FormatNumber(Float32(station / grid.steps * grid.span), "0.000");
+}
+
 /// The slope between a station and the one before, in the unit of the deflections.
 void FillRotations(BeamResults& results, const SessionState& session) {
   const double unit = session.unitSystem == 1 ? 100 : 12;
@@ -133,7 +148,7 @@ void ShowReadOuts(BeamWindow& window) {
     diagrams.*row.readOut = show((window.results.*row.values)[s], row.pattern);
   }
   diagrams.rotationAt = show(window.results.rotationTotal[s], "0.000000");
-  diagrams.location = show(Float32(s / grid.steps * grid.span), "0.000");
+  diagrams.location = known ? LocationText(grid, s) : std::string();
 }
 
 }  // namespace
@@ -142,10 +157,21 @@ Drawing DiagramOnPaper(const BeamWindow& window, Diagram diagram) {
   return Painted(window, kDiagramRows[static_cast<std::size_t>(diagram)], std::nullopt);
 }
 
+std::string DescribeDiagram(const BeamWindow& window, Diagram diagram) {
+  const DiagramRow& row = kDiagramRows[static_cast<std::size_t>(diagram)];
+  const BeamResults& results = window.results;
+  const Float32Array& values = results.*row.values;
+  if (values.upper() < 0) return "before a run";
+  const int peak = PeakStation(values, results.grid.last);
+  return "largest value " + window.*row.peakText + " at " + LocationText(results.grid, peak) +
+         " ft";
+}
+
 void ShowDiagrams(BeamWindow& window, const SessionState& session) {
   const FaultsOnce once;
   FillRotations(window.results, session);
   window.diagrams.enabled = true;
+  Draw(window);
   MoveToStation(window, window.diagrams.station);
 }
 
@@ -159,7 +185,7 @@ void CloseDiagrams(BeamWindow& window) { window.diagrams.open = false; }
 
 void MoveToStation(BeamWindow& window, int station) {
   window.diagrams.station = std::clamp(station, 0, window.diagrams.lastStation);
-  Draw(window);
+  MoveMarks(window);
   ShowReadOuts(window);
 }
 

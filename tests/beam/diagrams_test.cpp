@@ -70,7 +70,9 @@ TEST_F(SingleSpanDiagrams, MarkThePeakWithItsValue) {
   EXPECT_EQ(LineOf(moment, 501), (LineShape{250, 3000, 250, 5500, Colour::Red}));
   const auto& text = std::get<TextShape>(moment.shapes.at(502));
   EXPECT_EQ(text.text, "-2500.00");
-  EXPECT_EQ(text.x, 250.0);
+  EXPECT_EQ(text.x, 255.0) << "beside the line";
+  // Its middle between 3000 and 5500, where no curve runs.
+  EXPECT_DOUBLE_EQ(text.y + moment.textHeight / 2, 4250.0);
 }
 
 TEST_F(SingleSpanDiagrams, MarkTheStationOnTheScreenButNotOnPaper) {
@@ -79,6 +81,24 @@ TEST_F(SingleSpanDiagrams, MarkTheStationOnTheScreenButNotOnPaper) {
   MoveToStation(beam.window, 120);
   EXPECT_EQ(LineOf(Panel().shear, 503), (LineShape{120, 0, 120, 1200, Colour::DarkOrange}));
   EXPECT_EQ(DiagramOnPaper(beam.window, Diagram::Shear).shapes.size(), 503u);
+}
+
+TEST_F(SingleSpanDiagrams, MoveOnlyTheMarkWithTheStation) {
+  beam.Point("5", "1000");
+  beam.Run();
+  Drawing before = Panel().moment;
+  MoveToStation(beam.window, 33);
+  std::get<LineShape>(before.shapes.back()) = {33, 0, 33, 6000, Colour::DarkOrange};
+  EXPECT_EQ(Panel().moment, before);
+}
+
+TEST_F(SingleSpanDiagrams, AreToldInWords) {
+  EXPECT_EQ(DescribeDiagram(beam.window, Diagram::Shear), "before a run");
+  beam.Supports(SupportType::Fixed, SupportType::Free);
+  beam.Point("10", "100");
+  beam.Run();
+  EXPECT_EQ(DescribeDiagram(beam.window, Diagram::Moment), "largest value 1000.00 at 0.000 ft");
+  EXPECT_EQ(DescribeDiagram(beam.window, Diagram::Deflection), "largest value 0.9000 at 10.000 ft");
 }
 
 TEST_F(SingleSpanDiagrams, OfNothingAreFlat) {
