@@ -70,8 +70,9 @@ void WriteSupports(Report& report, const SingleSpanBeam& beam) {
   report.Line(beam.loadAxis == 0 ? "Moment is about strong axis." : "Moment is about weak axis.");
 }
 
+/// The heading stands again on each further page that the loads take.
 void WriteLoads(Report& report, const SingleSpanBeam& beam) {
-  report.Line("APPLIED LOADS");
+  report.Heads({"APPLIED LOADS"});
   for (int load = 1; load <= beam.loadCount.value(); ++load) {
     const LoadKindInfo& kind = LoadKindOf(beam.KindOf(load));
     report.Line("Load No. (" + std::to_string(load) + ")");

@@ -157,6 +157,25 @@ TEST_F(BeamReport, GoesOnBelowTheHeaderWhereItIsLong) {
   EXPECT_EQ(std::count(lines.begin(), lines.end(), "APPLIED LOADS"), 1);
 }
 
+TEST_F(BeamReport, RepeatsTheHeadingOfTheLoadsOnFurtherPages) {
+  beam.Point("5", "1000");
+  Texts heads;
+  const Report report = BeamTextReport(beam.window, beam.session);
+  for (const Report::Item& item : report.items()) {
+    const auto* line = std::get_if<ReportLine>(&item);
+    if (line != nullptr && line->heads) heads.push_back(line->Text());
+  }
+  EXPECT_EQ(heads, Texts({"APPLIED LOADS"}));
+}
+
+TEST_F(BeamReport, BeforeARunPrintsZerosAndNoDiagrams) {
+  PrintBeamDiagrams(beam.window, beam.session, beam.platform);
+  EXPECT_EQ(Lines(beam.platform.printed[0]),
+            Texts({"SHEAR DIAGRAM", "Max. Shear = 0.00 lbs", "MOMENT DIAGRAM",
+                   "Max. Moment = 0.00 ft-lbs", "DEFLECTED SHAPE", "Max. Def. = 0.0000 in",
+                   "BEAM SYSTEM", "<drawing>"}));
+}
+
 TEST_F(BeamReport, PrintsTheDiagramsAlone) {
   beam.Point("5", "1000");
   beam.Axial("-20");
