@@ -16,7 +16,9 @@
 #include "desktop/kit/area_keys.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/text.h"
 
 namespace lignara {
 namespace {
@@ -45,11 +47,13 @@ struct DiagramValue {
   const std::string* text;
 };
 
-Picture* MakeDiagram(const char* name, const Drawing* drawing, BeamWindow& window, Binding& binding,
-                     DesktopPlatform& platform) {
+Picture* MakeDiagram(const char* name, Diagram diagram, const Drawing* drawing, BeamWindow& window,
+                     Binding& binding, DesktopPlatform& platform) {
   auto* picture = Named(name, new DraggedPicture);
   picture->setMinimumSize(220, 72);
   binding.Show(picture, drawing);
+  binding.Follow(
+      [picture, diagram, &window] { Describe(picture, ToQt(DescribeDiagram(window, diagram))); });
   picture->OnPress([&window, &binding](double x, double) {
     binding.Run([&window, x] { PressDiagram(window, x); });
   });
@@ -141,15 +145,16 @@ QGroupBox* MakeDiagramsPanel(BeamWindow& window, Binding& binding, DesktopPlatfo
   QGroupBox* panel = MakePanel("Diagrams");
   auto* rows = new QVBoxLayout(panel);
   BeamDiagrams& d = window.diagrams;
-  const auto add = [&](const char* name, const Drawing* drawing,
+  const auto add = [&](const char* name, Diagram diagram, const Drawing* drawing,
                        const std::vector<DiagramValue>& values) {
-    Picture* picture = MakeDiagram(name, drawing, window, binding, platform);
+    Picture* picture = MakeDiagram(name, diagram, drawing, window, binding, platform);
     rows->addWidget(DiagramRow(name, picture, values, binding));
   };
-  add("Shear", &d.shear, {{"Value at X:", &d.shearAt}, {"Max. Shear (lbs):", &window.maxShear}});
-  add("Moment", &d.moment,
+  add("Shear", Diagram::Shear, &d.shear,
+      {{"Value at X:", &d.shearAt}, {"Max. Shear (lbs):", &window.maxShear}});
+  add("Moment", Diagram::Moment, &d.moment,
       {{"Value at X:", &d.momentAt}, {"Max. Mom. (ft-lbs)", &window.maxMoment}});
-  add("Deflected Shape", &d.deflection,
+  add("Deflected Shape", Diagram::Deflection, &d.deflection,
       {{"Def.at X:", &d.deflAt},
        {"Rot. at X(rad)", &d.rotationAt},
        {"Max. Def. (in)", &window.maxDeflection}});

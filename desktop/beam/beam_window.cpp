@@ -14,6 +14,7 @@
 
 #include "app/window_names.h"
 #include "beam/diagrams.h"
+#include "beam/load_picture.h"
 #include "beam/report.h"
 #include "beam/stress_check.h"
 #include "beam/unit_captions.h"
@@ -23,7 +24,9 @@
 #include "desktop/kit/header_panel.h"
 #include "desktop/kit/option_frame.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/text.h"
 #include "desktop/windows.h"
 
 namespace lignara {
@@ -44,6 +47,7 @@ QRadioButton* ChosenOption(const QGroupBox* frame) {
 class BeamForm : public ToolWindow {
  public:
   explicit BeamForm(WindowContext context);
+  QString DocumentName() const override;
 
  protected:
   void Returned() override { FillFromMember(record_, session()); }
@@ -85,15 +89,19 @@ BeamForm::BeamForm(WindowContext context) : ToolWindow(window_name::kBeam, conte
   OpenBeam(record_, session(), platform());
   setWindowTitle("Multi-Load Single Span");
   AddMenus();
+  binding().Text(AddStatusText("Member Note"), &record_.memberNote);
   auto* area = new QWidget;
   setCentralWidget(area);
   auto* columns = new QHBoxLayout(area);
   columns->setSpacing(10);
+  columns->setContentsMargins(9, 4, 9, 4);
   columns->addLayout(InputColumn());
   columns->addLayout(ResultColumn(), 1);
-  resize(1180, 790);
+  resize(1180, 900);
   ChosenOption(kinds_)->setFocus();  // a field would be emptied by coming into it
 }
+
+QString BeamForm::DocumentName() const { return TitleOr(windowTitle(), session()); }
 
 void BeamForm::AddFilesMenu() {
   QMenu* files = menuBar()->addMenu("&Files");
@@ -172,21 +180,12 @@ QGroupBox* BeamForm::Constants() {
 }
 
 QLayout* BeamForm::MemberRow() {
-  auto* rows = new QVBoxLayout;
   auto* row = new QHBoxLayout;
   row->addWidget(new QLabel("Member"));
-  auto* name = Named("Member", new QLabel);
-  QFont font = name->font();
-  font.setBold(true);
-  name->setFont(font);
+  QLabel* name = Named("Member", MakeHeading(""));
   binding().Text(name, &record_.memberName);
   row->addWidget(name, 1, Qt::AlignRight);
-  rows->addLayout(row);
-  auto* note = Named("Member Note", new QLabel);
-  binding().Text(note, &record_.memberNote);
-  binding().Shown(note, [this] { return !record_.memberNote.empty(); });
-  rows->addWidget(note);
-  return rows;
+  return row;
 }
 
 QLayout* BeamForm::ConstantFields() {
@@ -300,8 +299,10 @@ QLayout* BeamForm::LoadCommands() {
 
 Picture* BeamForm::LoadPicture() {
   auto* picture = Named("Load Picture", new Picture);
-  picture->setMinimumSize(420, 170);
+  picture->setMinimumSize(420, 200);
+  picture->LetUserExplore();
   binding().Show(picture, &record_.loadPicture);
+  binding().Follow([this, picture] { Describe(picture, ToQt(DescribeLoads(record_.beam))); });
   LetUserSave(picture, platform());
   return picture;
 }
@@ -309,8 +310,7 @@ Picture* BeamForm::LoadPicture() {
 QGroupBox* BeamForm::AppliedLoads() {
   QGroupBox* panel = MakePanel("Applied Loads");
   auto* rows = new QVBoxLayout(panel);
-  auto* hint = new QLabel("Click on Applied Loads list to edit or delete a load.");
-  rows->addWidget(hint);
+  rows->addWidget(new QLabel("Click on Applied Loads list\nto edit or delete a load."));
   QListWidget* list = MakeList("Applied Loads", 4);
   list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as high as "Output"
   binding().List(list, &record_.loads.rows, &record_.loads.row,
@@ -348,6 +348,7 @@ QWidget* BeamForm::Panels() {
   auto* area = new QScrollArea;
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);  // what is in there is entered, not the area
   area->setMinimumHeight(160);
   // It opens ahead of the panels, which take the focus as soon as they can be seen, and closes
   // behind them, when they have given it back.

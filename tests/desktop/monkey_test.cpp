@@ -226,9 +226,10 @@ TEST_P(MonkeyInAWindowTest, FindsNoCrashAndNoInternal) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, MonkeyInAWindowTest,
-                         testing::Values(window_name::kPlywood, window_name::kGlulam,
-                                         window_name::kFasteners, window_name::kBolts,
-                                         window_name::kMultiSpan, window_name::kMultiSpanResults));
+                         testing::Values(window_name::kBeam, window_name::kPlywood,
+                                         window_name::kGlulam, window_name::kFasteners,
+                                         window_name::kBolts, window_name::kMultiSpan,
+                                         window_name::kMultiSpanResults));
 
 INSTANTIATE_TEST_SUITE_P(Seeds, MonkeyTest, testing::Range(1u, 9u));
 

@@ -63,6 +63,10 @@ const std::initializer_list<const char*> kOpenAllBeamResults = {
     "window MDOUTPUT", "menu \"Show Deflected Shape...\"",
     "menu \"Files\" \"Project Description...\""};
 
+const std::initializer_list<const char*> kOpenAllSingleSpanPanels = {
+    "window MLSP", "press \"View Diag.\"", "press \"More values reqd. for stress check\"",
+    "menu \"Files\" \"Project Description...\""};
+
 OpenDesktop::OpenDesktop() : OpenDesktop(QSize(1366, 900)) {}
 
 OpenDesktop::OpenDesktop(const QSize& screen)

@@ -59,6 +59,8 @@ void ExpectNoCaptionCutOff(const ToolWindow* window);
 
 /// Lines that open a truss window with all its panels.
 extern const std::initializer_list<const char*> kOpenAllTrussPanels;
+/// Lines that open all panels of a single-span beam that was run.
+extern const std::initializer_list<const char*> kOpenAllSingleSpanPanels;
 
 /// Lines that enter a beam of two spans of 10 ft under 120 lbs/ft in the launcher and run it.
 extern const std::initializer_list<const char*> kRunTwoSpans;

@@ -89,6 +89,18 @@ TEST(Readers, HearWhichWayAnArrowWalks) {
             "Previous span, Next span, Previous load, Next load, Previous span, Next span");
 }
 
+TEST(Readers, HearWhatThePicturesOfASingleSpanBeamShow) {
+  OpenDesktop desktop;
+  desktop.Play({"press \"Single Span Beams\"", "window MLSP", "enter \"A(ft)\" 5",
+                "enter \"P(lbs)\" 1000", "press \"Add New\"", "press \"RUN\"",
+                "press \"View Diag.\""});
+  QApplication::processEvents();
+  ToolWindow* window = desktop.Window("MLSP");
+  EXPECT_EQ(DescriptionIn(window, "Load Picture"),
+            "beam of 10 ft, left support pinned, right support pinned, 1 load");
+  EXPECT_EQ(DescriptionIn(window, "Moment"), "largest value 2500.00 at 5.000 ft");
+}
+
 /// Fails the test for each stop of the Tab key of which a reader has nothing to say.
 void ExpectNamesAndRoles(ToolWindow* window) {
   int stops = 0;
@@ -110,8 +122,10 @@ TEST(Readers, HearANameAndARoleWhereverTheTabKeyStops) {
   desktop.Play(kOpenAllTrussPanels);
   desktop.Play({"menu \"Help\" \"Help\"", "window main", "press \"Fastener Data Base\"",
                 "window FASTENER", "press \"Bolts\"", "window main", "press \"Glu-Lam Data Base\"",
-                "window main", "press \"Ply Wood\"", "window main",
-                "press \"Pure Wood Data Base\""});
+                "window main", "press \"Ply Wood\"", "window main", "press \"Single Span Beams\"",
+                "window MLSP", "press \"RUN\""});
+  desktop.Play(kOpenAllSingleSpanPanels);
+  desktop.Play({"window main", "press \"Pure Wood Data Base\""});
   desktop.Play(kRunTwoSpans);
   desktop.Play(kOpenAllBeamResults);
   desktop.Play({"window MS", "menu \"Options\" \"Integrations...\""});

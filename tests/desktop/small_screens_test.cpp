@@ -155,6 +155,18 @@ TEST_P(SmallScreens, HoldABeamOfFiftyOneSpansWithItsResults) {
   for (const char* name : {"MS", "MDOUTPUT"}) Look(name, "51");
 }
 
+TEST_P(SmallScreens, HoldTheSingleSpanBeamWithAllItsPanels) {
+  desktop().Play({"press \"Single Span Beams\"", "window MLSP", "press \"Slpd. Unif. R=0\"",
+                  "enter \"A(ft)\" 1", "enter \"B(ft)\" 8", "enter \"W(lbs/ft)\" 120",
+                  "press \"Add New\"", "press \"Axial Load\"", "enter \"P(lbs)\" -500",
+                  "press \"Add New\"", "press \"RUN\""});
+  Look("MLSP");
+  const QSize before = desktop().Window("MLSP")->size();
+  desktop().Play(kOpenAllSingleSpanPanels);
+  Look("MLSP");
+  EXPECT_EQ(desktop().Window("MLSP")->size(), before);
+}
+
 INSTANTIATE_TEST_SUITE_P(Sizes, SmallScreens, testing::ValuesIn(kScreens),
                          [](const auto& screen) { return "On" + std::string(screen.param.name); });
 

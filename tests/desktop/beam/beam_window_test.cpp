@@ -107,6 +107,20 @@ TEST_F(BeamWindowTest, EmptiesNoFieldOnTheWayBackFromAnotherWindow) {
   EXPECT_EQ(Read("read \"A(ft)\""), "value \"5\"");
 }
 
+TEST_F(BeamWindowTest, KeepsWhatWasTypedWhileTheUserReadsTheHelp) {
+  desktop.Play({"enter \"Young Mod. (E psi)\" 1625000", "menu \"Help\" \"Help\"", "window HELP",
+                "window MLSP"});
+  EXPECT_EQ(Read("read \"Young Mod. (E psi)\""), "value \"1625000\"");
+  desktop.Play({"window main", "window MLSP"});
+  EXPECT_EQ(Read("read \"Young Mod. (E psi)\""), "value \"1.00e+06\"");
+}
+
+TEST_F(BeamWindowTest, ProposesTheTitleOfTheReportAsTheNameOfAFile) {
+  EXPECT_EQ(FromQt(desktop.Window("MLSP")->DocumentName()), "Multi-Load Single Span");
+  desktop.session.Header.Title = " Library ";
+  EXPECT_EQ(FromQt(desktop.Window("MLSP")->DocumentName()), "Library");
+}
+
 TEST_F(BeamWindowTest, OpeningTheStressPanelEmptiesNothing) {
   desktop.Play({"press \"More values reqd. for stress check\""});
   EXPECT_EQ(Read("read \"Area (in^2)\""), "value \"1.00\"");
@@ -143,7 +157,7 @@ TEST_F(BeamWindowTest, ADragOverADiagramMovesTheStation) {
 }
 
 TEST_F(BeamWindowTest, TellsOfReplacedValuesOnlyThen) {
-  EXPECT_EQ(Read("state \"Member Note\""), "state hidden enabled");
+  EXPECT_EQ(Read("read \"Member Note\""), "value \"\"");
   desktop.Play({"enter \"Moment of Inertia, I (in^4)\" 7", "window main", "window MLSP"});
   EXPECT_EQ(Read("read \"Member Note\""), "value \"Values of CUSTOM put in\"");
   EXPECT_EQ(Read("read \"Moment of Inertia, I (in^4)\""), "value \"1.00\"");
