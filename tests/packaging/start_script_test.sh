@@ -3,6 +3,7 @@
 # only prints the folder it is started in: start_script_test.sh SCRIPT. Prints what failed.
 set -uo pipefail
 
+umask 022
 script=$(realpath "$1")
 work=$(mktemp -d)
 trap 'chmod -R u+w "$work"; rm -rf "$work"' EXIT
