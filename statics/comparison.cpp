@@ -79,6 +79,7 @@ long long Rank(const StaticsDifference& difference) {
 }
 
 bool IsWorse(const StaticsDifference& a, const StaticsDifference& b) { return Rank(a) > Rank(b); }
+bool IsSmaller(const StaticsDifference& a, const StaticsDifference& b) { return a.share < b.share; }
 
 /// Rounded up, so that "within" is true.
 std::string AgreementLine(double share) {
@@ -134,11 +135,12 @@ void ShowStatics(StaticsCheck& check, const std::vector<ComparedValue>& values) 
   ClearStatics(check);
   if (values.empty()) return;
   check.differences = DifferencesOf(values);
-  const StaticsDifference& worst =
-      *std::min_element(check.differences.begin(), check.differences.end(), IsWorse);
-  const bool agrees = worst.share <= kAgreementShare;
+  const auto first = check.differences.begin(), last = check.differences.end();
+  const double most = std::max_element(first, last, IsSmaller)->share;
+  const bool agrees = most <= kAgreementShare;
   check.verdict = agrees ? StaticsVerdict::Agrees : StaticsVerdict::Differs;
-  check.line = agrees ? AgreementLine(worst.share) : DifferenceLine(worst);
+  check.line =
+      agrees ? AgreementLine(most) : DifferenceLine(*std::min_element(first, last, IsWorse));
 }
 
 std::vector<std::vector<std::string>> DifferenceRows(const StaticsCheck& check) {

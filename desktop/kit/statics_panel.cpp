@@ -108,6 +108,7 @@ QTableWidget* MakeDifferences(const StaticsCheck* check, Binding& binding) {
   for (const std::string& head : kDifferenceHeads) heads << ToQt(head);
   QTableWidget* table = MakeTable("Differences", heads);
   table->setMinimumWidth(InLetters(300));
+  table->setMinimumHeight(InLetters(84));
   table->setMaximumHeight(InLetters(240));
   MakeCopyable(table);
   // A large truss has thousands of rows: they are made when they are looked at.
@@ -117,6 +118,24 @@ QTableWidget* MakeDifferences(const StaticsCheck* check, Binding& binding) {
     FillTable(table, *check);
   });
   return table;
+}
+
+QLayout* MakeCommands(const StaticsView& view, Binding& binding, const SessionState& session,
+                      Platform& platform) {
+  const StaticsCheck* check = &view.check;
+  auto* rows = new QVBoxLayout;
+  auto* save = new QPushButton("Sa&ve Table...");
+  binding.Press(
+      save, [check, title = view.title, &platform] { SaveDifferences(*check, title(), platform); });
+  binding.Enabled(save, [check] { return !check->line.empty(); });
+  rows->addWidget(save);
+  auto* why = new QPushButton("Wh&y?");
+  binding.Press(why, [section = view.helpSection, &session, &platform] {
+    ShowHelp(section, session, platform);
+  });
+  rows->addWidget(why);
+  rows->addStretch();
+  return rows;
 }
 
 }  // namespace
@@ -140,25 +159,15 @@ QGroupBox* MakeStaticsPanel(const StaticsView& view, Binding& binding, const Ses
                             Platform& platform) {
   StaticsCheck* check = &view.check;
   QGroupBox* panel = MakePanel(kName);
-  auto* rows = new QVBoxLayout(panel);
-  rows->addWidget(MakeDifferences(check, binding));
+  auto* columns = new QHBoxLayout(panel);
+  auto* rows = new QVBoxLayout;
+  rows->addWidget(MakeDifferences(check, binding), 1);
   auto* units = new QLabel;
   units->setWordWrap(true);
   binding.Follow([units, check] { units->setText(ToQt(UnitsNote(*check))); });
   rows->addWidget(units);
-  auto* commands = new QHBoxLayout;
-  commands->addStretch();
-  auto* save = new QPushButton("Sa&ve Table...");
-  binding.Press(
-      save, [check, title = view.title, &platform] { SaveDifferences(*check, title(), platform); });
-  binding.Enabled(save, [check] { return !check->line.empty(); });
-  commands->addWidget(save);
-  auto* why = new QPushButton("Wh&y?");
-  binding.Press(why, [section = view.helpSection, &session, &platform] {
-    ShowHelp(section, session, platform);
-  });
-  commands->addWidget(why);
-  rows->addLayout(commands);
+  columns->addLayout(rows, 1);
+  columns->addLayout(MakeCommands(view, binding, session, platform));
   binding.CloseOnEscape(panel, [check] { check->open = false; });
   binding.Shown(panel, &check->open);
   return panel;
