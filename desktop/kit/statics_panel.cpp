@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -18,6 +19,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/kit/warning_colour.h"
+#include "desktop/kit/wrapped_label.h"
 
 namespace lignara {
 namespace {
@@ -79,8 +81,7 @@ void ColourResult(QLabel* label, StaticsVerdict verdict, bool outOfDate) {
 }
 
 QLabel* MakeResultLabel(const StaticsView& view, Binding& binding) {
-  auto* label = Named("Result", new QLabel);
-  label->setWordWrap(true);
+  auto* label = Named("Result", new WrappedLabel);
   label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   binding.Text(label, &view.check.line);
   binding.Follow([label, check = &view.check, outOfDate = view.outOfDate] {
@@ -110,6 +111,7 @@ QTableWidget* MakeDifferences(const StaticsCheck* check, Binding& binding) {
   table->setMinimumWidth(InLetters(300));
   table->setMinimumHeight(InLetters(84));
   table->setMaximumHeight(InLetters(240));
+  table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   MakeCopyable(table);
   // A large truss has thousands of rows: they are made when they are looked at.
   binding.Follow([table, check, shown = std::vector<StaticsDifference>()]() mutable {
@@ -162,8 +164,7 @@ QGroupBox* MakeStaticsPanel(const StaticsView& view, Binding& binding, const Ses
   auto* columns = new QHBoxLayout(panel);
   auto* rows = new QVBoxLayout;
   rows->addWidget(MakeDifferences(check, binding), 1);
-  auto* units = new QLabel;
-  units->setWordWrap(true);
+  auto* units = new WrappedLabel;
   binding.Follow([units, check] { units->setText(ToQt(UnitsNote(*check))); });
   rows->addWidget(units);
   columns->addLayout(rows, 1);
