@@ -9,9 +9,9 @@
 #include "app/launcher.h"
 #include "app/window_names.h"
 #include "desktop/kit/text.h"
-#include "script/script_error.h"
+#include "desktop/session/script_error.h"
+#include "desktop/session/script_player.h"
 #include "script/script_platform.h"
-#include "script/script_player.h"
 
 namespace lignara {
 namespace {
@@ -82,7 +82,7 @@ int Run(std::istream& lines, const QString& name, bool show) {
   StartSession(session, FromQt(QDir::currentPath()));
   platform.OpenWindow(window_name::kLauncher);
   QApplication::processEvents();
-  ScriptPlayer player(platform, Print);
+  ScriptPlayer player(platform, platform.answers(), Print);
   return PlayScript(lines, name, player);
 }
 

@@ -2,17 +2,13 @@
 
 #include <QApplication>
 #include <QLayout>
-#include <algorithm>
 
 #include "app/report.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
-#include "script/script_line.h"
 
 namespace lignara {
 namespace {
-
-using Kind = ScriptAnswer::Kind;
 
 QString QuotedText(const std::string& text) { return Quoted(ToQt(text)); }
 
@@ -30,7 +26,16 @@ class PagePrinter {
   int page_ = 0;
 };
 
+std::optional<std::string> FromQt(const std::optional<QString>& text) {
+  return text ? std::optional(lignara::FromQt(*text)) : std::nullopt;
+}
+
 }  // namespace
+
+ScriptPlatform::ScriptPlatform(SessionState& session, ScriptOutput output)
+    : DesktopPlatform(session), user_(std::move(output)) {
+  SetRespondent(&user_);
+}
 
 void ScriptPlatform::Place(ToolWindow* window) {
   if (paints_) {
@@ -55,57 +60,35 @@ void ScriptPlatform::LetBeSeen(ToolWindow* window) {
   QApplication::processEvents();
 }
 
-void ScriptPlatform::ShowMessage(const Message& message) {
-  output_("message " + QuotedText(message.title) + " " + QuotedText(message.text));
+void ScriptPlatform::PrintingUser::ShowMessage(const Message& message) {
+  output("message " + QuotedText(message.title) + " " + QuotedText(message.text));
 }
 
-bool ScriptPlatform::AskYesNo(const std::string& title, const std::string& text) {
-  output_("ask " + QuotedText(title) + " " + QuotedText(text));
-  const auto answer = TakeAnswer("question", {Kind::Yes, Kind::No, Kind::Ok, Kind::Cancel});
-  return answer && (answer->kind == Kind::Yes || answer->kind == Kind::Ok);
+bool ScriptPlatform::PrintingUser::AskYesNo(const std::string& title, const std::string& text) {
+  output("ask " + QuotedText(title) + " " + QuotedText(text));
+  return answers.Question();
 }
 
-std::optional<std::string> ScriptPlatform::PromptText(const std::string& title,
-                                                      const std::string& text,
-                                                      const std::string& initial) {
-  output_("prompt " + QuotedText(title) + " " + QuotedText(text) + " " + QuotedText(initial));
-  const auto answer = TakeAnswer("prompt", {Kind::Text, Kind::Ok, Kind::Cancel});
-  if (!answer || answer->kind == Kind::Cancel) return std::nullopt;
-  return answer->kind == Kind::Text ? FromQt(answer->text) : initial;
+std::optional<std::string> ScriptPlatform::PrintingUser::PromptText(const std::string& title,
+                                                                    const std::string& text,
+                                                                    const std::string& initial) {
+  output("prompt " + QuotedText(title) + " " + QuotedText(text) + " " + QuotedText(initial));
+  return FromQt(answers.Prompt(ToQt(initial)));
 }
 
-std::optional<std::string> ScriptPlatform::ChooseSaveFile(const std::string& filter) {
-  output_("dialog save " + QuotedText(filter));
-  const auto answer = TakeAnswer("save dialog", {Kind::File, Kind::Cancel});
-  if (!answer || answer->kind == Kind::Cancel) return std::nullopt;
-  return FromQt(answer->text);
+std::optional<std::string> ScriptPlatform::PrintingUser::ChooseSaveFile(const std::string& filter) {
+  output("dialog save " + QuotedText(filter));
+  return FromQt(answers.File("save dialog"));
 }
 
-void ScriptPlatform::PrintReport(const Report& report) {
-  PagePrinter printer(output_);
+void ScriptPlatform::PrintingUser::PrintReport(const Report& report) {
+  PagePrinter printer(output);
   for (const Report::Item& item : report.items()) std::visit(printer, item);
 }
 
 QRect ScriptPlatform::Screen(const ToolWindow& window) const {
   const bool shown = QGuiApplication::platformName() != "offscreen";
   return shown ? DesktopPlatform::Screen(window) : QRect(QPoint(0, 0), screen_);
-}
-
-QString ScriptPlatform::TakeFailure() { return std::exchange(failure_, QString()); }
-
-std::optional<ScriptAnswer> ScriptPlatform::TakeAnswer(const QString& dialog,
-                                                       std::initializer_list<Kind> fitting) {
-  if (answers_.empty()) {
-    failure_ = "there is no answer for the " + dialog;
-    return std::nullopt;
-  }
-  const ScriptAnswer answer = answers_.front();
-  answers_.pop_front();
-  if (std::find(fitting.begin(), fitting.end(), answer.kind) == fitting.end()) {
-    failure_ = "the answer does not fit the " + dialog;
-    return std::nullopt;
-  }
-  return answer;
 }
 
 }  // namespace lignara

@@ -2,62 +2,55 @@
 
 #include <QSize>
 #include <QString>
-#include <deque>
-#include <optional>
 
 #include "desktop/kit/desktop_platform.h"
-#include "script/script_output.h"
+#include "desktop/kit/respondent.h"
+#include "desktop/session/kept_answers.h"
+#include "desktop/session/script_output.h"
 
 namespace lignara {
-
-/// An answer that a script keeps for a dialog.
-struct ScriptAnswer {
-  enum class Kind { Ok, Yes, No, Cancel, Text, File };
-  Kind kind = Kind::Ok;
-  QString text;  ///< of Text and File
-};
 
 /// The desktop with a script in the user's place: windows are real, dialogs are printed and take
 /// the kept answers, and a print job is printed as text.
 class ScriptPlatform : public DesktopPlatform {
  public:
-  ScriptPlatform(SessionState& session, ScriptOutput output)
-      : DesktopPlatform(session), output_(std::move(output)) {}
+  ScriptPlatform(SessionState& session, ScriptOutput output);
 
   /// Windows that nobody looks at are neither laid out nor painted until `LetBeSeen`. Holds for
   /// windows opened from now on.
   void PaintNothing() { paints_ = false; }
   /// From now on a window stands as on a screen.
-  void LetBeSeen(ToolWindow* window);
-
-  void ShowMessage(const Message& message) override;
-  bool AskYesNo(const std::string& title, const std::string& text) override;
-  std::optional<std::string> PromptText(const std::string& title, const std::string& text,
-                                        const std::string& initial) override;
-  std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
-  void PrintReport(const Report& report) override;
+  void LetBeSeen(ToolWindow* window) override;
 
   /// Without a display a script's windows stand on a screen of this size.
   QRect Screen(const ToolWindow& window) const override;
   void SetScreen(const QSize& size) { screen_ = size; }
 
-  void KeepAnswer(ScriptAnswer answer) { answers_.push_back(std::move(answer)); }
-
+  KeptAnswers& answers() { return user_.answers; }
+  void KeepAnswer(ScriptAnswer answer) { user_.answers.Keep(std::move(answer)); }
   /// Why a dialog could not be answered since the last call; empty when all could.
-  QString TakeFailure();
+  QString TakeFailure() { return user_.answers.TakeFailure(); }
 
  protected:
   void Place(ToolWindow* window) override;
 
  private:
-  /// The next kept answer, if it is one that the dialog can take; notes a failure otherwise.
-  std::optional<ScriptAnswer> TakeAnswer(const QString& dialog,
-                                         std::initializer_list<ScriptAnswer::Kind> fitting);
+  /// Prints what a user would be shown, and answers with what the script keeps.
+  struct PrintingUser : Respondent {
+    explicit PrintingUser(ScriptOutput to) : output(std::move(to)) {}
+    void ShowMessage(const Message& message) override;
+    bool AskYesNo(const std::string& title, const std::string& text) override;
+    std::optional<std::string> PromptText(const std::string& title, const std::string& text,
+                                          const std::string& initial) override;
+    std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
+    void PrintReport(const Report& report) override;
 
-  ScriptOutput output_;
+    ScriptOutput output;
+    KeptAnswers answers;
+  };
+
+  PrintingUser user_;
   QSize screen_{1366, 900};
-  std::deque<ScriptAnswer> answers_;
-  QString failure_;
   bool paints_ = true;
 };
 

@@ -54,9 +54,7 @@ Picture* MakeDiagram(const char* name, Diagram diagram, const Drawing* drawing, 
   binding.Show(picture, drawing);
   binding.Follow(
       [picture, diagram, &window] { Describe(picture, ToQt(DescribeDiagram(window, diagram))); });
-  picture->OnPress([&window, &binding](double x, double) {
-    binding.Run([&window, x] { PressDiagram(window, x); });
-  });
+  binding.Trace(picture, [&window](double x, double) { PressDiagram(window, x); });
   picture->OnHover([](double, double) { return true; });
   LetUserSave(picture, platform);
   return picture;

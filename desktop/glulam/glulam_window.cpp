@@ -180,8 +180,9 @@ class GlulamForm : public ToolWindow {
       QLineEdit* field = AddField(grid, row.caption, 72);
       binding().Field(field, &(record_.*row.text), Recompute());
       const auto size = row.text;
-      new ClickWatcher(field, [this, size] {
-        binding().Run([this, size] { EmptySize(record_, session(), platform(), size); });
+      new ClickWatcher(field, [this, field, size] {
+        binding().Act({UserAction::Kind::Enter, field},
+                      [this, size] { EmptySize(record_, session(), platform(), size); });
       });
     }
     return panel;

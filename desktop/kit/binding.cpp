@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -23,6 +24,14 @@ namespace {
 
 /// Set on a list whose rows were made anew: what stood beside them is gone.
 constexpr const char* kNotesLost = "notesLost";
+
+using Kind = UserAction::Kind;
+
+/// A place in the units of a picture, in as many digits as tell it from all others.
+QString PlaceText(double x, double y) {
+  return QString::number(x, 'g', QLocale::FloatingPointShortest) + " " +
+         QString::number(y, 'g', QLocale::FloatingPointShortest);
+}
 
 /// Calls back after the left mouse button was released over a widget, wherever it was pressed.
 class ReleaseWatcher : public QObject {
@@ -78,8 +87,8 @@ void Binding::Field(QLineEdit* field, std::string* text, Command typed) {
 }
 
 void Binding::Words(QLineEdit* field, std::string* text, Command typed) {
-  QObject::connect(field, &QLineEdit::textEdited, [this, text, typed](const QString& now) {
-    Run([&] {
+  QObject::connect(field, &QLineEdit::textEdited, [this, field, text, typed](const QString& now) {
+    Act({Kind::Enter, field, nullptr, now}, [&] {
       *text = FromQt(now);
       if (typed) typed();
     });
@@ -88,7 +97,7 @@ void Binding::Words(QLineEdit* field, std::string* text, Command typed) {
 }
 
 void Binding::Entered(QLineEdit* field, Command entered) {
-  new EntryWatcher(field, [this, entered] { Run(entered); });
+  new EntryWatcher(field, [this, field, entered] { Act({Kind::ComeInto, field}, entered); });
 }
 
 void Binding::Text(QLineEdit* field, const std::string* text) {
@@ -121,10 +130,14 @@ void Binding::List(QListWidget* list, const std::vector<std::string>* rows, cons
   });
   if (!chosen) {
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    QObject::connect(list, &QListWidget::currentRowChanged, [this, list](int at) {
+      if (at >= 0) Act({Kind::Select, list, nullptr, QString::number(at), true}, [] {});
+    });
     return;
   }
-  const auto choose = [this, chosen](int at) {
-    if (at >= 0) Run([&] { chosen(at); });
+  const auto choose = [this, list, chosen](int at) {
+    if (at < 0) return;
+    Act({Kind::Select, list, nullptr, QString::number(at)}, [&] { chosen(at); });
   };
   // The mouse may be dragged over rows: the one under it when the button is released counts. A list
   // that only gets the focus moves its current row too, but chooses none.
@@ -178,21 +191,27 @@ void Binding::Table(QTableWidget* table, const std::vector<std::vector<std::stri
 }
 
 void Binding::Press(QAbstractButton* button, Command command) {
-  QObject::connect(button, &QAbstractButton::clicked, [this, command] { Run(command); });
+  QObject::connect(button, &QAbstractButton::clicked, [this, button, command] {
+    Act({Kind::Press, button}, command);
+  });
 }
 
 void Binding::OnReturn(QLineEdit* field, Command command) {
-  SetReturnCommand(field, [this, command] { Run(command); });
+  SetReturnCommand(field, [this, field, command] {
+    Act({Kind::Key, field, nullptr, "Return"}, command);
+  });
 }
 
 void Binding::Menu(QAction* action, Command command) {
-  QObject::connect(action, &QAction::triggered, [this, command] { Run(command); });
+  QObject::connect(action, &QAction::triggered, [this, action, command] {
+    Act({Kind::Menu, nullptr, action}, command);
+  });
 }
 
 void Binding::Check(QAbstractButton* button, bool* checked, Command changed) {
   button->setCheckable(true);
-  QObject::connect(button, &QAbstractButton::clicked, [this, checked, changed](bool now) {
-    Run([&] {
+  QObject::connect(button, &QAbstractButton::clicked, [this, button, checked, changed](bool now) {
+    Act({Kind::Press, button}, [&] {
       *checked = now;
       if (changed) changed();
     });
@@ -209,7 +228,9 @@ void Binding::Shown(QWidget* panel, Condition shown) {
 }
 
 void Binding::CloseOnEscape(QWidget* panel, Command close) {
-  SetEscapeCommand(panel, [this, close] { Run(close); });
+  SetEscapeCommand(panel, [this, panel, close] {
+    Act({Kind::Key, panel->window()->focusWidget(), nullptr, "Escape"}, close);
+  });
 }
 
 void Binding::Enabled(QWidget* widget, Condition enabled) {
@@ -224,6 +245,24 @@ void Binding::Show(Picture* picture, const Drawing* drawing) {
   Follow([picture, drawing] { picture->SetDrawing(*drawing); });
 }
 
+void Binding::Click(Picture* picture, PlaceCommand clicked) {
+  picture->OnPress([this, picture, clicked](double x, double y) {
+    Act({Kind::Click, picture, nullptr, PlaceText(x, y)}, [&] { clicked(x, y); });
+  });
+}
+
+void Binding::Trace(Picture* picture, PlaceCommand clicked) {
+  picture->OnPress([this, picture, clicked](double x, double y) {
+    Act({Kind::Click, picture, nullptr, PlaceText(x, y), true}, [&] { clicked(x, y); });
+  });
+}
+
+void Binding::Hover(Picture* picture, PlaceCommand moved) {
+  picture->OnMove([this, picture, moved](double x, double y) {
+    Act({Kind::Click, picture, nullptr, PlaceText(x, y), true}, [&] { moved(x, y); });
+  });
+}
+
 void Binding::Scroll(QScrollBar* bar, const int* value, RowCommand moved) {
   // By itself a level bar that has the focus goes left at the right arrow key.
   if (bar->orientation() == Qt::Horizontal) bar->setInvertedControls(false);
@@ -231,8 +270,9 @@ void Binding::Scroll(QScrollBar* bar, const int* value, RowCommand moved) {
     const QSignalBlocker silent(bar);
     bar->setValue(*value);
   });
-  QObject::connect(bar, &QScrollBar::valueChanged,
-                   [this, moved](int now) { Run([&] { moved(now); }); });
+  QObject::connect(bar, &QScrollBar::valueChanged, [this, bar, moved](int now) {
+    Act({Kind::Scroll, bar, nullptr, QString::number(now), true}, [&] { moved(now); });
+  });
 }
 
 void Binding::Follow(Command refresh) { refreshers_.push_back(std::move(refresh)); }
@@ -241,9 +281,9 @@ void Binding::Refresh() {
   for (const Command& refresh : refreshers_) refresh();
 }
 
-void Binding::Run(const Command& command) {
+void Binding::Act(const UserAction& action, const Command& command) {
   if (released_) return;
-  beforeCommand_();
+  beforeCommand_(action);
   command();
   afterCommand_();
 }

@@ -7,6 +7,7 @@
 #include "app/drawing.h"
 #include "app/list_rows.h"
 #include "desktop/kit/open_panels.h"
+#include "desktop/kit/user_action.h"
 
 class QAbstractButton;
 class QAction;
@@ -33,11 +34,13 @@ class Binding {
   using Command = std::function<void()>;
   using RowCommand = std::function<void(int row)>;
   using Condition = std::function<bool()>;
+  using PlaceCommand = std::function<void(double x, double y)>;
+  using ActionTold = std::function<void(const UserAction&)>;
 
   /// `afterCommand` makes all open windows show their records; `beforeCommand` is told of each
   /// action of the user.
   explicit Binding(
-      Command afterCommand, Command beforeCommand = [] {})
+      Command afterCommand, ActionTold beforeCommand = [](const UserAction&) {})
       : beforeCommand_(std::move(beforeCommand)), afterCommand_(std::move(afterCommand)) {}
 
   /// A number that the user types. `typed`, if any, runs after each change by the user. A text that
@@ -79,21 +82,29 @@ class Binding {
   void Enabled(QWidget* widget, Condition enabled);
   void Enabled(QAction* action, Condition enabled);
   void Show(Picture* picture, const Drawing* drawing);
+  /// The mouse is pressed on a picture, at a place in the drawing's units.
+  void Click(Picture* picture, PlaceCommand clicked);
+  /// The same where only the last of several places matters, as with a mouse that is dragged along.
+  void Trace(Picture* picture, PlaceCommand clicked);
+  /// The mouse comes to a place of a picture, pressed or not.
+  void Hover(Picture* picture, PlaceCommand moved);
   void Scroll(QScrollBar* bar, const int* value, RowCommand moved);
   /// Anything else that has to follow the record.
   void Follow(Command refresh);
 
   /// Shows the record in all widgets.
   void Refresh();
-  /// Runs a command as if a widget had called it.
-  void Run(const Command& command);
+  /// Runs a command as if a widget had called it, but is no action of the user.
+  void Run(const Command& command) { Act(UserAction(), command); }
+  /// Runs the command of an action of the user.
+  void Act(const UserAction& action, const Command& command);
   /// From now on nothing that the widgets say reaches the record: the window is gone.
   void Release() { released_ = true; }
   /// The panels of the window that are open.
   OpenPanels& panels() { return panels_; }
 
  private:
-  Command beforeCommand_;
+  ActionTold beforeCommand_;
   Command afterCommand_;
   OpenPanels panels_;
   bool released_ = false;

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <cassert>
+#include <utility>
 
 #include "app/launcher.h"
 #include "app/window_names.h"
@@ -18,6 +19,7 @@
 #include "desktop/kit/program_icon.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/report_printer.h"
+#include "desktop/kit/respondent.h"
 #include "desktop/kit/scroll_page.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
@@ -55,14 +57,17 @@ DesktopPlatform::~DesktopPlatform() {
   }
 }
 
-void DesktopPlatform::BeginCommand(ToolWindow* window) {
+void DesktopPlatform::BeginCommand(ToolWindow* window, const UserAction& action) {
+  if (listener_ != nullptr && !repeated_.InCommand()) listener_->Begin(window, action);
   repeated_.BeginCommand();
   if (!commandWindow_) commandWindow_ = window;
 }
 
 void DesktopPlatform::EndCommand() {
   repeated_.EndCommand();
-  if (!repeated_.InCommand()) commandWindow_ = nullptr;
+  if (repeated_.InCommand()) return;
+  commandWindow_ = nullptr;
+  if (listener_ != nullptr) listener_->End();
 }
 
 QString DesktopPlatform::DocumentName() const {
@@ -70,21 +75,50 @@ QString DesktopPlatform::DocumentName() const {
 }
 
 void DesktopPlatform::ShowMessage(const Message& message) {
+  if (listener_ != nullptr) listener_->BoxShown();
+  if (respondent_ != nullptr) return respondent_->ShowMessage(message);
   const RepeatedMessages::Box box = repeated_.Next(message);
   if (box == RepeatedMessages::Box::None) return;
   const bool noMore = ShowMessageBox(message, box == RepeatedMessages::Box::WithOffer);
   if (noMore) repeated_.Silence(message);
 }
 
+void DesktopPlatform::Answered(const QString& answer) {
+  if (listener_ != nullptr) listener_->Answered(answer);
+}
+
 bool DesktopPlatform::AskYesNo(const std::string& title, const std::string& text) {
-  const ArrowPointer arrow;
-  return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==
-         QMessageBox::Yes;
+  const bool yes =
+      respondent_ != nullptr ? respondent_->AskYesNo(title, text) : UserSaysYes(title, text);
+  Answered(yes ? "yes" : "no");
+  return yes;
 }
 
 std::optional<std::string> DesktopPlatform::PromptText(const std::string& title,
                                                        const std::string& text,
                                                        const std::string& initial) {
+  const auto answer = respondent_ != nullptr ? respondent_->PromptText(title, text, initial)
+                                             : UsersText(title, text, initial);
+  Answered(answer ? "text " + Quoted(ToQt(*answer)) : "cancel");
+  return answer;
+}
+
+std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& filter) {
+  const auto path =
+      respondent_ != nullptr ? respondent_->ChooseSaveFile(filter) : UsersFile(filter);
+  Answered(path ? "file " + Quoted(ToQt(*path)) : "cancel");
+  return path;
+}
+
+bool DesktopPlatform::UserSaysYes(const std::string& title, const std::string& text) {
+  const ArrowPointer arrow;
+  return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==
+         QMessageBox::Yes;
+}
+
+std::optional<std::string> DesktopPlatform::UsersText(const std::string& title,
+                                                      const std::string& text,
+                                                      const std::string& initial) {
   const ArrowPointer arrow;
   bool accepted = false;
   const QString answer =
@@ -93,7 +127,7 @@ std::optional<std::string> DesktopPlatform::PromptText(const std::string& title,
   return accepted ? std::optional(FromQt(answer)) : std::nullopt;
 }
 
-std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& filter) {
+std::optional<std::string> DesktopPlatform::UsersFile(const std::string& filter) {
   const bool pdf = filter == kPdfFilter;
   SaveProposal proposal;
   proposal.caption = pdf ? "There is no printer: a PDF file is written" : "Save As";
@@ -212,7 +246,13 @@ bool DesktopPlatform::HasWindow(const std::string& name) const {
   return FindWindowKind(name) != nullptr;
 }
 
-void DesktopPlatform::PrintReport(const Report& report) { PrintOnPaper(report, *this); }
+void DesktopPlatform::PrintReport(const Report& report) {
+  if (respondent_ != nullptr) return respondent_->PrintReport(report);
+  // The file that stands in for a printer is no answer that a script without one would ask for.
+  ActionListener* listener = std::exchange(listener_, nullptr);
+  PrintOnPaper(report, *this);
+  listener_ = listener;
+}
 
 void DesktopPlatform::ShowHelp(const std::string& path, const std::string& section) {
   if (!QFileInfo(ToQt(path)).isReadable()) return;

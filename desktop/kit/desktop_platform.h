@@ -9,10 +9,12 @@
 #include "app/platform.h"
 #include "app/session_state.h"
 #include "desktop/kit/repeated_messages.h"
+#include "desktop/kit/user_action.h"
 #include "desktop/kit/window_places.h"
 
 namespace lignara {
 
+class Respondent;
 class ToolWindow;
 
 /// The program's surroundings on a desktop: real windows, dialogs, printer and help.
@@ -36,8 +38,13 @@ class DesktopPlatform : public Platform {
   void ShowNote(const std::string& text) override;
 
   /// A command of the user begins in a window, or ends. Commands nest.
-  void BeginCommand(ToolWindow* window);
+  void BeginCommand(ToolWindow* window, const UserAction& action);
   void EndCommand();
+  /// Is told of each action of the user from now on; null for none.
+  void SetListener(ActionListener* listener) { listener_ = listener; }
+  /// Stands in the user's place for boxes, dialogs and prints from now on; null for the user.
+  void SetRespondent(Respondent* respondent) { respondent_ = respondent; }
+  Respondent* respondent() const { return respondent_; }
   /// The name of what the command at hand writes or prints.
   QString DocumentName() const;
 
@@ -54,6 +61,8 @@ class DesktopPlatform : public Platform {
   bool IsBlocked(const ToolWindow* window) const;
   /// The room that a window may take on its screen, in the middle of it.
   virtual QRect Screen(const ToolWindow& window) const;
+  /// A window that is not painted, since nobody looks, is painted from now on.
+  virtual void LetBeSeen(ToolWindow* /*window*/) {}
   /// All open windows show their records again.
   void RefreshWindows();
 
@@ -62,6 +71,11 @@ class DesktopPlatform : public Platform {
   virtual void Place(ToolWindow* window);
 
  private:
+  bool UserSaysYes(const std::string& title, const std::string& text);
+  std::optional<std::string> UsersText(const std::string& title, const std::string& text,
+                                       const std::string& initial);
+  std::optional<std::string> UsersFile(const std::string& filter);
+  void Answered(const QString& answer);
   /// The modal window that was opened last; null where there is none.
   ToolWindow* NewestModal() const;
   /// Windows that belong to one that closes live on with its own parent.
@@ -70,6 +84,8 @@ class DesktopPlatform : public Platform {
   ToolWindow* MakeWindow(const std::string& name);
 
   SessionState& session_;
+  ActionListener* listener_ = nullptr;
+  Respondent* respondent_ = nullptr;
   QString folder_;  ///< in which a file was saved last
   RepeatedMessages repeated_;
   QPointer<ToolWindow> commandWindow_;

@@ -53,6 +53,7 @@ class HelpWindow : public ToolWindow {
     auto* caption = new QLabel("&Find");
     find_ = MakeField("Find", 160);
     find_->setAlignment(Qt::AlignLeft);
+    binding().Words(find_, &sought_);
     caption->setBuddy(find_);
     row->addWidget(caption);
     row->addWidget(find_);
@@ -69,7 +70,7 @@ class HelpWindow : public ToolWindow {
 
   QPushButton* AddButton(QHBoxLayout* row, const QString& caption, Binding::Command command) {
     auto* button = new QPushButton(caption);
-    connect(button, &QPushButton::clicked, this, std::move(command));
+    binding().Press(button, std::move(command));
     row->addWidget(button);
     return button;
   }
@@ -90,6 +91,7 @@ class HelpWindow : public ToolWindow {
 
   QTextBrowser* browser_ = Named("Help", new QTextBrowser);
   QLineEdit* find_ = nullptr;
+  std::string sought_;
   QUrl contents_;
 };
 

@@ -18,4 +18,10 @@ QString PlainCaption(const QString& caption) {
   return plain;
 }
 
+QString Quoted(const QString& text) {
+  QString inside = text;
+  inside.replace("\\", "\\\\").replace("\"", "\\\"").replace("\n", "\\n");
+  return "\"" + inside + "\"";
+}
+
 }  // namespace lignara

@@ -15,4 +15,7 @@ QString WithoutKeyMarks(const QString& caption);
 /// end, a line break read as a blank.
 QString PlainCaption(const QString& caption);
 
+/// A text in double quotes as scripts have it: \" and \\ inside, a line break as \n.
+QString Quoted(const QString& text);
+
 }  // namespace lignara

@@ -32,7 +32,7 @@ ToolWindow::ToolWindow(const char* name, WindowContext context)
             platform().RefreshWindows();
             platform().EndCommand();
           },
-          [this] { platform().BeginCommand(this); }) {
+          [this](const UserAction& action) { platform().BeginCommand(this, action); }) {
   setObjectName(name_);
 }
 
@@ -85,7 +85,9 @@ void ToolWindow::ShowNote(const QString& note) {
 
 bool ToolWindow::event(QEvent* event) {
   const bool handled = QMainWindow::event(event);
-  if (event->type() == QEvent::WindowActivate) platform().NoteActive(this);
+  // A desktop may activate a window behind a modal one: the user can do nothing in there.
+  const bool active = event->type() == QEvent::WindowActivate;
+  if (active && !platform().IsBlocked(this)) platform().NoteActive(this);
   return handled;
 }
 
@@ -95,7 +97,7 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   event->ignore();
-  binding_.Run([this] { CloseControl(); });
+  binding_.Act({UserAction::Kind::Close}, [this] { CloseControl(); });
 }
 
 void ToolWindow::keyPressEvent(QKeyEvent* event) {

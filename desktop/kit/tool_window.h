@@ -38,7 +38,7 @@ class ToolWindow : public QMainWindow {
   /// Told when the user comes back to the window from another window of the program, not from a box
   /// or a dialog; opening the window is no coming back. A hidden one that is shown again is told.
   void CameBack() {
-    binding_.Run([this] { Returned(); });
+    binding_.Act({UserAction::Kind::Window}, [this] { Returned(); });
   }
   /// Shows a note in the status line, for a while.
   void ShowNote(const QString& note);

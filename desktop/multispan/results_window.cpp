@@ -64,7 +64,10 @@ class ResultsForm : public ToolWindow {
     if (event->type() != QEvent::KeyPress) return ToolWindow::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key != Qt::Key_Left && key != Qt::Key_Right) return false;
-    binding().Run([&] { MoveCursor(record_, key == Qt::Key_Right ? 1 : -1); });
+    const bool right = key == Qt::Key_Right;
+    binding().Act(
+        {UserAction::Kind::Key, static_cast<QWidget*>(watched), nullptr, right ? "Right" : "Left"},
+        [&] { MoveCursor(record_, right ? 1 : -1); });
     return true;
   }
 
@@ -189,7 +192,7 @@ class ResultsForm : public ToolWindow {
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(6, 4, 6, 6);
     Picture* picture = DiagramPicture(name, drawing, words, 85);
-    picture->OnMove([this](double x, double) { binding().Run([&] { ReadDiagrams(record_, x); }); });
+    binding().Hover(picture, [this](double x, double) { ReadDiagrams(record_, x); });
     picture->setFocusPolicy(Qt::StrongFocus);
     picture->installEventFilter(this);
     column->addWidget(picture);
@@ -238,8 +241,8 @@ class ResultsForm : public ToolWindow {
     auto* rows = new QVBoxLayout(panel);
     rows->setContentsMargins(6, 4, 6, 6);
     Picture* picture = DiagramPicture("Deflected Shape", &record_.shape.picture, DescribeShape, 60);
-    picture->OnPress([this](double x, double) {
-      binding().Run([&] { MoveShapeStation(record_, record_.shape.shape.StationAt(x)); });
+    binding().Trace(picture, [this](double x, double) {
+      MoveShapeStation(record_, record_.shape.shape.StationAt(x));
     });
     rows->addWidget(picture, 1);
     auto* bar = Named("Station", new QScrollBar(Qt::Horizontal));

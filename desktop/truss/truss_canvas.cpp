@@ -63,13 +63,11 @@ class TrussCanvas {
     canvas->setMinimumSize(280, 180);
     canvas->LetUserExplore();
     auto& record = record_;
-    auto& binding = binding_;
     auto& session = session_;
     binding_.Show(canvas, &record_.view.drawing);
     binding_.Follow(
         [canvas, &record, &session] { Describe(canvas, ToQt(DescribeTruss(record, session))); });
-    canvas->OnPress(
-        [&](double x, double y) { binding.Run([&] { HitTruss(record, session, x, y); }); });
+    binding_.Click(canvas, [&](double x, double y) { HitTruss(record, session, x, y); });
     canvas->OnHover([&](double x, double y) { return IsOverMember(record, session, x, y); });
     LetUserSave(canvas, platform_);
     return canvas;

@@ -7,7 +7,7 @@
 #include "app/fault.h"
 #include "app/launcher.h"
 #include "desktop/kit/tool_window.h"
-#include "script/script_player.h"
+#include "desktop/session/script_player.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {
@@ -49,7 +49,7 @@ class ClosingTest : public testing::Test {
   SessionState session_;
   ClosingPlatform platform_{session_, [](const QString&) {}};
   FaultScope faults_{platform_};
-  ScriptPlayer player_{platform_, [](const QString&) {}};
+  ScriptPlayer player_{platform_, platform_.answers(), [](const QString&) {}};
 };
 
 TEST_F(ClosingTest, ExitClosesTheOpenWindowsInItsOrderAndTheLauncherLast) {

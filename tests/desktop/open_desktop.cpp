@@ -20,7 +20,7 @@
 namespace lignara {
 namespace {
 
-bool IsControl(const QWidget* widget) {
+bool CanBeUsed(const QWidget* widget) {
   return qobject_cast<const QAbstractButton*>(widget) != nullptr ||
          qobject_cast<const QLineEdit*>(widget) != nullptr ||
          qobject_cast<const QListWidget*>(widget) != nullptr ||
@@ -72,7 +72,7 @@ OpenDesktop::OpenDesktop() : OpenDesktop(QSize(1366, 900)) {}
 OpenDesktop::OpenDesktop(const QSize& screen)
     : platform(session, [this](const QString& line) { printed << line; }),
       faults_(platform),
-      player_(platform, [this](const QString& line) { printed << line; }) {
+      player_(platform, platform.answers(), [this](const QString& line) { printed << line; }) {
   platform.SetScreen(screen);
   StartSession(session, LIGNARA_DATA_DIRECTORY);
   platform.OpenWindow("main");
@@ -124,7 +124,7 @@ std::vector<QWidget*> VisibleControls(ToolWindow* window) {
   std::vector<QWidget*> controls;
   for (QWidget* widget : window->findChildren<QWidget*>()) {
     if (widget->window() != window || !widget->isVisible()) continue;
-    if (IsControl(widget) && !IsPartOfAList(widget)) controls.push_back(widget);
+    if (CanBeUsed(widget) && !IsPartOfAList(widget)) controls.push_back(widget);
   }
   return controls;
 }

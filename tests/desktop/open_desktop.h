@@ -8,9 +8,9 @@
 #include "app/fault.h"
 #include "app/launcher.h"
 #include "desktop/kit/tool_window.h"
-#include "script/control_finder.h"
+#include "desktop/session/control_finder.h"
+#include "desktop/session/script_player.h"
 #include "script/script_platform.h"
-#include "script/script_player.h"
 
 namespace lignara {
 

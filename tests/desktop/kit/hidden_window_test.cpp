@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "script/script_error.h"
+#include "desktop/session/script_error.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {

@@ -82,7 +82,7 @@ class BoxReader : public QObject {
 int FaultBoxes(bool tick, int faults, BoxReader& reader) {
   SessionState session;
   DesktopPlatform platform(session);
-  platform.BeginCommand(nullptr);
+  platform.BeginCommand(nullptr, {});
   platform.SetBusyPointer(true);
   for (int i = 0; i < faults; ++i) platform.ShowMessage({"There is no element of that number"});
   platform.SetBusyPointer(false);

@@ -1,11 +1,11 @@
 // How lines find their controls, and what they refuse.
 
-#include "script/script_player.h"
+#include "desktop/session/script_player.h"
 
 #include <gtest/gtest.h>
 
 #include "desktop/kit/text.h"
-#include "script/script_error.h"
+#include "desktop/session/script_error.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {

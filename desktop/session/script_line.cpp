@@ -1,6 +1,6 @@
-#include "script/script_line.h"
+#include "desktop/session/script_line.h"
 
-#include "script/script_error.h"
+#include "desktop/session/script_error.h"
 
 namespace lignara {
 namespace {
@@ -39,12 +39,6 @@ std::vector<ScriptWord> SplitScriptLine(const QString& line) {
     const bool quoted = line[at] == '"';
     words.push_back({quoted ? ReadQuoted(line, at) : ReadBare(line, at), quoted});
   }
-}
-
-QString Quoted(const QString& text) {
-  QString inside = text;
-  inside.replace("\\", "\\\\").replace("\"", "\\\"").replace("\n", "\\n");
-  return "\"" + inside + "\"";
 }
 
 }  // namespace lignara

@@ -15,7 +15,4 @@ struct ScriptWord {
 /// that begin with # have none. Throws ScriptError for a quote that is not closed.
 std::vector<ScriptWord> SplitScriptLine(const QString& line);
 
-/// A text in double quotes as the tool prints it: \" and \\ inside, a line break as \n.
-QString Quoted(const QString& text);
-
 }  // namespace lignara

@@ -1,9 +1,9 @@
-#include "script/script_output.h"
+#include "desktop/session/script_output.h"
 
 #include <QStringList>
 
 #include "desktop/kit/text.h"
-#include "script/script_line.h"
+#include "desktop/session/script_line.h"
 
 namespace lignara {
 namespace {

@@ -1,4 +1,4 @@
-#include "script/control_finder.h"
+#include "desktop/session/control_finder.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -11,22 +11,10 @@
 
 #include "desktop/kit/readers.h"
 #include "desktop/kit/text.h"
-#include "script/script_error.h"
-#include "script/script_line.h"
+#include "desktop/session/script_error.h"
 
 namespace lignara {
 namespace {
-
-/// The captions of the panels around a widget, from the window inward, and its own.
-QStringList FullPath(const QWidget* widget, const QString& own) {
-  QStringList path = {own};
-  for (const QWidget* at = widget->parentWidget(); at != nullptr && !at->isWindow();
-       at = at->parentWidget()) {
-    if (qobject_cast<const QGroupBox*>(at) == nullptr) continue;
-    if (const QString caption = CaptionOf(at); !caption.isEmpty()) path.prepend(caption);
-  }
-  return path;
-}
 
 /// True when `path` names captions of `full` in order, the last of which it shares.
 bool Names(const QStringList& path, const QStringList& full) {
@@ -43,37 +31,27 @@ QStringList PlainPath(const QStringList& path) {
   return plain;
 }
 
-/// What a path names among the widgets of some kinds.
+/// What a path names, and whether in full.
 struct Found {
   QWidget* widget;
   bool inFull;
   std::size_t kind;
 };
 
-/// The place of a widget's kind; the number of kinds when it is of none.
-std::size_t KindOf(const QWidget* widget, const Kinds& kinds) {
-  std::size_t kind = 0;
-  while (kind < kinds.size() && !kinds[kind](widget)) ++kind;
-  return kind;
-}
-
-std::vector<Found> Search(QMainWindow* window, const QStringList& path, const Kinds& kinds) {
-  std::vector<Found> found;
-  for (QWidget* widget : window->findChildren<QWidget*>()) {
-    const std::size_t kind = KindOf(widget, kinds);
-    if (widget->window() != window || kind == kinds.size()) continue;
-    // A widget without a caption, such as a scroll bar inside a list, has no name: that of the
-    // panel around it is not its own.
-    const QString own = CaptionOf(widget);
-    if (own.isEmpty() || own != path.last()) continue;
-    const QStringList full = FullPath(widget, own);
-    if (Names(path, full)) found.push_back({widget, full == path, kind});
-  }
-  return found;
-}
-
 bool IsNearer(const Found& a, const Found& b) {
   return a.inFull != b.inFull ? a.inFull : a.kind < b.kind;
+}
+
+std::vector<Candidate> Search(QMainWindow* window, const QString& caption, const Kinds& kinds) {
+  std::vector<Candidate> found;
+  for (QWidget* widget : window->findChildren<QWidget*>()) {
+    const std::size_t kind = KindOf(widget, kinds);
+    if (kind == kinds.size() || widget->window() != window || CaptionOf(widget) != caption) {
+      continue;
+    }
+    found.push_back({widget, FullPath(widget), kind});
+  }
+  return found;
 }
 
 }  // namespace
@@ -93,17 +71,45 @@ QString CaptionOf(const QWidget* widget) {
   return QString();
 }
 
+QStringList FullPath(const QWidget* widget) {
+  QStringList path;
+  if (CaptionOf(widget).isEmpty()) return path;
+  for (const QWidget* at = widget; at != nullptr && !at->isWindow(); at = at->parentWidget()) {
+    const bool names = at == widget || qobject_cast<const QGroupBox*>(at) != nullptr;
+    if (names && !CaptionOf(at).isEmpty()) path.prepend(CaptionOf(at));
+  }
+  return path;
+}
+
+std::size_t KindOf(const QWidget* widget, const Kinds& kinds) {
+  std::size_t kind = 0;
+  while (kind < kinds.size() && !kinds[kind](widget)) ++kind;
+  return kind;
+}
+
+QWidget* Decide(const QStringList& path, const std::vector<Candidate>& candidates, bool& several) {
+  std::vector<Found> found;
+  for (const Candidate& candidate : candidates) {
+    if (!Names(path, candidate.fullPath)) continue;
+    found.push_back({candidate.widget, candidate.fullPath == path, candidate.kind});
+  }
+  several = false;
+  if (found.empty()) return nullptr;
+  std::stable_sort(found.begin(), found.end(), IsNearer);
+  several = found.size() > 1 && !IsNearer(found[0], found[1]);
+  return several ? nullptr : found[0].widget;
+}
+
 QWidget* FindControl(QMainWindow* window, const QStringList& path,
                      const std::vector<Kinds>& stages) {
   const QStringList plain = PlainPath(path);
   QString shown;
   for (const QString& caption : path) shown += " " + Quoted(caption);
   for (const Kinds& kinds : stages) {
-    std::vector<Found> found = Search(window, plain, kinds);
-    if (found.empty()) continue;
-    std::stable_sort(found.begin(), found.end(), IsNearer);
-    if (found.size() == 1 || IsNearer(found[0], found[1])) return found[0].widget;
-    throw ScriptError{"more than one control is named" + shown};
+    bool several = false;
+    QWidget* control = Decide(plain, Search(window, plain.last(), kinds), several);
+    if (several) throw ScriptError{"more than one control is named" + shown};
+    if (control != nullptr) return control;
   }
   throw ScriptError{"no control is named" + shown};
 }

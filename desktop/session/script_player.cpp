@@ -1,4 +1,4 @@
-#include "script/script_player.h"
+#include "desktop/session/script_player.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -14,41 +14,28 @@
 #include <algorithm>
 
 #include "desktop/kit/binding.h"
+#include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/picture_button.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
-#include "script/script_error.h"
-#include "script/script_platform.h"
+#include "desktop/session/kept_answers.h"
+#include "desktop/session/script_error.h"
 
 namespace lignara {
 namespace {
 
-template <typename... Widgets>
-bool IsAny(const QWidget* widget) {
-  return ((dynamic_cast<const Widgets*>(widget) != nullptr) || ...);
-}
+using Verb = UserAction::Kind;
 
-WidgetFilter Visible(WidgetFilter kind) {
-  return [kind](const QWidget* widget) { return widget->isVisible() && kind(widget); };
-}
-
-Kinds AllVisible(const Kinds& kinds) {
-  Kinds visible;
-  for (const WidgetFilter& kind : kinds) visible.push_back(Visible(kind));
-  return visible;
-}
-
-/// Lists and pictures have scroll bars and viewports of their own inside; those have no names.
-bool IsControl(const QWidget* widget) {
-  return IsAny<QAbstractButton, QLineEdit, QListWidget, QTableWidget, Picture, QScrollBar>(widget);
-}
-
-bool IsList(const QWidget* widget) { return IsAny<QListWidget, QTableWidget>(widget); }
-
-bool IsTypedInto(const QWidget* widget) {
-  const auto* field = qobject_cast<const QLineEdit*>(widget);
-  return field != nullptr && !field->isReadOnly();
+/// Leads the focus to a widget as a hand does. Where the desktop does not let the window become the
+/// active one, the widget is told all the same.
+void GiveFocus(QWidget* widget) {
+  const QWidget* before = widget->window()->focusWidget();
+  widget->setFocus();
+  const bool came = before != widget && widget->window()->focusWidget() == widget;
+  if (!came || QApplication::focusWidget() == widget) return;
+  QFocusEvent in(QEvent::FocusIn, Qt::OtherFocusReason);
+  QApplication::sendEvent(widget, &in);
 }
 
 bool IsPicture(const QWidget* widget) { return IsAny<Picture, PictureButton>(widget); }
@@ -162,7 +149,7 @@ void ScriptPlayer::Play(const QString& line) {
   (this->*action->carryOut)(words);
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QApplication::processEvents();
-  if (const QString failure = platform_.TakeFailure(); !failure.isEmpty()) {
+  if (const QString failure = answers_.TakeFailure(); !failure.isEmpty()) {
     throw ScriptError{failure};
   }
 }
@@ -202,8 +189,8 @@ void ScriptPlayer::Window(const Words& words) {
 
 void ScriptPlayer::Press(const Words& words) {
   auto* button =
-      static_cast<QAbstractButton*>(ActiveControl(words, words.size(), {IsAny<QAbstractButton>}));
-  button->setFocus();
+      static_cast<QAbstractButton*>(ActiveControl(words, words.size(), KindsOf(Verb::Press)));
+  GiveFocus(button);
   button->click();
 }
 
@@ -216,22 +203,21 @@ void ScriptPlayer::Menu(const Words& words) {
 
 void ScriptPlayer::Enter(const Words& words) {
   const std::size_t count = words.size() - 1;
-  auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, {IsTypedInto}));
-  field->setFocus();
+  auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, KindsOf(Verb::Enter)));
+  GiveFocus(field);
   if (field->window()->focusWidget() != field) return;  // the window leads the user elsewhere
   field->setText(words.back().text);
   emit field->textEdited(words.back().text);
 }
 
 void ScriptPlayer::Key(const Words& words) {
-  // Where a field and a list bear the same name, keys go to the field.
-  QWidget* control = ActiveControl(words, words.size() - 1, {IsTypedInto, IsList, IsControl});
+  QWidget* control = ActiveControl(words, words.size() - 1, KindsOf(Verb::Key));
   const QKeySequence sequence = QKeySequence::fromString(words.back().text);
   if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
     throw ScriptError{"there is no key " + Quoted(words.back().text)};
   }
   platform_.LetBeSeen(Current());  // where a key leads depends on what stands where
-  control->setFocus();
+  GiveFocus(control);
   const QKeyCombination key = sequence[0];
   const QString text = words.back().text.size() == 1 ? words.back().text : QString();
   QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
@@ -242,9 +228,9 @@ void ScriptPlayer::Key(const Words& words) {
 
 void ScriptPlayer::Select(const Words& words) {
   auto* list =
-      static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, {IsAny<QListWidget>}));
+      static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, KindsOf(Verb::Select)));
   const int row = RowOf(list, words.back());
-  list->setFocus();
+  GiveFocus(list);
   // A row is chosen by each click, also where it was chosen before.
   list->setCurrentRow(-1);
   list->setCurrentRow(row);
@@ -252,12 +238,14 @@ void ScriptPlayer::Select(const Words& words) {
 
 void ScriptPlayer::Click(const Words& words) {
   const std::size_t count = words.size() - 2;
-  auto* picture = static_cast<Picture*>(ActiveControl(words, count, {IsAny<Picture>}));
+  auto* picture = static_cast<Picture*>(ActiveControl(words, count, KindsOf(Verb::Click)));
+  if ((picture->focusPolicy() & Qt::ClickFocus) != 0) GiveFocus(picture);
   picture->PressAt(ToFigure(words[count]), ToFigure(words[count + 1]));
 }
 
 void ScriptPlayer::Scroll(const Words& words) {
-  auto* bar = static_cast<QScrollBar*>(ActiveControl(words, words.size() - 1, {IsAny<QScrollBar>}));
+  auto* bar =
+      static_cast<QScrollBar*>(ActiveControl(words, words.size() - 1, KindsOf(Verb::Scroll)));
   const int value = ToWhole(words.back());
   if (value < bar->minimum() || value > bar->maximum()) {
     throw ScriptError{"the scroll bar has no value " + words.back().text};
@@ -281,7 +269,7 @@ void ScriptPlayer::Answer(const Words& words) {
   if (found == kinds.end()) throw ScriptError{"there is no answer " + Quoted(words[0].text)};
   const bool needsText = found->second == Kind::Text || found->second == Kind::File;
   if (needsText != (words.size() == 2)) throw ScriptError{"wrong number of words for \"answer\""};
-  platform_.KeepAnswer({found->second, needsText ? words[1].text : QString()});
+  answers_.Keep({found->second, needsText ? words[1].text : QString()});
 }
 
 void ScriptPlayer::Read(const Words& words) {

@@ -1,9 +1,9 @@
-#include "script/script_line.h"
+#include "desktop/session/script_line.h"
 
 #include <gtest/gtest.h>
 
 #include "desktop/kit/text.h"
-#include "script/script_error.h"
+#include "desktop/session/script_error.h"
 
 namespace lignara {
 namespace {

@@ -5,23 +5,27 @@
 #include <vector>
 
 #include "app/window_names.h"
-#include "script/control_finder.h"
-#include "script/script_line.h"
-#include "script/script_output.h"
+#include "desktop/session/control_finder.h"
+#include "desktop/session/script_line.h"
+#include "desktop/session/script_output.h"
 
 namespace lignara {
 
-class ScriptPlatform;
+class DesktopPlatform;
+class KeptAnswers;
 class ToolWindow;
 
 /// Carries out script lines on the windows of the program, as a user's hand would.
 class ScriptPlayer {
  public:
-  ScriptPlayer(ScriptPlatform& platform, ScriptOutput output)
-      : platform_(platform), output_(std::move(output)) {}
+  /// `answers` takes what the lines keep for the platform's dialogs.
+  ScriptPlayer(DesktopPlatform& platform, KeptAnswers& answers, ScriptOutput output)
+      : platform_(platform), answers_(answers), output_(std::move(output)) {}
 
   /// Carries out one line. Throws ScriptError when that cannot be done.
   void Play(const QString& line);
+  /// The window that the lines act in.
+  const QString& window() const { return window_; }
 
  private:
   using Words = std::vector<ScriptWord>;
@@ -59,7 +63,8 @@ class ScriptPlayer {
   /// The same, and enabled.
   QWidget* ActiveControl(const Words& words, std::size_t count, const Kinds& kinds) const;
 
-  ScriptPlatform& platform_;
+  DesktopPlatform& platform_;
+  KeptAnswers& answers_;
   ScriptOutput output_;
   QString window_ = window_name::kLauncher;
 };

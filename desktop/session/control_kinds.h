@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include "desktop/kit/user_action.h"
+
+namespace lignara {
+
+/// A choice among widgets, such as "lists".
+using WidgetFilter = std::function<bool(const QWidget*)>;
+
+/// Kinds of widgets, the preferred first.
+using Kinds = std::vector<WidgetFilter>;
+
+template <typename... Widgets>
+bool IsAny(const QWidget* widget) {
+  return ((dynamic_cast<const Widgets*>(widget) != nullptr) || ...);
+}
+
+/// What a user can act on. Lists and pictures have scroll bars and viewports of their own inside;
+/// those have no names.
+bool IsControl(const QWidget* widget);
+bool IsList(const QWidget* widget);
+/// A field that takes text.
+bool IsTypedInto(const QWidget* widget);
+
+/// The controls among which a script line of an action looks.
+const Kinds& KindsOf(UserAction::Kind action);
+
+/// The same, of what can be seen.
+Kinds AllVisible(const Kinds& kinds);
+WidgetFilter Visible(WidgetFilter kind);
+
+}  // namespace lignara

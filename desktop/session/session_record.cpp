@@ -1,0 +1,223 @@
+#include "desktop/session/session_record.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <utility>
+
+#include "desktop/kit/text.h"
+
+namespace lignara {
+namespace {
+
+using Kind = UserAction::Kind;
+
+/// A key that does nothing but bring the focus along.
+constexpr const char* kIdleKey = "F24";
+
+/// How a script calls an action, and what it leaves behind.
+struct Verb {
+  Kind kind;
+  const char* verb;
+  bool takesFocus;  ///< playing its line brings the focus to the control
+};
+constexpr Verb kVerbs[] = {{Kind::Press, "press", true},   {Kind::Enter, "enter", true},
+                           {Kind::ComeInto, "key", true},  {Kind::Key, "key", true},
+                           {Kind::Select, "select", true}, {Kind::Click, "click", false},
+                           {Kind::Scroll, "scroll", false}};
+
+const Verb* VerbOf(Kind kind) {
+  for (const Verb& verb : kVerbs) {
+    if (verb.kind == kind) return &verb;
+  }
+  return nullptr;
+}
+
+/// A text as the last word of a line: bare where it can be.
+QString Word(const QString& text) {
+  bool bare = !text.isEmpty();
+  for (const QChar sign : text) {
+    bare = bare &&
+           ((sign.unicode() < 128 && sign.isLetterOrNumber()) || QString("+-._").contains(sign));
+  }
+  return bare ? text : Quoted(text);
+}
+
+QString PathWords(const QStringList& path) {
+  QString words;
+  for (const QString& caption : path) words += " " + Quoted(caption);
+  return words;
+}
+
+/// The captions that lead to an item from a menu bar on; empty where it is not in there.
+QStringList MenuPath(const QList<QAction*>& actions, const QAction* item) {
+  for (const QAction* action : actions) {
+    const QString caption = PlainCaption(action->text());
+    if (action == item) return {caption};
+    if (action->menu() == nullptr) continue;
+    const QStringList inside = MenuPath(action->menu()->actions(), item);
+    if (!inside.isEmpty()) return QStringList(caption) + inside;
+  }
+  return {};
+}
+
+QString MenuLine(ToolWindow* window, const QAction* item) {
+  const QStringList path = MenuPath(window->menuBar()->actions(), item);
+  return path.isEmpty() ? QString() : "menu" + PathWords(path);
+}
+
+QString TextOf(const UserAction& action) {
+  switch (action.kind) {
+    case Kind::Press:
+      return QString();
+    case Kind::ComeInto:
+      return QString(" ") + kIdleKey;
+    case Kind::Enter:
+      return " " + Word(action.text);
+    default:
+      return " " + action.text;
+  }
+}
+
+bool TakesClicks(const RecordedAction& action) {
+  return action.kind == Kind::Click && (action.control->focusPolicy() & Qt::ClickFocus) != 0;
+}
+
+/// True when only the later of two actions in a row matters. What the earlier one was told comes
+/// again only if it is done again.
+bool TakesThePlaceOf(const RecordedAction& later, const RecordedAction& earlier) {
+  const bool same = !later.control.isNull() && later.control == earlier.control;
+  if (!same || !later.lead.isEmpty() || earlier.boxShown) return false;
+  const bool entered =
+      later.kind == Kind::Enter && (earlier.kind == Kind::Enter || earlier.kind == Kind::ComeInto);
+  return entered || (later.kind == earlier.kind && later.lastCounts);
+}
+
+}  // namespace
+
+void SessionRecord::Begin(ToolWindow* window, const UserAction& action) {
+  if (paused_ || window == nullptr) return;
+  focusBefore_ = window->focusWidget();
+  pendingWindow_ = window;
+  pending_ = Describe(window, action);
+}
+
+void SessionRecord::Answered(const QString& answer) {
+  if (pending_) pending_->lead << "answer " + answer;
+}
+
+void SessionRecord::BoxShown() {
+  if (pending_) pending_->boxShown = true;
+}
+
+void SessionRecord::End() {
+  if (!pending_) return;
+  FollowFocus();
+  Append(*std::exchange(pending_, std::nullopt));
+}
+
+void SessionRecord::Clear() {
+  actions_.clear();
+  pending_.reset();
+  replays_.clear();
+  toldWindow_ = window_name::kLauncher;
+}
+
+std::optional<RecordedAction> SessionRecord::Describe(ToolWindow* window,
+                                                      const UserAction& action) {
+  RecordedAction recorded{window->name(), {}, {}, action.kind, action.control, action.lastCounts};
+  Replay& replay = ReplayOf(window);
+  QWidget* control = action.control;
+  switch (action.kind) {
+    case Kind::None:
+      return std::nullopt;
+    case Kind::Menu:
+      recorded.line = MenuLine(window, action.item);
+      break;
+    case Kind::Close:
+      recorded.line = "close";
+      break;
+    case Kind::Window:
+      recorded.line = "window " + window->name();
+      break;
+    default:
+      recorded.line = ControlLine(replay, action, control);
+  }
+  if (recorded.line.isEmpty()) return std::nullopt;
+  if (action.kind == Kind::ComeInto && replay.focus == control) {
+    if (QWidget* other = replay.names->AnyButtonBut(control)) {
+      recorded.lead << ControlLine(replay, {Kind::ComeInto}, other);
+    }
+  }
+  return recorded;
+}
+
+QString SessionRecord::ControlLine(Replay& replay, const UserAction& action, QWidget* control) {
+  const Verb* verb = VerbOf(action.kind);
+  QStringList path;
+  if (control != nullptr) path = replay.names->ShortestName(control, KindsOf(action.kind));
+  if (path.isEmpty() && action.kind == Kind::Key) {
+    // Such as Escape, which goes through to the window from anywhere in it.
+    QWidget* any = replay.names->AnyButtonBut(nullptr);
+    if (any != nullptr) path = replay.names->ShortestName(any, KindsOf(action.kind));
+  }
+  if (path.isEmpty()) return {};
+  return verb->verb + PathWords(path) + TextOf(action);
+}
+
+SessionRecord::Replay& SessionRecord::ReplayOf(ToolWindow* window) {
+  Replay& replay = replays_[window];
+  // Another window may stand where one was that is gone.
+  if (replay.window != window) {
+    replay = {window, std::make_unique<ControlNames>(window), window->focusWidget()};
+  }
+  return replay;
+}
+
+/// Where the program leads the focus it does so at playing, too; else the line of an action brings
+/// it to the control, though the user may have pressed a key for it from elsewhere.
+void SessionRecord::FollowFocus() {
+  if (pendingWindow_.isNull()) return;
+  Replay& replay = ReplayOf(pendingWindow_);
+  QWidget* now = pendingWindow_->focusWidget();
+  const Verb* verb = VerbOf(pending_->kind);
+  if (now != focusBefore_ && now != pending_->control) {
+    replay.focus = now;
+  } else if (verb != nullptr && (verb->takesFocus || TakesClicks(*pending_))) {
+    replay.focus = pending_->control;
+  }
+}
+
+void SessionRecord::Append(RecordedAction action) {
+  if (!actions_.empty() && action.window == actions_.back().window &&
+      TakesThePlaceOf(action, actions_.back())) {
+    action.lead = actions_.back().lead;
+    actions_.back() = std::move(action);
+  } else {
+    actions_.push_back(std::move(action));
+  }
+  const RecordedAction& last = actions_.back();
+  QStringList lines;
+  if (last.window != toldWindow_ && last.kind != Kind::Window) lines << "window " + last.window;
+  toldWindow_ = last.window;
+  if (told_) told_(lines + last.lead + QStringList(last.line));
+}
+
+void SessionRecord::AddLine(const QString& window, const QString& line) {
+  Append({window, {}, line});
+}
+
+QStringList SessionRecord::LinesOfFirst(std::size_t count) const {
+  QStringList lines;
+  QString window = window_name::kLauncher;
+  for (std::size_t i = 0; i < count && i < actions_.size(); ++i) {
+    const RecordedAction& action = actions_[i];
+    if (action.window != window && action.kind != Kind::Window) lines << "window " + action.window;
+    window = action.window;
+    lines += action.lead;
+    lines << action.line;
+  }
+  return lines;
+}
+
+}  // namespace lignara
