@@ -169,7 +169,7 @@ SessionRecord::Replay& SessionRecord::ReplayOf(ToolWindow* window) {
   Replay& replay = replays_[window];
   // Another window may stand where one was that is gone.
   if (replay.window != window) {
-    replay = {window, std::make_unique<ControlNames>(window), window->focusWidget()};
+    replay = {window, std::make_unique<ControlNames>(window), nullptr};
   }
   return replay;
 }
