@@ -17,6 +17,7 @@
 #include "desktop/kit/list_notes.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/row_copy.h"
+#include "desktop/kit/row_delegate.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
@@ -115,6 +116,8 @@ void Binding::Text(QLabel* label, const std::string* text) {
 void Binding::List(QListWidget* list, const std::vector<std::string>* rows, const int* row,
                    RowCommand chosen) {
   list->setUniformItemSizes(true);
+  list->setItemDelegate(new RowDelegate(list));
+  list->setTextElideMode(Qt::ElideNone);
   MakeCopyable(list);
   Follow([list, rows, row, shown = std::vector<std::string>()]() mutable {
     const QSignalBlocker silent(list);

@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include "desktop/kit/row_delegate.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/warning_colour.h"
 
@@ -19,9 +19,9 @@ constexpr int kNoteMargin = 6;
 constexpr const char* kOutOfDateTip = "Out of date: the input has changed since";
 
 /// Paints a row with its tint below and its note at its right end.
-class NoteDelegate : public QStyledItemDelegate {
+class NoteDelegate : public RowDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {

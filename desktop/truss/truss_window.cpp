@@ -150,18 +150,21 @@ QWidget* TrussForm::ResultArea() {
 QLayout* TrussForm::ResultPanels() {
   auto* row = new QHBoxLayout;
   row->addWidget(ListPanel(
-      MakeList("Member Lengths (ft)", 9), &record_.lengthRows, &record_.lengthsOpen, "Cancel",
-      [this] { CloseMemberLengths(record_); }, 150));
+                     MakeList("Member Lengths (ft)", 9), &record_.lengthRows, &record_.lengthsOpen,
+                     "Cancel", [this] { CloseMemberLengths(record_); }, 150),
+                 2);
   QListWidget* deflections = MakeList("Deflections", 9);
   row->addWidget(ListPanel(
-      deflections, &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
-      [this] { CloseDeflections(record_); }, 150));
+                     deflections, &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
+                     [this] { CloseDeflections(record_); }, 150),
+                 2);
   binding().WhyEmpty(deflections, [this] { return record_.whyNoDeflections; });
   binding().OutOfDate(deflections, [this] { return AreDeflectionsOlder(record_); });
   QListWidget* stresses = MakeList("Actual and Allowable Axial Stresses", 9);
   row->addWidget(ListPanel(
-      stresses, &record_.stressRows, &record_.stressOpen, "OK", [this] { CloseStresses(record_); },
-      300));
+                     stresses, &record_.stressRows, &record_.stressOpen, "OK",
+                     [this] { CloseStresses(record_); }, 300),
+                 5);
   binding().Notes(stresses, &record_.stressNotes);
   binding().WhyEmpty(stresses, [this] { return record_.whyNoStresses; });
   binding().OutOfDate(stresses, [this] { return AreStressesOlder(record_); });

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QScrollBar>
 
 #include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
@@ -66,6 +67,39 @@ TEST_F(ListTest, ADragChoosesTheRowUnderTheMouseWhenReleased) {
   Mouse(QEvent::MouseButtonRelease, 2, Qt::NoButton);
   EXPECT_EQ(ChosenRow(list), 2);
   EXPECT_EQ(LoadInTheField(), "value \"222\"");
+}
+
+/// A list of rows that are wider than it is.
+class NarrowList : public testing::Test {
+ protected:
+  NarrowList() {
+    list.resize(120, 120);
+    binding.List(&list, &rows);
+    list.show();
+    binding.Refresh();
+    QApplication::processEvents();
+  }
+
+  int WidthOf(const char* text) const { return list.fontMetrics().horizontalAdvance(text); }
+
+  static constexpr const char* kWide =
+      "Allowable axial stress = 994.75 psi with full lateral bracing";
+  std::vector<std::string> rows = {"", kWide, "(TL 1)"};
+  QListWidget list;
+  Binding binding{[] {}};
+};
+
+TEST_F(NarrowList, ScrollsToTheEndOfItsWidestRowAndCutsNoneShort) {
+  EXPECT_EQ(list.textElideMode(), Qt::ElideNone);
+  EXPECT_GE(list.visualItemRect(list.item(1)).width(), WidthOf(kWide));
+  EXPECT_TRUE(list.horizontalScrollBar()->isVisible());
+}
+
+TEST_F(NarrowList, FollowsItsRows) {
+  rows = {"", "(TL 1)"};
+  binding.Refresh();
+  QApplication::processEvents();
+  EXPECT_FALSE(list.horizontalScrollBar()->isVisible());
 }
 
 }  // namespace

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace lignara {
+
+/// Paints the rows of a list, all as wide as the widest: where the list is narrower it scrolls, and
+/// no text is cut short. The list asks for the size of one row and takes it for all.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+}  // namespace lignara
