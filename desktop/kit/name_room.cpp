@@ -16,6 +16,11 @@ constexpr std::array<double, 15> kTurns = {0,   30, -30, 60,  -60,  180,  150, -
 /// What a step away from the wish costs, in lines crossed.
 constexpr double kTurnCost = 0.07;
 
+/// How far from its circle a name is tried, in heights of the name, and what a step costs. A little
+/// farther off is better than across a line.
+constexpr std::array<double, 3> kPushes = {0, 0.2, 0.38};
+constexpr double kPushCost = 0.25;
+
 /// Where more lines are in sight no name finds a place without crossing some.
 constexpr std::size_t kMostLines = 2000;
 
@@ -25,18 +30,18 @@ QPointF Turned(const QPointF& way, double degrees) {
           way.x() * std::sin(angle) + way.y() * std::cos(angle)};
 }
 
-/// The box of a size that touches a circle in a direction.
-QRectF BoxBeside(const QPointF& centre, double radius, const QPointF& way, const QSizeF& size) {
+/// The rectangle of a size that touches a circle in a direction.
+QRectF RectBeside(const QPointF& centre, double radius, const QPointF& way, const QSizeF& size) {
   const double inside = std::min(size.width() / 2 / std::max(std::fabs(way.x()), 1e-6),
                                  size.height() / 2 / std::max(std::fabs(way.y()), 1e-6));
-  QRectF box(QPointF(0, 0), size);
-  box.moveCenter(centre + way * (radius + inside));
-  return box;
+  QRectF rect(QPointF(0, 0), size);
+  rect.moveCenter(centre + way * (radius + inside));
+  return rect;
 }
 
-double Distance(const QRectF& box, const QPointF& point) {
-  const double dx = std::max({box.left() - point.x(), 0.0, point.x() - box.right()});
-  const double dy = std::max({box.top() - point.y(), 0.0, point.y() - box.bottom()});
+double Distance(const QRectF& rect, const QPointF& point) {
+  const double dx = std::max({rect.left() - point.x(), 0.0, point.x() - rect.right()});
+  const double dy = std::max({rect.top() - point.y(), 0.0, point.y() - rect.bottom()});
   return std::hypot(dx, dy);
 }
 
@@ -50,13 +55,13 @@ bool Clip(double start, double delta, double low, double high, double& from, dou
   return from <= to;
 }
 
-bool Crosses(const QLineF& line, const QRectF& box) {
+bool Crosses(const QLineF& line, const QRectF& rect) {
   double from = 0, to = 1;
-  return Clip(line.x1(), line.dx(), box.left(), box.right(), from, to) &&
-         Clip(line.y1(), line.dy(), box.top(), box.bottom(), from, to);
+  return Clip(line.x1(), line.dx(), rect.left(), rect.right(), from, to) &&
+         Clip(line.y1(), line.dy(), rect.top(), rect.bottom(), from, to);
 }
 
-QRectF Grown(const QRectF& box, double by) { return box.adjusted(-by, -by, by, by); }
+QRectF Grown(const QRectF& rect, double by) { return rect.adjusted(-by, -by, by, by); }
 
 }  // namespace
 
@@ -66,35 +71,40 @@ void NameRoom::AddLine(const QLineF& line) {
 
 std::optional<QRectF> NameRoom::PlaceBeside(const QPointF& centre, double radius,
                                             const QPointF& wish, const QSizeF& size) {
-  std::optional<QRectF> best;
-  double least = 0, turns = 0;
-  for (const double turn : kTurns) {
-    const QRectF box = BoxBeside(centre, radius + gap_, Turned(wish, turn), size);
-    const double cost = kTurnCost * turns++;
-    if ((best && cost >= least) || !IsFree(box)) continue;
-    const double whole = cost + LinesAcross(box);
-    if (best && whole >= least) continue;
-    best = box;
-    least = whole;
+  Place best;
+  for (std::size_t push = 0; push < kPushes.size(); ++push) {
+    const double distance = radius + gap_ + kPushes[push] * size.height();
+    for (std::size_t turn = 0; turn < kTurns.size(); ++turn) {
+      const double cost =
+          kPushCost * static_cast<double>(push) + kTurnCost * static_cast<double>(turn);
+      Try({RectBeside(centre, distance, Turned(wish, kTurns[turn]), size), cost}, best);
+    }
   }
-  if (best) Take(*best);
-  return best;
+  if (!best.rect) return std::nullopt;
+  Take(*best.rect);
+  return best.rect;
 }
 
-bool NameRoom::IsFree(const QRectF& box) const {
-  if (!room_.contains(box)) return false;
+void NameRoom::Try(Place place, Place& best) const {
+  if (place.cost >= best.cost || !IsFree(*place.rect)) return;
+  place.cost += LinesAcross(*place.rect);
+  if (place.cost < best.cost) best = place;
+}
+
+bool NameRoom::IsFree(const QRectF& rect) const {
+  if (!room_.contains(rect)) return false;
   const bool onCircle = std::any_of(circles_.begin(), circles_.end(), [&](const Circle& circle) {
-    return Distance(box, circle.centre) < circle.radius + gap_ / 2;
+    return Distance(rect, circle.centre) < circle.radius + gap_ / 2;
   });
   if (onCircle) return false;
-  const QRectF wide = Grown(box, gap_ / 2);
+  const QRectF wide = Grown(rect, gap_ / 2);
   return std::none_of(taken_.begin(), taken_.end(),
                       [&](const QRectF& other) { return wide.intersects(other); });
 }
 
-int NameRoom::LinesAcross(const QRectF& box) const {
+int NameRoom::LinesAcross(const QRectF& rect) const {
   return static_cast<int>(std::count_if(lines_.begin(), lines_.end(), [&](const QLineF& line) {
-    return Crosses(line, Grown(box, gap_ / 2));
+    return Crosses(line, Grown(rect, gap_ / 2));
   }));
 }
 

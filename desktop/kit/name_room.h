@@ -2,6 +2,7 @@
 
 #include <QLineF>
 #include <QRectF>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -17,14 +18,14 @@ class NameRoom {
   void AddLine(const QLineF& line);
   /// No name but its own touches a circle.
   void AddCircle(const QPointF& centre, double radius) { circles_.push_back({centre, radius}); }
-  void Take(const QRectF& box) { taken_.push_back(box); }
+  void Take(const QRectF& rect) { taken_.push_back(rect); }
 
   /// A place for a name beside the circle at `centre`, the nearer to the direction `wish` the
   /// better; takes it. Nothing where all places are taken.
   std::optional<QRectF> PlaceBeside(const QPointF& centre, double radius, const QPointF& wish,
                                     const QSizeF& size);
-  /// True where nothing but lines is in the way of a box.
-  bool IsFree(const QRectF& box) const;
+  /// True where nothing but lines is in the way of a rectangle.
+  bool IsFree(const QRectF& rect) const;
 
  private:
   struct Circle {
@@ -32,7 +33,15 @@ class NameRoom {
     double radius;
   };
 
-  int LinesAcross(const QRectF& box) const;
+  /// Where a name could stand, and what is against it.
+  struct Place {
+    std::optional<QRectF> rect;
+    double cost = std::numeric_limits<double>::infinity();
+  };
+
+  /// Takes a place for the best one where it is free and costs less.
+  void Try(Place place, Place& best) const;
+  int LinesAcross(const QRectF& rect) const;
 
   QRectF room_;
   double gap_;

@@ -87,7 +87,9 @@ class LayoutMaker {
     }
     const double gap = kNameGap * layout_.unit;
     std::size_t step = FirstStep(marks, metrics_.height(), 2 * gap);
-    layout_.thinness = Thinness(marks);
+    const double distance = LeastDistance(marks);
+    layout_.thinness = ThinnessAt(distance, layout_.unit);
+    layout_.dense = distance < layout_.unit;
     PlaceAll(kSteps[step]);
     for (int more = 0; more < 2 && TooManyDropped() && step + 1 < kSteps.size(); ++more) {
       PlaceAll(kSteps[++step]);
@@ -148,19 +150,20 @@ class LayoutMaker {
   void PlaceNames() {
     for (const std::size_t i : shown_) {
       const NamedLine& line = scene_.lines[i];
-      const auto box = names_->PlaceBeside(MarkOf(line), layout_.radius(),
-                                           WishOf(line, Drawn(line)), SizeOf(line.name));
-      if (box) layout_.names.push_back({i, ToQt(line.name), *box});
+      const auto rect = names_->PlaceBeside(MarkOf(line), layout_.radius(),
+                                            WishOf(line, Drawn(line)), SizeOf(line.name));
+      if (rect) layout_.names.push_back({i, ToQt(line.name), *rect});
     }
   }
 
-  double Thinness(const std::vector<Mark>& marks) const {
+  /// Between marks that follow each other in their series.
+  static double LeastDistance(const std::vector<Mark>& marks) {
     double least = 1e9;
     for (std::size_t i = 1; i < marks.size(); ++i) {
       if (marks[i].series != marks[i - 1].series) continue;
       least = std::min(least, QLineF(marks[i].at, marks[i - 1].at).length());
     }
-    return ThinnessAt(least, layout_.unit);
+    return least;
   }
 
   /// Arrows first, each with its room; then the values, which thin out by themselves.
@@ -177,14 +180,14 @@ class LayoutMaker {
     for (std::size_t i = 0; i < scene_.loads.size(); ++i) {
       if (scene_.loads[i].place % arrowStep != 0 || !room_.contains(arrows[i].at)) continue;
       layout_.loads.push_back(i);
-      names_->Take(ArrowBox(arrows[i].at));
+      names_->Take(ArrowRect(arrows[i].at));
     }
     for (const std::size_t i : layout_.loads) {
       if (scene_.loads[i].place % valueStep == 0) PlaceValue(i, arrows[i].at);
     }
   }
 
-  QRectF ArrowBox(const QPointF& node) const {
+  QRectF ArrowRect(const QPointF& node) const {
     const double u = layout_.unit;
     return {node.x() - 4 * u, node.y() - (kLoadGap + kLoadLength) * u, 8 * u, kLoadLength * u};
   }
@@ -192,14 +195,14 @@ class LayoutMaker {
   /// Over the arrow, or aslant of its tail where a name or a circle is in the way.
   void PlaceValue(std::size_t i, const QPointF& node) {
     const QSizeF size = SizeOf(scene_.loads[i].value);
-    const double low = ArrowBox(node).top() - kNameGap * layout_.unit;
+    const double low = ArrowRect(node).top() - kNameGap * layout_.unit;
     const double farthest = std::max(room_.left() + 2, room_.right() - size.width() - 2);
     for (const double part : {0.5, 0.9, 0.1}) {
       const double left = std::clamp(node.x() - part * size.width(), room_.left() + 2, farthest);
-      const QRectF box(QPointF(left, low - size.height()), size);
-      if (!names_->IsFree(box)) continue;
-      names_->Take(box);
-      layout_.values.push_back({i, ToQt(scene_.loads[i].value), box});
+      const QRectF rect(QPointF(left, low - size.height()), size);
+      if (!names_->IsFree(rect)) continue;
+      names_->Take(rect);
+      layout_.values.push_back({i, ToQt(scene_.loads[i].value), rect});
       return;
     }
   }
@@ -209,9 +212,9 @@ class LayoutMaker {
       const PointName& point = scene_.points[i];
       const QPointF at = view_.ToPixels({point.x, point.y});
       if (point.place % layout_.step != 0 || !room_.contains(at)) continue;
-      const auto box =
+      const auto rect =
           names_->PlaceBeside(at, kNameGap * layout_.unit, QPointF(0, -1), SizeOf(point.name));
-      if (box) layout_.points.push_back({i, ToQt(point.name), *box});
+      if (rect) layout_.points.push_back({i, ToQt(point.name), *rect});
     }
   }
 

@@ -14,7 +14,7 @@ namespace lignara {
 struct SceneText {
   std::size_t of;  ///< the line, load or point that it belongs to
   QString text;
-  QRectF box;
+  QRectF rect;
 };
 
 /// What of a scene is shown at a view, and where its texts stand.
@@ -26,6 +26,7 @@ struct SceneLayout {
   std::vector<SceneText> values;   ///< of loads
   int step = 1;                    ///< of each series every line of so many shows its name
   double thinness = 1;             ///< of strokes, where lines are dense
+  bool dense = false;              ///< lines of a kind fall on each other
 
   double radius() const { return 6 * unit; }
 };

@@ -61,10 +61,7 @@ class ScenePainter {
         unit_(layout_.unit) {}
 
   void Paint() {
-    for (const NamedLine& line : scene_.lines) {
-      PaintLine(painter_, Drawn(line),
-                {line.colour, line.stroke, line.warned, line.lit, layout_.thinness}, palette_);
-    }
+    PaintLines();
     for (const SceneText& name : layout_.names) PaintCircle(scene_.lines[name.of]);
     for (const std::size_t load : layout_.loads) PaintLoad(scene_.loads[load]);
     for (const PointerArrow& pointer : scene_.pointers) PaintPointer(pointer);
@@ -76,6 +73,18 @@ class ScenePainter {
   }
 
  private:
+  /// Where lines fall on each other they are painted as thin and as fast as can be.
+  void PaintLines() {
+    const bool smooth = painter_.testRenderHint(QPainter::Antialiasing);
+    painter_.setRenderHint(QPainter::Antialiasing, smooth && !layout_.dense);
+    for (const NamedLine& line : scene_.lines) {
+      PaintLine(painter_, Drawn(line),
+                {line.colour, line.stroke, line.warned, line.lit, layout_.thinness, layout_.dense},
+                palette_);
+    }
+    painter_.setRenderHint(QPainter::Antialiasing, smooth);
+  }
+
   QLineF Drawn(const NamedLine& line) const {
     return {view_.ToPixels({line.x1, line.y1}), view_.ToPixels({line.x2, line.y2})};
   }
@@ -124,8 +133,8 @@ class ScenePainter {
     QFont font = painter_.font();
     font.setBold(bold);
     const QFontMetricsF metrics(font, painter_.device());
-    const QPointF base(text.box.center().x() - metrics.horizontalAdvance(text.text) / 2,
-                       text.box.center().y() + metrics.capHeight() / 2);
+    const QPointF base(text.rect.center().x() - metrics.horizontalAdvance(text.text) / 2,
+                       text.rect.center().y() + metrics.capHeight() / 2);
     painter_.save();
     painter_.setFont(font);
     QPainterPath outline;
@@ -167,7 +176,8 @@ void PaintLine(QPainter& painter, const QLineF& line, const LineLook& look,
     return entry.stroke == look.stroke;
   });
   painter.setPen(QPen(ColourOn(palette.color(QPalette::Base), look.colour),
-                      stroke->width * look.thinness * unit, stroke->style, Qt::RoundCap));
+                      look.hairline ? 0 : stroke->width * look.thinness * unit, stroke->style,
+                      Qt::RoundCap));
   painter.drawLine(line);
 }
 

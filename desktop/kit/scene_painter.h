@@ -17,7 +17,8 @@ struct LineLook {
   Stroke stroke = Stroke::Plain;
   bool warned = false;
   bool lit = false;
-  double thinness = 1;  ///< of the stroke, where lines are dense
+  double thinness = 1;    ///< of the stroke, where lines are dense
+  bool hairline = false;  ///< as thin as the paper or the screen can show
 };
 
 /// Draws a line in its look; all widths go with the height of the painter's letters.

@@ -80,19 +80,19 @@ void ExpectReadable(const Shown& shown, const QSizeF& room, const std::string& w
   texts.insert(texts.end(), shown.layout.values.begin(), shown.layout.values.end());
   const double radius = shown.layout.radius();
   for (std::size_t i = 0; i < texts.size(); ++i) {
-    EXPECT_TRUE(QRectF(QPointF(0, 0), room).contains(texts[i].box))
+    EXPECT_TRUE(QRectF(QPointF(0, 0), room).contains(texts[i].rect))
         << what << texts[i].text.toStdString();
     for (std::size_t j = i + 1; j < texts.size(); ++j) {
-      EXPECT_FALSE(texts[i].box.intersects(texts[j].box))
+      EXPECT_FALSE(texts[i].rect.intersects(texts[j].rect))
           << what << texts[i].text.toStdString() << " " << texts[j].text.toStdString();
     }
     for (const SceneText& other : names) {
-      EXPECT_GE(Distance(texts[i].box, shown.Mark(other)), radius)
+      EXPECT_GE(Distance(texts[i].rect, shown.Mark(other)), radius)
           << what << texts[i].text.toStdString() << " on " << other.text.toStdString();
     }
   }
   for (const SceneText& name : names) {
-    EXPECT_LE(Distance(name.box, shown.Mark(name)), radius + 8 * shown.layout.unit)
+    EXPECT_LE(Distance(name.rect, shown.Mark(name)), radius + 8 * shown.layout.unit)
         << what << name.text.toStdString();
   }
 }
