@@ -15,8 +15,8 @@ namespace {
 std::optional<Member> MostStrained(const TrussWindow& window, const SessionState& session) {
   std::optional<Member> most;
   double largest = 0;
-  const auto& runs = TrussTypeOf(session.TrussType).checkedMembers;
-  for (const Member& member : MembersOf(runs, HalfSpans(session))) {
+  const auto& ranges = TrussTypeOf(session.TrussType).checkedMembers;
+  for (const Member& member : MembersOf(ranges, HalfSpans(session))) {
     const Float32 force = AxialOf(window.model, member.family)[member.index];
     if (std::abs(force.value()) <= largest) continue;
     largest = std::abs(force.value());

@@ -7,7 +7,7 @@
 namespace lignara {
 
 /// The stresses that have a final multiplier, in the order of `AdjustmentFactors::Multiplier` and
-/// of the boxes "Final Stress Multipliers".
+/// of the fields "Final Stress Multipliers".
 enum class StressKind { Fb, Ft, Fv, FcPar, FcPerp, E };
 inline constexpr int kStressKinds = 6;
 

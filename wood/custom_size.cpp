@@ -34,20 +34,20 @@ void TakeBeamSection(MemberSizeWindow& window, MemberSelection& member, const Fl
   beam.sy = FormatNumber(member.SectionSy, kTwoDecimals);
 }
 
-void EditGroupBox(MemberSizeWindow& window, SessionState& session, Platform& platform,
-                  MemberGroup group, GroupBox box) {
+void EditGroupField(MemberSizeWindow& window, SessionState& session, Platform& platform,
+                    MemberGroup group, GroupField field) {
   FaultScope faults(platform);
-  switch (box) {
-    case GroupBox::B:
-    case GroupBox::D:
+  switch (field) {
+    case GroupField::B:
+    case GroupField::D:
       FollowGroupSize(window, session, group);
       break;
-    case GroupBox::Area:
+    case GroupField::Area:
       session.Member.Group(group).GroupArea = ReadNumber(window.Group(group).area);
       break;
-    case GroupBox::Fa:
-    case GroupBox::Ft:
-    case GroupBox::E:
+    case GroupField::Fa:
+    case GroupField::Ft:
+    case GroupField::E:
       break;  // "OK" reads them
   }
 }

@@ -29,7 +29,7 @@ inline constexpr int kFactorPairs = 3;
 inline constexpr std::array<const char*, kFactorPairs> kFactorPairCaptions = {
     "Repetative Use", "Flat Use", "Moisture > 19%"};
 
-/// The captions of the boxes "Final Stress Multipliers", in the order of StressKind.
+/// The captions of the fields "Final Stress Multipliers", in the order of StressKind.
 inline constexpr std::array<const char*, kStressKinds> kMultiplierCaptions = {
     "Fb", "Ft", "Fv", "Fc parell", "Fc perp.", "E"};
 

@@ -13,15 +13,15 @@ namespace {
 
 constexpr const char* kThreeDigits = "0.00E+00";
 
-/// A field of a member group and the box that shows it.
-struct GroupField {
+/// A number of a member group and the text of its field.
+struct GroupValue {
   Float32 TrussMemberGroup::*value;
-  std::string GroupPanel::*box;
+  std::string GroupPanel::*text;
   const char* pattern;
-  bool endsSize = false;  ///< the last box of the size: filling it counts as a change of the size
+  bool endsSize = false;  ///< the last field of the size: filling it counts as a change of the size
 };
 
-constexpr GroupField kGroupFields[] = {
+constexpr GroupValue kGroupFields[] = {
     {&TrussMemberGroup::GroupFa, &GroupPanel::fa, kTwoDecimals},
     {&TrussMemberGroup::GroupFt, &GroupPanel::ft, kTwoDecimals},
     {&TrussMemberGroup::GroupE, &GroupPanel::e, kThreeDigits},
@@ -30,15 +30,15 @@ constexpr GroupField kGroupFields[] = {
     {&TrussMemberGroup::GroupArea, &GroupPanel::area, kTwoDecimals},
 };
 
-/// A field of the beam member and the box that shows it.
-struct BeamField {
+/// A number of the beam member and the text of its field.
+struct BeamValue {
   Float32 MemberSelection::*value;
-  std::string BeamPanel::*box;
+  std::string BeamPanel::*text;
   const char* pattern;
-  bool readBack = true;  ///< "OK" reads the box; the stresses are those of the data base
+  bool readBack = true;  ///< "OK" reads the field; the stresses are those of the data base
 };
 
-constexpr BeamField kBeamFields[] = {
+constexpr BeamValue kBeamFields[] = {
     {&MemberSelection::AllowFb, &BeamPanel::fb, kTwoDecimals, false},
     {&MemberSelection::AllowFc, &BeamPanel::fa, kTwoDecimals, false},
     {&MemberSelection::AllowFv, &BeamPanel::fv, kTwoDecimals, false},
@@ -58,16 +58,16 @@ std::string GradeLabel(const MemberSelection& member) {
 }
 
 void ShowBeam(BeamPanel& panel, const MemberSelection& member) {
-  for (const BeamField& field : kBeamFields) {
-    panel.*field.box = FormatNumber(member.*field.value, field.pattern);
+  for (const BeamValue& field : kBeamFields) {
+    panel.*field.text = FormatNumber(member.*field.value, field.pattern);
   }
   panel.size = member.SizeName;
   panel.gradeLabel = GradeLabel(member);
 }
 
 void ReadBeam(const MemberSizeWindow& window, MemberSelection& member) {
-  for (const BeamField& field : kBeamFields) {
-    if (field.readBack) member.*field.value = ReadNumber(window.beam.*field.box);
+  for (const BeamValue& field : kBeamFields) {
+    if (field.readBack) member.*field.value = ReadNumber(window.beam.*field.text);
   }
   member.SizeName = window.selection.size;
   member.BeamGradeLabel = window.beam.gradeLabel;
@@ -88,8 +88,8 @@ void TakeDataBaseStresses(const MemberSizeWindow& window, MemberSelection& membe
 void ShowGroup(MemberSizeWindow& window, SessionState& session, MemberGroup group) {
   const TrussMemberGroup& member = session.Member.Group(group);
   GroupPanel& panel = window.Group(group);
-  for (const GroupField& field : kGroupFields) {
-    panel.*field.box = FormatNumber(member.*field.value, field.pattern);
+  for (const GroupValue& field : kGroupFields) {
+    panel.*field.text = FormatNumber(member.*field.value, field.pattern);
     if (field.endsSize) FollowGroupSize(window, session, group);
   }
   panel.size = member.GroupSizeName;
@@ -100,14 +100,14 @@ void ReadGroups(const MemberSizeWindow& window, MemberSelection& member) {
   for (std::size_t i = 0; i < member.Groups.size(); ++i) {
     const GroupPanel& panel = window.groups[i];
     TrussMemberGroup& group = member.Groups[i];
-    for (const GroupField& field : kGroupFields) {
-      group.*field.value = ReadNumber(panel.*field.box);
+    for (const GroupValue& field : kGroupFields) {
+      group.*field.value = ReadNumber(panel.*field.text);
     }
     group.GroupGradeLabel = panel.gradeLabel;
   }
 }
 
-/// Fills all boxes from the current member.
+/// Fills all fields from the current member.
 void ShowMember(MemberSizeWindow& window, SessionState& session) {
   if (session.DesignMode == "BEAM") ShowBeam(window.beam, session.Member);
   if (session.DesignMode != "TRUSS") return;

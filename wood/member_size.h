@@ -17,8 +17,8 @@ struct SizeSelection {
   std::string dressedD;  ///< in
 };
 
-/// The boxes of a member group.
-enum class GroupBox { Fa, Ft, E, B, D, Area };
+/// The fields of a member group.
+enum class GroupField { Fa, Ft, E, B, D, Area };
 
 /// What the window shows of one member group of a truss.
 struct GroupPanel {
@@ -90,14 +90,14 @@ struct MemberSizeWindow {
 
 /// The window as it opens, for the client that `DesignMode` names.
 void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
-/// The window `wdb` was closed: its stresses go to the ticked groups, and all boxes are filled.
+/// The window `wdb` was closed: its stresses go to the ticked groups, and all fields are filled.
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// What is to be done before a visit to the data base: of the groups of a truss one at least has to
 /// be ticked, or the stresses go nowhere. Empty where nothing is missing.
 std::string TicksNote(const MemberSizeWindow& window);
 /// "Wood Type Data Base".
 void VisitWoodDataBase(SessionState& session, Platform& platform);
-/// "OK": reads all boxes into the current member and closes the window.
+/// "OK": reads all fields into the current member and closes the window.
 void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// "Cancel".
 void CancelMemberSize(SessionState& session, Platform& platform);
@@ -117,10 +117,10 @@ void SelectGroupSize(MemberSizeWindow& window, SessionState& session, Platform& 
 
 // Typed sizes (custom_size.cpp).
 
-/// After the user changed the text of a group's box.
-void EditGroupBox(MemberSizeWindow& window, SessionState& session, Platform& platform,
-                  MemberGroup group, GroupBox box);
-/// After the user changed "B(in)" or "D(in)" of "Beam Member". Its other boxes need no command.
+/// After the user changed the text of a group's field.
+void EditGroupField(MemberSizeWindow& window, SessionState& session, Platform& platform,
+                    MemberGroup group, GroupField field);
+/// After the user changed "B(in)" or "D(in)" of "Beam Member". Its other fields need no command.
 void EditBeamSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 
 }  // namespace lignara

@@ -81,14 +81,14 @@ void KeepRoom(QWidget* widget) {
 }
 
 QWidget* MakeCaptionedList(const QString& caption, QListWidget* list) {
-  auto* box = new QWidget;
-  auto* rows = new QVBoxLayout(box);
+  auto* area = new QWidget;
+  auto* rows = new QVBoxLayout(area);
   rows->setContentsMargins(0, 0, 0, 0);
   auto* label = new QLabel(caption);
   label->setBuddy(list);
   rows->addWidget(label);
   rows->addWidget(list, 1);
-  return box;
+  return area;
 }
 
 QWidget* InWidget(QLayout* layout) {

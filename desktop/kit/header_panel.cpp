@@ -36,8 +36,8 @@ QGroupBox* OptionPair(Binding& binding, const QString& caption, const QString& f
 }  // namespace
 
 QGroupBox* MakeHeaderPanel(HeaderPanel& panel, Binding& binding, SessionState& session) {
-  QGroupBox* box = MakePanel("Project Description for Print Header");
-  auto* rows = new QVBoxLayout(box);
+  QGroupBox* frame = MakePanel("Project Description for Print Header");
+  auto* rows = new QVBoxLayout(frame);
   auto* grid = new QGridLayout;
   for (const HeaderLine& line : kHeaderLines) {
     QLineEdit* field = AddField(grid, line.caption, 160);
@@ -52,10 +52,10 @@ QGroupBox* MakeHeaderPanel(HeaderPanel& panel, Binding& binding, SessionState& s
   binding.Press(ok, [&panel, &session] { AcceptHeaderPanel(panel, session); });
   foot->addWidget(ok);
   rows->addLayout(foot);
-  SetReturnButton(box, ok);
-  binding.CloseOnEscape(box, [&panel] { panel.open = false; });
-  binding.Shown(box, &panel.open);
-  return box;
+  SetReturnButton(frame, ok);
+  binding.CloseOnEscape(frame, [&panel] { panel.open = false; });
+  binding.Shown(frame, &panel.open);
+  return frame;
 }
 
 QString TitleOr(const QString& otherwise, const SessionState& session) {

@@ -25,16 +25,16 @@ namespace {
 struct GroupRow {
   const char* caption;
   std::string GroupPanel::*text;
-  GroupBox box;
+  GroupField field;
 };
 
-constexpr GroupRow kGroupStressRows[] = {{"Fa (psi)", &GroupPanel::fa, GroupBox::Fa},
-                                         {"Ft (psi)", &GroupPanel::ft, GroupBox::Ft},
-                                         {"E (psi)", &GroupPanel::e, GroupBox::E}};
+constexpr GroupRow kGroupStressRows[] = {{"Fa (psi)", &GroupPanel::fa, GroupField::Fa},
+                                         {"Ft (psi)", &GroupPanel::ft, GroupField::Ft},
+                                         {"E (psi)", &GroupPanel::e, GroupField::E}};
 
-constexpr GroupRow kGroupSectionRows[] = {{"B(in)", &GroupPanel::b, GroupBox::B},
-                                          {"D(in)", &GroupPanel::d, GroupBox::D},
-                                          {"Area (in^2)", &GroupPanel::area, GroupBox::Area}};
+constexpr GroupRow kGroupSectionRows[] = {{"B(in)", &GroupPanel::b, GroupField::B},
+                                          {"D(in)", &GroupPanel::d, GroupField::D},
+                                          {"Area (in^2)", &GroupPanel::area, GroupField::Area}};
 
 struct BeamRow {
   const char* caption;
@@ -168,25 +168,25 @@ class MemberSizeForm : public ToolWindow {
     rows->addLayout(head);
     rows->addWidget(GradeLabel(&record.gradeLabel));
     QGridLayout* grid = BoxGrid();
-    AddGroupBoxes(grid, 0, group, kGroupSectionRows);
-    AddGroupBoxes(grid, kSecondColumn, group, kGroupStressRows);
+    AddGroupFields(grid, 0, group, kGroupSectionRows);
+    AddGroupFields(grid, kSecondColumn, group, kGroupStressRows);
     rows->addLayout(grid);
     rows->addStretch();
     return panel;
   }
 
-  void AddGroupBoxes(QGridLayout* grid, int column, MemberGroup group,
-                     std::span<const GroupRow> table) {
+  void AddGroupFields(QGridLayout* grid, int column, MemberGroup group,
+                      std::span<const GroupRow> table) {
     int at = 0;
     for (const GroupRow& row : table) {
-      const GroupBox box = row.box;
+      const GroupField field = row.field;
       binding().Field(
           PutField(grid, at++, column, row.caption, 72), &(record_.Group(group).*row.text),
-          [this, group, box] { EditGroupBox(record_, session(), platform(), group, box); });
+          [this, group, field] { EditGroupField(record_, session(), platform(), group, field); });
     }
   }
 
-  /// Two columns of boxes with a gap between, rows aligned.
+  /// Two columns of fields with a gap between, rows aligned.
   static QGridLayout* BoxGrid() {
     auto* grid = new QGridLayout;
     grid->setColumnMinimumWidth(kSecondColumn - 1, 12);
@@ -202,7 +202,7 @@ class MemberSizeForm : public ToolWindow {
   QLabel* GradeLabel(const std::string* text) {
     auto* label = Named("Grade", new QLabel);
     label->setWordWrap(true);
-    // Room for the types of most files, so that the boxes below stay where they are.
+    // Room for the types of most files, so that the fields below stay where they are.
     label->setMinimumHeight(label->fontMetrics().lineSpacing() * 3);
     label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     binding().Text(label, text);
@@ -264,7 +264,7 @@ class MemberSizeForm : public ToolWindow {
     return area;
   }
 
-  static constexpr int kSecondColumn = 3;  ///< of a grid of boxes
+  static constexpr int kSecondColumn = 3;  ///< of a grid of fields
 
   MemberSizeWindow record_;
   QPushButton* firstWidth_ = nullptr;

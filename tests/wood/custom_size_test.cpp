@@ -59,8 +59,8 @@ TEST_F(CustomSizeTest, TypedStressesWaitForOk) {
   AcceptPair(2, 4);
   Select(MemberGroup::Top);
   window.Group(MemberGroup::Top).fa = "900";
-  for (const GroupBox box : {GroupBox::Fa, GroupBox::Ft, GroupBox::E}) {
-    EditGroupBox(window, session, platform, MemberGroup::Top, box);
+  for (const GroupField field : {GroupField::Fa, GroupField::Ft, GroupField::E}) {
+    EditGroupField(window, session, platform, MemberGroup::Top, field);
   }
   EXPECT_EQ(Group(MemberGroup::Top).GroupFa.value(), 0.0F);
   EXPECT_EQ(window.Group(MemberGroup::Top).size, "2X4");

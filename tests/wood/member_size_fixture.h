@@ -34,15 +34,15 @@ class MemberSizeTest : public testing::Test {
   void Select(MemberGroup group) { SelectGroupSize(window, session, platform, group); }
   void TypeB(MemberGroup group, const std::string& text) {
     window.Group(group).b = text;
-    EditGroupBox(window, session, platform, group, GroupBox::B);
+    EditGroupField(window, session, platform, group, GroupField::B);
   }
   void TypeD(MemberGroup group, const std::string& text) {
     window.Group(group).d = text;
-    EditGroupBox(window, session, platform, group, GroupBox::D);
+    EditGroupField(window, session, platform, group, GroupField::D);
   }
   void TypeArea(MemberGroup group, const std::string& text) {
     window.Group(group).area = text;
-    EditGroupBox(window, session, platform, group, GroupBox::Area);
+    EditGroupField(window, session, platform, group, GroupField::Area);
   }
   void TypeBeam(const std::string& b, const std::string& d) {
     window.beam.b = b;

@@ -43,8 +43,8 @@ void ExpectCleanNumber(const std::string& text) {
 void StepDataBase(Chance& chance, WoodDataBaseWindow& window, SessionState& session,
                   RecordingPlatform& platform) {
   FactorPanel& panel = window.panel;
-  std::string FactorPanel::*const boxes[] = {&FactorPanel::repetitive, &FactorPanel::loadDuration,
-                                             &FactorPanel::shearCondition, &FactorPanel::flatUse};
+  std::string FactorPanel::*const fields[] = {&FactorPanel::repetitive, &FactorPanel::loadDuration,
+                                              &FactorPanel::shearCondition, &FactorPanel::flatUse};
   const std::function<void()> steps[] = {
       [&] { ChooseFamily(window, session, platform, kWoodFamilies[chance.Int(0, 2)].family); },
       [&] { ChooseSpeciesFile(window, session, platform, chance.Int(-1, 28)); },
@@ -58,7 +58,7 @@ void StepDataBase(Chance& chance, WoodDataBaseWindow& window, SessionState& sess
         AnswerFactorPair(window, platform, static_cast<FactorPair>(chance.Int(0, 2)),
                          chance.Bool());
       },
-      [&] { panel.*boxes[chance.Int(0, 3)] = chance.Text(); },
+      [&] { panel.*fields[chance.Int(0, 3)] = chance.Text(); },
       [&] { CalculateFactors(window, platform); },
       [&] { AcceptFactors(window, session, platform); },
       [&] { CancelFactors(window); },
@@ -103,9 +103,9 @@ void StepMemberSize(Chance& chance, MemberSizeWindow& window, SessionState& sess
       [&] { AcceptSize(window, session, platform); },
       [&] { SelectGroupSize(window, session, platform, group); },
       [&] {
-        const int box = chance.Int(0, 5);
-        panel.*groupBoxes[box] = chance.Text();
-        EditGroupBox(window, session, platform, group, static_cast<GroupBox>(box));
+        const int field = chance.Int(0, 5);
+        panel.*groupBoxes[field] = chance.Text();
+        EditGroupField(window, session, platform, group, static_cast<GroupField>(field));
       },
       [&] {
         window.beam.*beamBoxes[chance.Int(0, 5)] = chance.Text();
@@ -143,7 +143,7 @@ TEST(RandomCommands, CalculatorKeepsTheMemberFiniteAndItsTextsClean) {
       ExpectCleanNumber(window.selection.dressedB);
       ExpectCleanNumber(window.selection.dressedD);
     }
-    // Shown afresh, every box is the program's own text.
+    // Shown afresh, every field is the program's own text.
     OpenMemberSize(window, session, platform);
     for (const GroupPanel& p : window.groups) {
       for (const std::string* text : {&p.fa, &p.ft, &p.e, &p.b, &p.d, &p.area}) {
