@@ -32,6 +32,7 @@ class BoltForm : public ToolWindow {
     setWindowTitle("Bolt and Rod Connectors");
     OpenBoltWindow(record_, session(), platform());
     AddMenus();
+    AddStatusLine();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* columns = new QHBoxLayout(area);

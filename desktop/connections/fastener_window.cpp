@@ -16,6 +16,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
+#include "desktop/kit/text.h"
 #include "desktop/windows.h"
 
 namespace lignara {
@@ -32,6 +33,7 @@ class FastenerForm : public ToolWindow {
     setWindowTitle("Fastener Data Base");
     OpenFastenerDataBase(record_);
     AddMenus();
+    AddStatusLine();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* rows = new QVBoxLayout(area);
@@ -44,6 +46,12 @@ class FastenerForm : public ToolWindow {
     columns->addLayout(Strengths(), 1);
     rows->addLayout(columns, 1);
     rows->addLayout(Commands(area));
+  }
+
+  /// The kind and the size chosen.
+  QString DocumentName() const override {
+    const QString kind = PlainCaption(EntryOf(record_.kind).caption);
+    return (kind + " " + ToQt(record_.sizes.Chosen())).simplified();
   }
 
  private:

@@ -18,6 +18,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
+#include "desktop/kit/text.h"
 #include "desktop/windows.h"
 #include "glulam/combination_files.h"
 #include "glulam/glulam_columns.h"
@@ -83,6 +84,7 @@ class GlulamForm : public ToolWindow {
     setWindowTitle("Glued-Laminated Member Data Base");
     OpenGlulamWindow(record_, session(), platform());
     AddMenus();
+    AddStatusLine();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* columns = new QGridLayout(area);
@@ -97,6 +99,12 @@ class GlulamForm : public ToolWindow {
     binding().Press(done, [this] { TransferGlulamSelection(record_, session(), platform()); });
     choices->addWidget(done);
     SetReturnButton(area, done);
+  }
+
+  /// The combination chosen, or the window's own name before.
+  QString DocumentName() const override {
+    const QString symbol = ToQt(record_.combinations.Chosen()).trimmed();
+    return symbol.isEmpty() ? windowTitle() : "Glu-Lam " + symbol;
   }
 
   void CloseControl() override { ExitGlulam(platform()); }

@@ -27,6 +27,7 @@ class PlyForm : public ToolWindow {
     setWindowTitle("Ply Wood");
     OpenPlyWindow(record_);
     AddMenus();
+    AddStatusLine();
     auto* area = new QWidget;
     setCentralWidget(area);
     auto* columns = new QHBoxLayout(area);
@@ -34,6 +35,11 @@ class PlyForm : public ToolWindow {
     columns->addLayout(Strip());
     columns->addLayout(Panels(), 1);
     strip_[0]->setFocus();
+  }
+
+  /// The panel that is shown: its report is what is saved.
+  QString DocumentName() const override {
+    return record_.open ? ToQt(PlyPanelKindOf(*record_.open).caption).trimmed() : windowTitle();
   }
 
  private:

@@ -66,6 +66,13 @@ class WoodDataBaseForm : public ToolWindow {
     columns->addLayout(work);
   }
 
+  /// The grade chosen, or the window's own name before.
+  QString DocumentName() const override {
+    const QStringList chosen = {ToQt(record_.files.Chosen()), ToQt(record_.grades.Chosen())};
+    const QString name = chosen.join(' ').simplified();
+    return name.isEmpty() ? windowTitle() : name;
+  }
+
   void CloseControl() override { CancelSelection(record_, platform()); }
 
  private:

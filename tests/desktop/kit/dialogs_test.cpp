@@ -99,6 +99,31 @@ TEST_F(SaveDialogTest, SaysThatAPdfIsWrittenWhereThereIsNoPrinter) {
   EXPECT_EQ(FromQt(reader.caption), "There is no printer: a PDF file is written");
 }
 
+TEST(DocumentName, IsWhatWasChosenInADataBase) {
+  OpenDesktop desktop;
+  desktop.Play({"press \"Glu-Lam Data Base\"", "window GL"});
+  EXPECT_EQ(desktop.Window("GL")->DocumentName(), desktop.Window("GL")->windowTitle());
+  desktop.Play(
+      {"press \"Visually Graded Western Species\"", "select \"Combination Symbol\" \"24F-V4\""});
+  EXPECT_EQ(FromQt(desktop.Window("GL")->DocumentName()), "Glu-Lam 24F-V4");
+  desktop.Play(
+      {"window main", "press \"Fastener Data Base\"", "window FASTENER", "press \"Lag Screws\""});
+  EXPECT_EQ(FromQt(desktop.Window("FASTENER")->DocumentName()), "Lag Screws Dia. 1/4");
+  desktop.Play({"window main", "press \"Ply Wood\""});
+  EXPECT_EQ(FromQt(desktop.Window("ply")->DocumentName()), "Ply Wood");
+  desktop.Play({"window ply", "press \"Sub Floors\""});
+  EXPECT_EQ(FromQt(desktop.Window("ply")->DocumentName()), "Sub Floors (APA Rated Sheathing)");
+}
+
+TEST(DocumentName, IsTheGradeInTheWoodDataBase) {
+  OpenDesktop desktop;
+  desktop.Play(
+      {"press \"Pure Wood Data Base\"", "window QUESTION", "press \"BEAM\"", "window WTYPETR",
+       "press \"Wood Type Data Base\"", "window wdb", "press \"Western Woods\"",
+       "select \"Data Base File to Load\" \"Douglas Fir-Larch\"", "select \"Grades\" \"No.2\""});
+  EXPECT_EQ(FromQt(desktop.Window("wdb")->DocumentName()), "Douglas Fir-Larch No.2");
+}
+
 TEST(DocumentName, IsTheTitleOfTheTrussReportOrItsType) {
   OpenDesktop desktop;
   desktop.OpenKingPost();
