@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QTest>
 #include <map>
 #include <set>
 
@@ -126,6 +127,31 @@ TEST_F(LumberWindowsTest, TabGoesFromFamilyToFileToGradeToFactors) {
   OpenDataBase();
   desktop.Play({"press \"Machine Rated\""});
   EXPECT_EQ(Walk("wdb", 2), QStringList({"Data Base File to Load", "Grades"}));
+}
+
+/// Two clicks of the mouse on a row, as a hand makes them.
+void DoubleClick(const QListWidget* list, int row) {
+  const QPoint place = list->visualItemRect(list->item(row)).center();
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+}
+
+TEST_F(LumberWindowsTest, ADoubleClickOnAGradeTakesIt) {
+  DoubleClick(List(OpenDataBase(), "Grades"), 2);
+  // The button is let go over what is there then.
+  QTest::mouseRelease(desktop.Window("WTYPETR"), Qt::LeftButton);
+  EXPECT_EQ(desktop.platform.FindWindow("wdb"), nullptr) << "as \"OK\" does";
+  EXPECT_EQ(desktop.session.Member.GradeText, "No.1");
+}
+
+TEST_F(LumberWindowsTest, ReturnOnAGradeTakesIt) {
+  OpenDataBase();
+  desktop.Play({"key \"Grades\" Down"});
+  desktop.PressKey("wdb", Qt::Key_Return);
+  EXPECT_EQ(desktop.platform.FindWindow("wdb"), nullptr) << "as \"OK\" does";
+  EXPECT_EQ(desktop.session.Member.GradeText, "No.1");
 }
 
 TEST_F(LumberWindowsTest, TheFocusFollowsTheFactorPanel) {
