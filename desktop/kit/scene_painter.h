@@ -19,6 +19,7 @@ struct LineLook {
   bool lit = false;
   double thinness = 1;    ///< of the stroke, where lines are dense
   bool hairline = false;  ///< as thin as the paper or the screen can show
+  bool doubted = false;
 };
 
 /// Draws a line in its look; all widths go with the height of the painter's letters.
