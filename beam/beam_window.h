@@ -12,6 +12,7 @@
 #include "beam/beam_solver.h"
 #include "beam/load_kinds.h"
 #include "beam/single_span_beam.h"
+#include "statics/comparison.h"
 
 namespace lignara {
 
@@ -92,6 +93,7 @@ struct BeamWindow {
   StressCheck check;
   BeamDiagrams diagrams;
   HeaderPanel header;
+  StaticsCheck statics;  ///< of the results shown
 
   std::string& Field(LoadField field) { return loadFields[static_cast<std::size_t>(field)]; }
   const std::string& Field(LoadField field) const {

@@ -50,45 +50,41 @@ void WriteResults(Report& report, const BeamWindow& window) {
   report.Line("Max. Deflection = " + NumberOf(window.maxDeflection, kFourDecimals) + " in");
 }
 
-void WriteInput(Report& report, const BeamWindow& window) {
-  report.Line("INPUT DATA");
-  report.Line("Member = " + window.memberName);
-  report.Line("Length = " + NumberOf(window.length));
-  report.Line("Unbraced Length = " + Shown(UnbracedLength(window)));
-  report.Line("Youngs Modulus = " + NumberOf(window.modulus.text));
-  report.Line("Moment of Inertia = " + NumberOf(window.inertia.text) + " in^4");
-  report.Line("Gross Area = " + NumberOf(window, StressField::Area) + " in^2");
-  report.Line("Shear Area = " + NumberOf(window, StressField::ShearArea) + " in^2");
-  report.Line("Section Modulus = " + NumberOf(window, StressField::SectionModulus) + " in^3");
-  report.Line("Member depth = " + NumberOf(window, StressField::D) + " in");
-  report.Line("Member width = " + NumberOf(window, StressField::B) + " in");
+std::vector<std::string> InputLines(const BeamWindow& window) {
+  return {"Member = " + window.memberName,
+          "Length = " + NumberOf(window.length),
+          "Unbraced Length = " + Shown(UnbracedLength(window)),
+          "Youngs Modulus = " + NumberOf(window.modulus.text),
+          "Moment of Inertia = " + NumberOf(window.inertia.text) + " in^4",
+          "Gross Area = " + NumberOf(window, StressField::Area) + " in^2",
+          "Shear Area = " + NumberOf(window, StressField::ShearArea) + " in^2",
+          "Section Modulus = " + NumberOf(window, StressField::SectionModulus) + " in^3",
+          "Member depth = " + NumberOf(window, StressField::D) + " in",
+          "Member width = " + NumberOf(window, StressField::B) + " in"};
 }
 
-void WriteSupports(Report& report, const SingleSpanBeam& beam) {
-  report.Line(std::string("Left support is ") + SupportWord(beam.leftSupport) + ".");
-  report.Line(std::string("Right support is ") + SupportWord(beam.rightSupport) + ".");
-  report.Line(beam.loadAxis == 0 ? "Moment is about strong axis." : "Moment is about weak axis.");
+std::vector<std::string> SupportLines(const SingleSpanBeam& beam) {
+  return {std::string("Left support is ") + SupportWord(beam.leftSupport) + ".",
+          std::string("Right support is ") + SupportWord(beam.rightSupport) + ".",
+          beam.loadAxis == 0 ? "Moment is about strong axis." : "Moment is about weak axis."};
+}
+
+void WriteLines(Report& report, const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) report.Line(line);
 }
 
 /// The heading stands again on each further page that the loads take.
 void WriteLoads(Report& report, const SingleSpanBeam& beam) {
   report.Heads({"APPLIED LOADS"});
-  for (int load = 1; load <= beam.loadCount.value(); ++load) {
-    const LoadKindInfo& kind = LoadKindOf(beam.KindOf(load));
-    report.Line("Load No. (" + std::to_string(load) + ")");
-    report.Line(kind.reportWord);
-    for (const LoadReportLine& line : kind.reportLines) {
-      report.Line(line.before + Shown((beam.*line.array)[load]) + line.after);
-    }
-  }
+  WriteLines(report, BeamLoadLines(beam));
 }
 
 void WriteHead(Report& report, const BeamWindow& window, const SessionState& session) {
   WriteHeader(report, session.Header);
   WriteStressRows(report, window.check);
   WriteResults(report, window);
-  WriteInput(report, window);
-  WriteSupports(report, window.beam);
+  report.Line("INPUT DATA");
+  WriteLines(report, BeamStructureLines(window));
 }
 
 /// What a page of Letter holds at ten points, with room to spare.
@@ -146,6 +142,25 @@ void WriteAxialSense(Report& report, const SingleSpanBeam& beam) {
 }
 
 }  // namespace
+
+std::vector<std::string> BeamStructureLines(const BeamWindow& window) {
+  std::vector<std::string> lines = InputLines(window);
+  for (std::string& line : SupportLines(window.beam)) lines.push_back(std::move(line));
+  return lines;
+}
+
+std::vector<std::string> BeamLoadLines(const SingleSpanBeam& beam) {
+  std::vector<std::string> lines;
+  for (int load = 1; load <= beam.loadCount.value(); ++load) {
+    const LoadKindInfo& kind = LoadKindOf(beam.KindOf(load));
+    lines.push_back("Load No. (" + std::to_string(load) + ")");
+    lines.push_back(kind.reportWord);
+    for (const LoadReportLine& line : kind.reportLines) {
+      lines.push_back(line.before + Shown((beam.*line.array)[load]) + line.after);
+    }
+  }
+  return lines;
+}
 
 Report BeamTextReport(const BeamWindow& window, const SessionState& session) {
   Report report = NewReport(session);

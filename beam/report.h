@@ -11,6 +11,10 @@ void PrintBeamDiagrams(const BeamWindow& window, const SessionState& session, Pl
 /// "Files", "Save Output to Text File...": the text alone.
 void SaveBeamReport(const BeamWindow& window, const SessionState& session, Platform& platform);
 
+/// Member and supports, and the loads, as lines of the report.
+std::vector<std::string> BeamStructureLines(const BeamWindow& window);
+std::vector<std::string> BeamLoadLines(const SingleSpanBeam& beam);
+
 /// The text of the report.
 Report BeamTextReport(const BeamWindow& window, const SessionState& session);
 

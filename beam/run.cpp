@@ -1,6 +1,8 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/number_text.h"
+#include "beam/beam_statics.h"
 #include "beam/beam_window.h"
 #include "beam/diagrams.h"
 #include "beam/support_class.h"
@@ -85,6 +87,7 @@ void RunBeam(BeamWindow& window, SessionState& session, Platform& platform) {
   if (outcome != SolveOutcome::Solved) return;
   window.runInputs = RunInputs(window);
   ShowDiagrams(window, session);
+  CheckBeamStatics(window, session);
 }
 
 }  // namespace lignara

@@ -19,7 +19,7 @@ struct KindRow {
   double smallest;  ///< the last decimal of the pattern
 };
 
-constexpr std::size_t kKinds = 6;
+constexpr std::size_t kKinds = 7;
 constexpr std::array<KindRow, kKinds> kKindRows = {{
     {"member forces in lbs", "lbs", "0.00", 0.01},
     {"reactions in lbs", "lbs", "0.00", 0.01},
@@ -27,6 +27,7 @@ constexpr std::array<KindRow, kKinds> kKindRows = {{
     {"shears in lbs", "lbs", "0.00", 0.01},
     {"moments in ft-lbs", "ft-lbs", "0.00", 0.01},
     {"end moments in ft-lbs", "ft-lbs", "0.00", 0.01},
+    {"deflections in inches", "in", "0.0000", 0.0001},
 }};
 
 std::size_t PlaceOf(ComparedKind kind) { return static_cast<std::size_t>(kind); }

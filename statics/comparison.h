@@ -9,7 +9,15 @@
 namespace lignara {
 
 /// What a compared value is. A difference is measured against the largest value of its kind.
-enum class ComparedKind { MemberForce, Reaction, Deflection, Shear, Moment, EndMoment };
+enum class ComparedKind {
+  MemberForce,
+  Reaction,
+  Deflection,
+  Shear,
+  Moment,
+  EndMoment,
+  BeamDeflection  ///< the windows of beams show one decimal more
+};
 
 /// A result of a run beside the same result by exact statics, signs included, in the unit of its
 /// kind: lbs, ft-lbs or inches.
