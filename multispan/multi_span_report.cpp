@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <iterator>
 
 #include "app/number_pattern.h"
 #include "app/report_file.h"
@@ -31,18 +30,47 @@ constexpr InputLine kInputLines[] = {
 
 std::string Value(const Float32& number) { return FormatNumber(number, kTwoDecimals); }
 
-void WriteSpan(Report& report, const MultiSpanModel& model, int j) {
+using Lines = std::vector<std::string>;
+
+Lines SpanLines(const MultiSpanModel& model, int j) {
   const auto span = static_cast<std::size_t>(j);
-  report.Heads({"MEMBER(" + std::to_string(j) + ") = " + model.spanMember[span]});
-  report.Line(model.spanType[span]);
+  Lines lines = {"MEMBER(" + std::to_string(j) + ") = " + model.spanMember[span],
+                 model.spanType[span]};
   for (const InputLine& line : kInputLines) {
-    report.Line(line.label + Value((model.*line.value)[j]) + line.unit);
+    lines.push_back(line.label + Value((model.*line.value)[j]) + line.unit);
   }
-  report.Line("Uniform Load = " + FormatNumber(model.spanUniform[j], kTwoDecimals) + " lbs/ft");
+  return lines;
+}
+
+Lines LoadLines(const MultiSpanModel& model, int j) {
+  const auto span = static_cast<std::size_t>(j);
+  Lines lines = {"Uniform Load = " + FormatNumber(model.spanUniform[j], kTwoDecimals) + " lbs/ft"};
   for (int k = 1; k <= model.pointCount[j].value(); ++k) {
-    report.Line("Point Load = " + Value(model.pointLoad[span][k]) + " lbs at " +
-                Value(model.pointX[span][k]) + " ft from left end.");
+    lines.push_back("Point Load = " + Value(model.pointLoad[span][k]) + " lbs at " +
+                    Value(model.pointX[span][k]) + " ft from left end.");
   }
+  return lines;
+}
+
+const char* SupportWord(EndSupport support) {
+  if (support == EndSupport::None) return "free";
+  return support == EndSupport::Fixed ? "fixed" : "pinned";
+}
+
+void Append(Lines& lines, const Lines& more) {
+  lines.insert(lines.end(), more.begin(), more.end());
+}
+
+bool HasSpan(const MultiSpanModel& model, int j) {
+  return j <= model.spanCount.value() && HasMultiSpan(j);
+}
+
+/// The name of the member stands again where its lines go on on a further page.
+void WriteSpan(Report& report, const MultiSpanModel& model, int j) {
+  Lines lines = SpanLines(model, j);
+  Append(lines, LoadLines(model, j));
+  report.Heads({lines.front()});
+  for (std::size_t i = 1; i < lines.size(); ++i) report.Line(lines[i]);
 }
 
 /// The headings of the list stand again on paper where their lines go on on a further page.
@@ -93,6 +121,23 @@ void AddPages(Report& report, const std::vector<DiagramPage>& pages) {
 
 }  // namespace
 
+Lines MultiSpanStructureLines(const MultiSpanModel& model) {
+  Lines lines;
+  for (int j = 1; HasSpan(model, j); ++j) Append(lines, SpanLines(model, j));
+  lines.push_back(std::string("Far left support is ") + SupportWord(model.farLeftSupport) + ".");
+  lines.push_back(std::string("Far right support is ") + SupportWord(model.farRightSupport) + ".");
+  return lines;
+}
+
+Lines MultiSpanLoadLines(const MultiSpanModel& model) {
+  Lines lines;
+  for (int j = 1; HasSpan(model, j); ++j) {
+    lines.push_back("Span " + std::to_string(j));
+    Append(lines, LoadLines(model, j));
+  }
+  return lines;
+}
+
 Report MultiSpanReport(const MultiSpanResults& window, const SessionState& session) {
   const MultiSpanModel& model = session.MultiSpan;
   Report report = NewReport(session);
@@ -101,9 +146,7 @@ Report MultiSpanReport(const MultiSpanResults& window, const SessionState& sessi
   for (const std::string& row : window.stressRows) WriteStressRow(report, row);
   report.Line("INPUT DATA");
   report.Line();
-  for (int j = 1; j <= model.spanCount.value() && HasMultiSpan(j); ++j) {
-    WriteSpan(report, model, j);
-  }
+  for (int j = 1; HasSpan(model, j); ++j) WriteSpan(report, model, j);
   return report;
 }
 

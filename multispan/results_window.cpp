@@ -4,6 +4,7 @@
 
 #include "app/number_pattern.h"
 #include "multispan/diagrams.h"
+#include "multispan/multi_span_statics.h"
 
 namespace lignara {
 namespace {
@@ -48,7 +49,9 @@ const ResultCaptions& ResultCaptionsOf(int unitSystem) {
 }
 
 void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session) {
+  const bool staticsOpen = window.statics.open;
   window = MultiSpanResults();
+  window.statics.open = staticsOpen;
   window.run = session.MultiSpanRun;
   ShowUnbracedLength(window, session);
   if (window.run == nullptr) return;
@@ -57,6 +60,7 @@ void ShowMultiSpanResults(MultiSpanResults& window, const SessionState& session)
   window.maxMomentPlace = "at " + FormatNumber(window.run->maximum.location, kTableNumber) + " " +
                           ResultCaptionsOf(session.unitSystem.value()).length;
   DrawDiagrams(window);
+  CheckMultiSpanStatics(window, session);
 }
 
 void RefreshMultiSpanResults(MultiSpanResults& window, const SessionState& session) {

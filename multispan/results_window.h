@@ -11,6 +11,8 @@
 #include "app/session_state.h"
 #include "multispan/beam_deflection.h"
 #include "multispan/multi_span_solution.h"
+#include "statics/beam.h"
+#include "statics/comparison.h"
 
 namespace lignara {
 
@@ -79,6 +81,9 @@ struct MultiSpanResults {
   bool runOlder = false;     ///< the beam has changed since the run
   bool stressOlder = false;  ///< what the list "Stress Check" was made from has changed since
   std::string status;        ///< says so in the status line
+
+  BeamStatics exact;     ///< of the same beam under the same loads
+  StaticsCheck statics;  ///< what of the run agrees with it
 };
 
 /// The captions that depend on the system of units.
@@ -134,6 +139,9 @@ StressInputs StressInputsOf(const MultiSpanModel& model);
 
 // Reports (multi_span_report.cpp).
 
+/// Spans and far supports, and the loads of the spans that have some, line by line.
+std::vector<std::string> MultiSpanStructureLines(const MultiSpanModel& model);
+std::vector<std::string> MultiSpanLoadLines(const MultiSpanModel& model);
 /// The lines of the report, without diagrams.
 Report MultiSpanReport(const MultiSpanResults& window, const SessionState& session);
 /// Menu "Files", "Print Report".

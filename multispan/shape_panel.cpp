@@ -1,5 +1,6 @@
 #include "app/number_pattern.h"
 #include "multispan/diagrams.h"
+#include "multispan/multi_span_statics.h"
 #include "multispan/results_window.h"
 
 namespace lignara {
@@ -11,6 +12,7 @@ void ShowDeflectedShape(MultiSpanResults& window, const SessionState& session, P
   window.shape.largest = FormatNumber(window.shape.shape.largest, "0.0000");
   window.shape.open = true;
   MoveShapeStation(window, 0);
+  CheckShapeStatics(window, session);
 }
 
 void MoveShapeStation(MultiSpanResults& window, int station) {
