@@ -26,6 +26,7 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/statics_panel.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
 
@@ -73,11 +74,12 @@ class BeamForm : public ToolWindow {
   QGroupBox* AppliedLoads();
   QGroupBox* Output();
   QWidget* Panels();
+  StaticsView Statics();
   QPushButton* Button(const QString& caption, Binding::Command command);
   QString Caption(const char* shown) { return CaptionInUnits(shown, session().unitSystem.value()); }
   bool AnyPanelOpen() const {
     return record_.propertiesOpen || record_.check.open || record_.diagrams.open ||
-           record_.header.open;
+           record_.header.open || record_.statics.open;
   }
 
   BeamWindow record_;
@@ -161,6 +163,7 @@ QLayout* BeamForm::ResultColumn() {
   results->addWidget(AppliedLoads(), 1);
   results->addWidget(Output());
   rows->addLayout(results);
+  rows->addWidget(MakeStaticsLine(Statics(), binding()));
   rows->addWidget(Panels(), 5);
   return rows;
 }
@@ -344,6 +347,11 @@ QGroupBox* BeamForm::Output() {
   return panel;
 }
 
+StaticsView BeamForm::Statics() {
+  return {record_.statics, "MLSP_statics", [this] { return session().Header.Title; },
+          [this] { return IsOutOfDate(record_); }};
+}
+
 QWidget* BeamForm::Panels() {
   auto* area = new QScrollArea;
   area->setWidgetResizable(true);
@@ -358,6 +366,7 @@ QWidget* BeamForm::Panels() {
   auto* inner = new QWidget;
   auto* rows = new QVBoxLayout(inner);
   rows->setContentsMargins(0, 0, 0, 0);
+  rows->addWidget(MakeStaticsPanel(Statics(), binding(), session(), platform()));
   rows->addWidget(MakeDiagramsPanel(record_, binding(), platform()));
   rows->addWidget(MakeStressCheckPanel(record_, binding()));
   rows->addWidget(MakePropertiesPanel(record_, binding()));

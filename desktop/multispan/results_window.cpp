@@ -21,6 +21,7 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/statics_panel.h"
 #include "desktop/kit/table.h"
 #include "desktop/kit/text.h"
 #include "desktop/multispan/arrow_button.h"
@@ -47,6 +48,7 @@ class ResultsForm : public ToolWindow {
     upper->addLayout(Tables());
     upper->addLayout(Diagrams(), 1);
     rows->addLayout(upper, 3);
+    rows->addWidget(MakeStaticsLine(Statics(), binding()));
     rows->addLayout(Panels(), 1);
     binding().Text(AddStatusText("Status"), &record_.status);
     resize(940, 680);
@@ -214,9 +216,15 @@ class ResultsForm : public ToolWindow {
     return grid;
   }
 
+  StaticsView Statics() {
+    return {record_.statics, "MDOUTPUT_statics", [this] { return session().Header.Title; },
+            [this] { return record_.runOlder; }};
+  }
+
   QLayout* Panels() {
     auto* row = new QHBoxLayout;
     row->addWidget(StressPanel(), 2);
+    row->addWidget(MakeStaticsPanel(Statics(), binding(), session(), platform()), 2);
     row->addWidget(ShapePanelBox(), 2);
     row->addWidget(MakeHeaderPanel(record_.header, binding(), session()), 1);
     return row;

@@ -23,7 +23,7 @@ class BeamWindowTest : public testing::Test {
     desktop.Play({"enter \"A(ft)\" 5", "enter \"P(lbs)\" 1000", "press \"Add New\""});
   }
   void OpenAllPanels() {
-    desktop.Play({"press \"RUN\"", "press \"View Diag.\"",
+    desktop.Play({"press \"RUN\"", "press \"Statics Check\"", "press \"View Diag.\"",
                   "press \"More values reqd. for stress check\"",
                   "menu \"Files\" \"Project Description...\""});
     QApplication::processEvents();
@@ -91,6 +91,21 @@ TEST_F(BeamWindowTest, WorksByKeyboardAlone) {
   EXPECT_EQ(Read("read \"Diagrams\" \"(ft)\""), "value \"0.020\"");
   desktop.PressKey("MLSP", Qt::Key_Escape);
   EXPECT_EQ(Read("state \"Diagrams\""), "state hidden enabled");
+}
+
+TEST_F(BeamWindowTest, OpensAndClosesTheStaticsCheckByKeyboard) {
+  AddPointLoad();
+  desktop.PressKey("MLSP", Qt::Key_F5);
+  TabTo("Statics Check");
+  desktop.PressKey("MLSP", Qt::Key_Space);
+  EXPECT_EQ(Read("read \"Statics Check\" \"Result\""),
+            "value \"Agrees with statics within 0.00 %.\"");
+  EXPECT_EQ(FromQt(desktop.FocusIn("MLSP")), "Differences");
+  EXPECT_EQ(Read("rows \"Statics Check\" \"Differences\""),
+            "row 4 \"Max. Def.\" \"36.0000\" \"36.0000\" \"0.00 %\"");
+  desktop.PressKey("MLSP", Qt::Key_Escape);
+  EXPECT_EQ(Read("state \"Statics Check\" \"Differences\""), "state hidden enabled");
+  EXPECT_EQ(FromQt(desktop.FocusIn("MLSP")), "Statics Check");
 }
 
 TEST_F(BeamWindowTest, EmptiesAFieldThatTheTabKeyEnters) {

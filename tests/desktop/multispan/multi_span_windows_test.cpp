@@ -50,7 +50,8 @@ class MultiSpanWindowsTest : public testing::Test {
 
   ToolWindow* OpenAllPanels() {
     ToolWindow* window = OpenResults();
-    desktop.Play({"menu \"Show Deflected Shape...\"", "menu \"Files\" \"Project Description...\""});
+    desktop.Play({"menu \"Show Deflected Shape...\"", "menu \"Files\" \"Project Description...\"",
+                  "press \"Statics Check\""});
     QApplication::processEvents();
     return window;
   }
