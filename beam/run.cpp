@@ -1,7 +1,6 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
-#include "app/number_text.h"
 #include "beam/beam_statics.h"
 #include "beam/beam_window.h"
 #include "beam/diagrams.h"
