@@ -286,7 +286,7 @@ QLayout* BeamForm::LoadCommands() {
   auto* grid = new QGridLayout;
   QPushButton* add = Button("Add &New", [this] { AddLoad(record_, platform()); });
   QPushButton* edit = Button("&Edit", [this] { EditLoad(record_, platform()); });
-  QPushButton* remove = Button("Dele&te", [this] { DeleteLoad(record_, platform()); });
+  QPushButton* remove = Button("De&lete", [this] { DeleteLoad(record_, platform()); });
   binding().Enabled(add, [this] { return record_.addEnabled; });
   for (QPushButton* button : {edit, remove}) {
     binding().Enabled(button, [this] { return record_.editEnabled; });

@@ -126,7 +126,7 @@ QLayout* MakeCommands(const StaticsView& view, Binding& binding, const SessionSt
                       Platform& platform) {
   const StaticsCheck* check = &view.check;
   auto* rows = new QVBoxLayout;
-  auto* save = new QPushButton("Sa&ve Table...");
+  auto* save = new QPushButton("Save Ta&ble...");
   binding.Press(
       save, [check, title = view.title, &platform] { SaveDifferences(*check, title(), platform); });
   binding.Enabled(save, [check] { return !check->line.empty(); });

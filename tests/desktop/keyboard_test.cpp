@@ -241,6 +241,14 @@ TEST_F(MnemonicTest, AreDistinctInTheTrussWithAllItsPanels) {
   ExpectDistinct("TRUSS");
 }
 
+TEST_F(MnemonicTest, AreDistinctInTheSingleSpanBeamWithAllItsPanels) {
+  desktop.Play({"press \"Single Span Beams\"", "window MLSP", "press \"RUN\"",
+                "press \"Statics Check\"", "press \"View Diag.\"",
+                "press \"More values reqd. for stress check\"",
+                "menu \"Files\" \"Project Description...\""});
+  ExpectDistinct("MLSP");
+}
+
 TEST_F(MnemonicTest, AreDistinctInTheSmallWindows) {
   desktop.Play({"press \"Pure Wood Data Base\"", "menu \"Help\" \"About...\""});
   ExpectDistinct("QUESTION");
