@@ -79,7 +79,7 @@ fi
 
 headline "Sanitizers"
 if build asan; then
-  run_tests build/asan --tests-regex '^(core|desktop)$'
+  run_tests build/asan --tests-regex '^(core|desktop\..*)$'
 else
   count 1
 fi

@@ -21,7 +21,11 @@ void PaintSample(QPainter& painter, const QRectF& room, const LegendEntry& entry
   painter.setRenderHint(QPainter::Antialiasing);
   const double y = room.center().y();
   PaintLine(painter, {QPointF(room.left(), y), QPointF(room.right(), y)},
-            {entry.colour, entry.stroke, entry.warned, false, 1, entry.doubted}, palette);
+            {.colour = entry.colour,
+             .stroke = entry.stroke,
+             .warned = entry.warned,
+             .doubted = entry.doubted},
+            palette);
 }
 
 double LegendWidth(const std::vector<LegendEntry>& legend, const QFontMetricsF& metrics) {

@@ -22,6 +22,7 @@ class Monkey {
   void Play(int actions);
 
   ScriptPlatform& platform() { return platform_; }
+  QString folder() const { return directory_.path(); }
   int heard() const { return heard_; }
 
  private:
