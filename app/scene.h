@@ -22,8 +22,9 @@ struct NamedLine {
   double markX = 0, markY = 0;
   Colour colour = Colour::Black;
   Stroke stroke = Stroke::Plain;
-  bool warned = false;  ///< beyond what is allowed
-  bool lit = false;     ///< the one that the user has chosen
+  bool warned = false;   ///< beyond what is allowed
+  bool doubted = false;  ///< its value departs from statics
+  bool lit = false;      ///< the one that the user has chosen
   std::string name;
   NameSide side = NameSide::Above;
   int series = 0;
@@ -68,6 +69,7 @@ struct LegendEntry {
   Stroke stroke = Stroke::Plain;
   bool warned = false;
   std::string meaning;
+  bool doubted = false;
 
   bool operator==(const LegendEntry&) const = default;
 };

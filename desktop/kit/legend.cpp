@@ -21,7 +21,7 @@ void PaintSample(QPainter& painter, const QRectF& room, const LegendEntry& entry
   painter.setRenderHint(QPainter::Antialiasing);
   const double y = room.center().y();
   PaintLine(painter, {QPointF(room.left(), y), QPointF(room.right(), y)},
-            {entry.colour, entry.stroke, entry.warned, false}, palette);
+            {entry.colour, entry.stroke, entry.warned, false, 1, entry.doubted}, palette);
 }
 
 double LegendWidth(const std::vector<LegendEntry>& legend, const QFontMetricsF& metrics) {

@@ -25,8 +25,9 @@ constexpr std::array<StrokeLook, 4> kStrokes = {{{Stroke::Plain, 2.0, Qt::SolidL
                                                  {Stroke::Fine, 1.6, Qt::SolidLine},
                                                  {Stroke::Dotted, 1.6, Qt::DotLine}}};
 
-/// The broad bands below a line: red below what is beyond its limit, the system's own colour of
-/// chosen things below the line that was chosen.
+/// The broad bands below a line: dashes of amber below what departs from statics, red below what is
+/// beyond its limit, the system's own colour of chosen things below the line that was chosen.
+constexpr double kDoubtedBand = 15;
 constexpr double kWarnedBand = 11;
 constexpr double kLitBand = 14;
 
@@ -34,8 +35,7 @@ double UnitOf(const QPainter& painter) {
   return QFontMetricsF(painter.font(), painter.device()).height() / 16;
 }
 
-QColor BandColour(const LineLook& look, const QPalette& palette) {
-  QColor colour = look.lit ? palette.color(QPalette::Highlight) : AlarmColour(palette);
+QColor BandColour(QColor colour, const QPalette& palette) {
   const bool dark = palette.color(QPalette::Base).lightness() < 128;
   colour.setAlpha(dark ? 170 : 100);
   return colour;
@@ -43,6 +43,14 @@ QColor BandColour(const LineLook& look, const QPalette& palette) {
 
 void PaintBand(QPainter& painter, const QLineF& line, const QColor& colour, double width) {
   painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::FlatCap));
+  painter.drawLine(line);
+}
+
+/// Short dashes, so that they are told from the other bands without colour.
+void PaintDashes(QPainter& painter, const QLineF& line, const QColor& colour, double width) {
+  QPen pen(colour, width, Qt::CustomDashLine, Qt::FlatCap);
+  pen.setDashPattern({0.35, 0.35});
+  painter.setPen(pen);
   painter.drawLine(line);
 }
 
@@ -63,7 +71,8 @@ class ScenePainter {
   void Paint() {
     for (const NamedLine& line : scene_.lines) {
       PaintLine(painter_, Drawn(line),
-                {line.colour, line.stroke, line.warned, line.lit, layout_.thinness}, palette_);
+                {line.colour, line.stroke, line.warned, line.lit, layout_.thinness, line.doubted},
+                palette_);
     }
     for (const SceneText& name : layout_.names) PaintCircle(scene_.lines[name.of]);
     for (const std::size_t load : layout_.loads) PaintLoad(scene_.loads[load]);
@@ -158,11 +167,18 @@ class ScenePainter {
 void PaintLine(QPainter& painter, const QLineF& line, const LineLook& look,
                const QPalette& palette) {
   const double unit = UnitOf(painter);
+  if (look.doubted) {
+    PaintDashes(painter, line, BandColour(WarningColour(palette), palette),
+                kDoubtedBand * look.thinness * unit);
+  }
   if (look.warned) {
-    PaintBand(painter, line, BandColour({look.colour, look.stroke, true, false}, palette),
+    PaintBand(painter, line, BandColour(AlarmColour(palette), palette),
               kWarnedBand * look.thinness * unit);
   }
-  if (look.lit) PaintBand(painter, line, BandColour(look, palette), kLitBand * unit);
+  if (look.lit) {
+    PaintBand(painter, line, BandColour(palette.color(QPalette::Highlight), palette),
+              kLitBand * unit);
+  }
   const auto stroke = std::find_if(kStrokes.begin(), kStrokes.end(), [&](const StrokeLook& entry) {
     return entry.stroke == look.stroke;
   });

@@ -18,6 +18,7 @@ struct LineLook {
   bool warned = false;
   bool lit = false;
   double thinness = 1;  ///< of the stroke, where lines are dense
+  bool doubted = false;
 };
 
 /// Draws a line in its look; all widths go with the height of the painter's letters.
