@@ -87,6 +87,7 @@ class SceneMaker {
     named.colour = paper_ ? Colour::Black : sense.colour;
     named.stroke = sense.stroke;
     named.warned = above_.count({member.family, member.index}) > 0;
+    named.doubted = !paper_ && departing_.count({member.family, member.index}) > 0;
     named.lit = IsLit(member);
     named.name = NameOf(member);
     named.side = SideOf(member.family);
@@ -146,10 +147,16 @@ class SceneMaker {
 
   void AddResults() {
     scene_.legend = TrussLegend(paper_);
-    const bool above = std::any_of(scene_.lines.begin(), scene_.lines.end(),
-                                   [](const NamedLine& line) { return line.warned; });
-    if (!above) scene_.legend.pop_back();
+    std::erase_if(scene_.legend, [this](const LegendEntry& entry) {
+      return (entry.warned && !Any(&NamedLine::warned)) ||
+             (entry.doubted && !Any(&NamedLine::doubted));
+    });
     if (IsOutOfDate(window_, session_)) scene_.note = "Forces are out of date: run again";
+  }
+
+  bool Any(bool NamedLine::*mark) const {
+    return std::any_of(scene_.lines.begin(), scene_.lines.end(),
+                       [mark](const NamedLine& line) { return line.*mark; });
   }
 
   const TrussWindow& window_;
@@ -157,6 +164,7 @@ class SceneMaker {
   const bool paper_;
   const TrussShape shape_;
   const MemberSet above_ = OverstressedMembers(window_);
+  const MemberSet departing_ = DepartingMembers(window_);
   const std::optional<Member> lit_ = LitMember(window_, session_);
   CanvasPainter painter_;
   std::vector<TopNode> nodes_;
@@ -177,6 +185,9 @@ std::vector<LegendEntry> TrussLegend(bool paper) {
     legend.push_back({paper ? Colour::Black : sense.colour, sense.stroke, false, sense.meaning});
   }
   legend.push_back({Colour::Black, Stroke::Plain, true, "Above allowable stress"});
+  if (!paper) {
+    legend.push_back({Colour::Black, Stroke::Plain, false, "Differs from statics", true});
+  }
   return legend;
 }
 

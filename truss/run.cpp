@@ -3,6 +3,7 @@
 #include "truss/results.h"
 #include "truss/run_inputs.h"
 #include "truss/stress_check.h"
+#include "truss/truss_statics.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -20,6 +21,7 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   AnalyseTruss(job);
   SHOW_REACTIONS(window);
   SHOW_AXIAL(window, session);
+  const EndReactions reactions = ReactionsOf(model);
 
   const DeflectionStep deflections = job.type.deflections;
   if (deflections != nullptr) deflections(job, window.deflectionRows);
@@ -30,6 +32,7 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   }
 
   model.RunState = model.ErrorFlag.value() != 0 ? 0 : 1;
+  CheckTrussStatics(window, session, reactions);
   window.view.resultsShown = true;
   RecolourTruss(window, session, platform);
 }

@@ -9,6 +9,7 @@
 #include "app/list_rows.h"
 #include "app/platform.h"
 #include "app/session_state.h"
+#include "statics/comparison.h"
 #include "truss/active_model.h"
 #include "truss/members.h"
 
@@ -69,6 +70,10 @@ struct TrussWindow {
   std::vector<std::string> stressRows;
   std::vector<MemberStress> stresses;  ///< of the last run; none where it had no members
   std::vector<double> ranWith;         ///< the inputs of the last run (run_inputs.h)
+
+  // The second opinion on the last run (truss_statics.h).
+  StaticsCheck statics;
+  std::vector<Member> departing;  ///< whose forces differ from statics by more than 5 %
 
   // Marks, which follow from the rest (window_marks.h).
   bool outOfDate = false;            ///< the results are older than an input

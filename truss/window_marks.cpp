@@ -140,6 +140,12 @@ MemberSet OverstressedMembers(const TrussWindow& window) {
   return members;
 }
 
+MemberSet DepartingMembers(const TrussWindow& window) {
+  MemberSet members;
+  for (const Member& member : window.departing) members.insert({member.family, member.index});
+  return members;
+}
+
 void ShowMarks(TrussWindow& window, const SessionState& session) {
   const SilentFaults faults;
   const bool outOfDate = IsOutOfDate(window, session);

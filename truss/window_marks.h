@@ -26,6 +26,9 @@ std::optional<Member> LitMember(const TrussWindow& window, const SessionState& s
 using MemberSet = std::set<std::pair<Family, int>>;
 MemberSet OverstressedMembers(const TrussWindow& window);
 
+/// The members whose forces differ from statics by more than 5 %.
+MemberSet DepartingMembers(const TrussWindow& window);
+
 /// Fills the marks of the window: notes beside the rows of the lists, the line of the highest
 /// stress ratio, the reasons for empty lists, and the scene of the drawing.
 void ShowMarks(TrussWindow& window, const SessionState& session);

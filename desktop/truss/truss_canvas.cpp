@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/legend.h"
@@ -82,8 +83,8 @@ class TrussCanvas {
     return row;
   }
 
-  /// In two lines, so that it asks for no more width than the drawing. The last entry is there only
-  /// while it is needed.
+  /// In two lines, so that it asks for no more width than the drawing. The last entries are there
+  /// only while they are needed.
   QLayout* Legend() {
     auto* grid = new QGridLayout;
     auto& record = record_;
@@ -91,8 +92,10 @@ class TrussCanvas {
     for (std::size_t i = 0; i < entries.size(); ++i) {
       QWidget* entry = MakeLegend({entries[i]});
       grid->addWidget(entry, static_cast<int>(i) % 2, static_cast<int>(i) / 2);
-      binding_.Shown(entry, [&record, i] {
-        return record.view.resultsShown && i < record.view.drawing.scene.legend.size();
+      binding_.Shown(entry, [&record, shown = entries[i]] {
+        const auto& legend = record.view.drawing.scene.legend;
+        return record.view.resultsShown &&
+               std::find(legend.begin(), legend.end(), shown) != legend.end();
       });
     }
     return grid;

@@ -14,6 +14,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/scroll_page.h"
+#include "desktop/kit/statics_panel.h"
 #include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
 #include "desktop/truss/truss_canvas.h"
@@ -49,6 +50,7 @@ class TrussForm : public ToolWindow {
  private:
   void AddMenus();
   QLayout* CanvasColumn();
+  StaticsView Statics();
   QLayout* ResultPanels();
   QWidget* ResultArea();
   QWidget* SideColumn();
@@ -74,6 +76,7 @@ class TrussForm : public ToolWindow {
   QWidget* commands_ = nullptr;
   QWidget* panels_ = nullptr;
   QWidget* forces_ = nullptr;
+  QWidget* statics_ = nullptr;
   QWidget* results_ = nullptr;
 };
 
@@ -90,7 +93,7 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, co
   columns->addWidget(canvas, 1);
   columns->addWidget(SideColumn());
   // Loads, wood, run, panels, results, picture: the order of work.
-  TabThrough({loads_, commands_, panels_, forces_, results_, canvas});
+  TabThrough({loads_, commands_, panels_, forces_, statics_, results_, canvas});
   resize(1200, 720);
   nodes_->setFocus();  // a truss starts with its loads
 }
@@ -123,8 +126,15 @@ QPushButton* TrussForm::Button(const QString& caption, Binding::Command command)
 QLayout* TrussForm::CanvasColumn() {
   auto* rows = new QVBoxLayout;
   rows->addLayout(MakeTrussCanvas(record_, binding(), session(), platform()), 1);
+  statics_ = MakeStaticsLine(Statics(), binding());
+  rows->addWidget(statics_);
   rows->addWidget(ResultArea());
   return rows;
+}
+
+StaticsView TrussForm::Statics() {
+  return {record_.statics, "statics", [this] { return session().ReportTitle; },
+          [this] { return record_.outOfDate; }};
 }
 
 /// The lists that are open, side by side below the drawing. They scroll rather than crowd it out.
@@ -133,7 +143,8 @@ QWidget* TrussForm::ResultArea() {
   page->SetMost({InLetters(280), InLetters(150)});
   page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   const auto anyOpen = [this] {
-    return record_.lengthsOpen || record_.deflectionsOpen || record_.stressOpen;
+    return record_.lengthsOpen || record_.deflectionsOpen || record_.stressOpen ||
+           record_.statics.open;
   };
   // There before its first panel opens, and until its last has closed: panels move the focus.
   binding().Follow([page, anyOpen] {
@@ -165,6 +176,7 @@ QLayout* TrussForm::ResultPanels() {
   binding().Notes(stresses, &record_.stressNotes);
   binding().WhyEmpty(stresses, [this] { return record_.whyNoStresses; });
   binding().OutOfDate(stresses, [this] { return AreStressesOlder(record_); });
+  row->addWidget(MakeStaticsPanel(Statics(), binding(), session(), platform()));
   return row;
 }
 
