@@ -42,6 +42,7 @@ bool IsPartOfAList(const QWidget* widget) {
 const std::initializer_list<const char*> kOpenAllTrussPanels = {"window TRUSS",
                                                                 "press \"Deflections\"",
                                                                 "press \"Code Stress\"",
+                                                                "press \"Statics Check\"",
                                                                 "menu \"Files\" \"Headings...\"",
                                                                 "menu \"Files\" \"Fonts...\"",
                                                                 "press \"Area Load (lbs/sf)\""};
