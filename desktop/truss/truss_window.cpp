@@ -93,7 +93,7 @@ TrussForm::TrussForm(WindowContext context) : ToolWindow(window_name::kTruss, co
   columns->addWidget(canvas, 1);
   columns->addWidget(SideColumn());
   // Loads, wood, run, panels, results, picture: the order of work.
-  TabThrough({loads_, commands_, panels_, forces_, statics_, results_, canvas});
+  TabThrough({loads_, commands_, panels_, forces_, results_, statics_, canvas});
   resize(1200, 720);
   nodes_->setFocus();  // a truss starts with its loads
 }
