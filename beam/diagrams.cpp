@@ -198,7 +198,8 @@ void FollowAccuracy(BeamWindow& window) {
   const double stations = RoundHalfEven(window.beam.accuracySteps).value();
   constexpr double kMost = std::numeric_limits<std::int16_t>::max();
   window.diagrams.lastStation = static_cast<int>(std::min(stations, kMost));
-  window.diagrams.station = std::min(window.diagrams.station, window.diagrams.lastStation);
+  // A bar that becomes shorter takes its station along.
+  if (window.diagrams.enabled) MoveToStation(window, window.diagrams.station);
 }
 
 }  // namespace lignara

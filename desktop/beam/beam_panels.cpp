@@ -62,7 +62,8 @@ Picture* MakeDiagram(const char* name, Diagram diagram, const Drawing* drawing, 
 
 /// A diagram with its values beside it.
 QGroupBox* DiagramRow(const char* caption, Picture* picture,
-                      const std::vector<DiagramValue>& values, Binding& binding) {
+                      const std::vector<DiagramValue>& values, const BeamWindow& window,
+                      Binding& binding) {
   QGroupBox* frame = MakePanel(caption);
   auto* row = new QHBoxLayout(frame);
   row->setContentsMargins(8, 2, 8, 2);
@@ -72,7 +73,9 @@ QGroupBox* DiagramRow(const char* caption, Picture* picture,
   // All three diagrams are equally wide, so that a station stands above the same one.
   grid->setColumnMinimumWidth(0, frame->fontMetrics().horizontalAdvance("Max. Mom. (ft-lbs)"));
   for (const DiagramValue& value : values) {
-    binding.Text(AddValue(grid, value.caption, 90), value.text);
+    QLineEdit* box = AddValue(grid, value.caption, 90);
+    binding.Text(box, value.text);
+    binding.OutOfDate(box, [&window] { return IsOutOfDate(window); });
   }
   column->addLayout(grid);
   column->addStretch();
@@ -146,7 +149,7 @@ QGroupBox* MakeDiagramsPanel(BeamWindow& window, Binding& binding, DesktopPlatfo
   const auto add = [&](const char* name, Diagram diagram, const Drawing* drawing,
                        const std::vector<DiagramValue>& values) {
     Picture* picture = MakeDiagram(name, diagram, drawing, window, binding, platform);
-    rows->addWidget(DiagramRow(name, picture, values, binding));
+    rows->addWidget(DiagramRow(name, picture, values, window, binding));
   };
   add("Shear", Diagram::Shear, &d.shear,
       {{"Value at X:", &d.shearAt}, {"Max. Shear (lbs):", &window.maxShear}});

@@ -187,6 +187,18 @@ TEST_F(SingleSpanDiagrams, BarFollowsTheAccuracy) {
   }
 }
 
+TEST_F(SingleSpanDiagrams, ReadWhereAShorterBarEnds) {
+  beam.Point("5", "1000");
+  beam.Run();
+  MoveToStation(beam.window, 500);
+  beam.platform.textAnswers = {"100"};
+  AskAccuracy(beam.window, beam.platform);
+  EXPECT_EQ(Panel().station, 100);
+  EXPECT_EQ(Panel().location, "2.000") << "a station of the last run";
+  EXPECT_EQ(Panel().momentAt, "1000.00");
+  EXPECT_EQ(LineOf(Panel().moment, 503).x1, 100.0);
+}
+
 TEST_F(SingleSpanDiagrams, ShowNothingBeyondTheStationsOfTheRun) {
   beam.Point("5", "1000");
   beam.Run();
