@@ -367,8 +367,8 @@ QWidget* BeamForm::Panels() {
   auto* rows = new QVBoxLayout(inner);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->addWidget(MakeStaticsPanel(Statics(), binding(), session(), platform()));
-  rows->addWidget(MakeDiagramsPanel(record_, binding(), platform()));
-  rows->addWidget(MakeStressCheckPanel(record_, binding()));
+  rows->addWidget(MakeDiagramsPanel(record_, binding(), platform()), 1);
+  rows->addWidget(MakeStressCheckPanel(record_, binding()), 1);
   rows->addWidget(MakePropertiesPanel(record_, binding()));
   rows->addWidget(MakeHeaderPanel(record_.header, binding(), session()));
   rows->addStretch();
