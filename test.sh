@@ -77,20 +77,18 @@ else
   count 1
 fi
 
+# One build serves the sanitizers and the coverage: what the core's own tests execute is counted
+# before the tests of the windows add theirs.
 headline "Sanitizers"
 if build asan; then
-  run_tests build/asan --tests-regex '^(core|desktop\..*)$'
-else
-  count 1
-fi
-
-headline "Coverage of the core"
-if build coverage; then
-  find build/coverage -name '*.gcda' -delete
-  run_tests build/coverage
+  find build/asan -name '*.gcda' -delete
+  run_tests build/asan --tests-regex '^core$'
+  headline "Coverage of the core"
   mapfile -t filters < <(sed 's|.*|--filter=&/|' core_folders.txt)
-  gcovr --root . --object-directory build/coverage "${filters[@]}" \
-    --print-summary --output build/coverage/summary.txt || count 1
+  gcovr --root . --object-directory build/asan "${filters[@]}" \
+    --print-summary --output build/asan/coverage.txt || count 1
+  headline "Windows under the sanitizers"
+  run_tests build/asan --tests-regex '^desktop\.'
 else
   count 1
 fi
