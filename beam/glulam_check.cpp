@@ -3,6 +3,7 @@
 #include "beam/actual_stresses.h"
 #include "beam/stress_check.h"
 #include "glulam/glulam_columns.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 
 namespace lignara {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/stored_number.h"
-#include "connections/bolt_values.h"
+#include "connections/bolt_value_file.h"
 #include "connections/joint_options.h"
 
 namespace lignara {

@@ -7,7 +7,7 @@
 #include "app/list_rows.h"
 #include "app/platform.h"
 #include "app/session_state.h"
-#include "connections/bolt_values.h"
+#include "connections/bolt_value_file.h"
 #include "connections/joint_options.h"
 
 namespace lignara {

@@ -11,8 +11,8 @@
 #include "glulam/combination_files.h"
 #include "glulam/glulam_columns.h"
 #include "glulam/glulam_window.h"
+#include "glulam/load_durations.h"
 #include "glulam/stability.h"
-#include "glulam/use_conditions.h"
 
 namespace lignara {
 namespace {

@@ -6,6 +6,7 @@
 #include "app/report_file.h"
 #include "glulam/combination_files.h"
 #include "glulam/glulam_columns.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 
 namespace lignara {

@@ -5,6 +5,7 @@
 #include "app/section.h"
 #include "app/window_names.h"
 #include "glulam/glulam_window.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 
 namespace lignara {

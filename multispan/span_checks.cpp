@@ -3,6 +3,7 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "glulam/glulam_columns.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 #include "multispan/results_window.h"
 

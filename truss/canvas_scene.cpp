@@ -163,7 +163,7 @@ class SceneMaker {
   const SessionState& session_;
   const bool paper_;
   const TrussShape shape_;
-  const MemberSet above_ = OverstressedMembers(window_);
+  const MemberSet above_ = OverstressedMembers(window_.stresses);
   const MemberSet departing_ = DepartingMembers(window_);
   const std::optional<Member> lit_ = LitMember(window_, session_);
   CanvasPainter painter_;

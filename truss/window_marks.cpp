@@ -6,6 +6,7 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "truss/canvas_scene.h"
+#include "truss/overstress.h"
 #include "truss/run_inputs.h"
 #include "truss/truss_types.h"
 
@@ -24,14 +25,6 @@ std::vector<Member> AxialMembers(const SessionState& session) {
   return MembersOf(TrussTypeOf(session.TrussType).axialRows, HalfSpans(session));
 }
 
-bool IsAbove(const MemberStress& stress) { return stress.actual > stress.allowable; }
-
-/// Stress over allowable; nothing where there is no allowable stress to divide by.
-std::optional<Float32> RatioOf(const MemberStress& stress) {
-  if (!(stress.allowable > 0)) return std::nullopt;
-  return Float32(stress.actual / stress.allowable);
-}
-
 RowNote AxialNote(const TrussWindow& window, const Member& member, bool above) {
   RowNote note;
   const Float32& axial = AxialOf(window.model, member.family)[member.index];
@@ -45,7 +38,7 @@ RowNote AxialNote(const TrussWindow& window, const Member& member, bool above) {
 /// A blank row, then a note a member.
 std::vector<RowNote> AxialNotes(const TrussWindow& window, const SessionState& session) {
   if (!window.view.resultsShown) return {};
-  const MemberSet above = OverstressedMembers(window);
+  const MemberSet above = OverstressedMembers(window.stresses);
   std::vector<RowNote> notes(1);
   for (const Member& member : AxialMembers(session)) {
     notes.push_back(AxialNote(window, member, above.count({member.family, member.index}) > 0));
@@ -58,9 +51,9 @@ std::vector<RowNote> StressNotes(const TrussWindow& window) {
   std::vector<RowNote> notes(1);
   for (const MemberStress& stress : window.stresses) {
     RowNote head;
-    head.warned = IsAbove(stress);
+    head.warned = IsOverstressed(stress);
     RowNote line = head;
-    if (const auto ratio = RatioOf(stress)) {
+    if (const auto ratio = StressRatio(stress)) {
       head.note = FormatNumber(*ratio, kTwoDecimals);
       head.spoken = "actual over allowable stress: " + head.note;
     }
@@ -70,40 +63,11 @@ std::vector<RowNote> StressNotes(const TrussWindow& window) {
   return notes;
 }
 
-/// The member with the highest ratio; one without an allowable stress is above all others.
-const MemberStress* WorstOf(const std::vector<MemberStress>& stresses) {
-  const auto less = [](const MemberStress& a, const MemberStress& b) {
-    const auto left = RatioOf(a), right = RatioOf(b);
-    if (!left) return !right && a.actual < b.actual;
-    return !right ? b.actual > 0 : *left < *right;
-  };
-  const auto worst = std::max_element(stresses.begin(), stresses.end(), less);
-  return worst == stresses.end() ? nullptr : &*worst;
-}
-
-std::string CountAbove(const std::vector<MemberStress>& stresses) {
-  const auto count = std::count_if(stresses.begin(), stresses.end(), IsAbove);
-  if (count == 0) return "";
-  return count == 1 ? "; 1 member above its allowable stress"
-                    : "; " + std::to_string(count) + " members above their allowable stress";
-}
-
-std::string RatioLine(const std::vector<MemberStress>& stresses) {
-  const MemberStress* worst = WorstOf(stresses);
-  if (worst == nullptr) return "";
-  const std::string name = MemberLabel(worst->member);
-  const auto ratio = RatioOf(*worst);
-  if (!ratio) return "No allowable stress to compare with: " + name + CountAbove(stresses);
-  return "Highest stress ratio " + FormatNumber(*ratio, kTwoDecimals) + ": " + name + ", " +
-         FormatNumber(worst->actual, kTwoDecimals) + " of " +
-         FormatNumber(worst->allowable, kTwoDecimals) + " psi" + CountAbove(stresses);
-}
-
 std::string StatusLine(const TrussWindow& window, bool outOfDate) {
   if (!window.view.resultsShown) return "";
   if (outOfDate) return "Results are out of date: loads or members have changed. Run again.";
   if (window.stresses.empty()) return std::string("No stresses: ") + kNeedsMembers;
-  return RatioLine(window.stresses);
+  return StressRatioLine(window.stresses);
 }
 
 std::string HitSense(const TrussWindow& window) {
@@ -130,14 +94,6 @@ std::optional<Member> LitMember(const TrussWindow& window, const SessionState& s
   const auto at = static_cast<std::size_t>(std::max(window.axialRow, 0));
   if (at == 0 || at > members.size() || window.axialRows.empty()) return std::nullopt;
   return members[at - 1];
-}
-
-MemberSet OverstressedMembers(const TrussWindow& window) {
-  MemberSet members;
-  for (const MemberStress& stress : window.stresses) {
-    if (IsAbove(stress)) members.insert({stress.member.family, stress.member.index});
-  }
-  return members;
 }
 
 MemberSet DepartingMembers(const TrussWindow& window) {

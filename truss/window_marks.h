@@ -1,9 +1,8 @@
 #pragma once
 
 #include <optional>
-#include <set>
-#include <utility>
 
+#include "truss/overstress.h"
 #include "truss/truss_window.h"
 
 namespace lignara {
@@ -21,10 +20,6 @@ bool AreDeflectionsOlder(const TrussWindow& window);
 
 /// The member of the chosen row of the axial list.
 std::optional<Member> LitMember(const TrussWindow& window, const SessionState& session);
-
-/// The members that the last run found stressed above their allowable.
-using MemberSet = std::set<std::pair<Family, int>>;
-MemberSet OverstressedMembers(const TrussWindow& window);
 
 /// The members whose forces differ from statics by more than 5 %.
 MemberSet DepartingMembers(const TrussWindow& window);

@@ -22,6 +22,7 @@
 #include "desktop/windows.h"
 #include "glulam/combination_files.h"
 #include "glulam/glulam_columns.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 
 namespace lignara {

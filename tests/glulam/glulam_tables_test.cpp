@@ -3,6 +3,7 @@
 #include "app/launcher.h"
 #include "app/session_state.h"
 #include "glulam/glulam_columns.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 
 namespace lignara {

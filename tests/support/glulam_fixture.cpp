@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/launcher.h"
+#include "glulam/load_durations.h"
 #include "glulam/use_conditions.h"
 
 namespace lignara {

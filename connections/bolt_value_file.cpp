@@ -1,4 +1,4 @@
-#include "connections/bolt_values.h"
+#include "connections/bolt_value_file.h"
 
 #include <cmath>
 #include <limits>
