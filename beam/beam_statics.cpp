@@ -1,7 +1,5 @@
 #include "beam/beam_statics.h"
 
-#include <algorithm>
-
 #include "app/fault.h"
 #include "beam/report.h"
 #include "statics/beam_units.h"
@@ -30,27 +28,46 @@ void AddSpread(const EnteredLoad& load, double atA, double atEnd, LoadedSpan& sp
                                     : SpreadLoad{load.a, end, atA, atEnd});
 }
 
+/// What a load of each kind is to statics. An axial load bends nothing.
+struct StaticsOfKind {
+  LoadKind kind;
+  void (*add)(const EnteredLoad& load, double unit, ContinuousBeam& beam);
+};
+
+constexpr StaticsOfKind kStaticsOfKinds[] = {
+    {LoadKind::PointLoad,
+     [](const EnteredLoad& load, double, ContinuousBeam& beam) {
+       beam.spans.front().forces.push_back({load.p, load.a});
+     }},
+    {LoadKind::LevelUniform,
+     [](const EnteredLoad& load, double, ContinuousBeam& beam) {
+       AddSpread(load, load.w, load.w, beam.spans.front());
+     }},
+    {LoadKind::SlopedLeftZero,
+     [](const EnteredLoad& load, double, ContinuousBeam& beam) {
+       AddSpread(load, 0, load.w, beam.spans.front());
+     }},
+    {LoadKind::SlopedRightZero,
+     [](const EnteredLoad& load, double, ContinuousBeam& beam) {
+       AddSpread(load, load.w, 0, beam.spans.front());
+     }},
+    {LoadKind::PointMoment,
+     [](const EnteredLoad& load, double, ContinuousBeam& beam) {
+       beam.spans.front().moments.push_back({load.m, load.a});
+     }},
+    {LoadKind::LeftDisplacement,
+     [](const EnteredLoad& load, double unit, ContinuousBeam& beam) {
+       beam.rises.front() += load.displacement / unit;
+     }},
+    {LoadKind::RightDisplacement,
+     [](const EnteredLoad& load, double unit, ContinuousBeam& beam) {
+       beam.rises.back() += load.displacement / unit;
+     }},
+};
+
 void AddLoad(LoadKind kind, const EnteredLoad& load, double unit, ContinuousBeam& beam) {
-  LoadedSpan& span = beam.spans.front();
-  switch (kind) {
-    case LoadKind::PointLoad:
-      return span.forces.push_back({load.p, load.a});
-    case LoadKind::LevelUniform:
-      return AddSpread(load, load.w, load.w, span);
-    case LoadKind::SlopedLeftZero:
-      return AddSpread(load, 0, load.w, span);
-    case LoadKind::SlopedRightZero:
-      return AddSpread(load, load.w, 0, span);
-    case LoadKind::PointMoment:
-      return span.moments.push_back({load.m, load.a});
-    case LoadKind::LeftDisplacement:
-      beam.rises.front() += load.displacement / unit;
-      return;
-    case LoadKind::RightDisplacement:
-      beam.rises.back() += load.displacement / unit;
-      return;
-    case LoadKind::AxialLoad:  // bends nothing
-      return;
+  for (const StaticsOfKind& row : kStaticsOfKinds) {
+    if (row.kind == kind) row.add(load, unit, beam);
   }
 }
 

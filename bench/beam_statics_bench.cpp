@@ -1,5 +1,8 @@
 #include <benchmark/benchmark.h>
 
+#include "app/session_state.h"
+#include "multispan/multi_span_solution.h"
+#include "multispan/multi_span_statics.h"
 #include "statics/beam.h"
 
 namespace lignara {
@@ -32,6 +35,28 @@ BENCHMARK(SolveBeamStatics)
     ->Args({51, 50})
     ->Args({510, 2})
     ->Unit(benchmark::kMicrosecond);
+
+/// All that the check adds to a run of the multi-span beam: solving, comparing, the line, and the
+/// texts for the saved table.
+void CheckMultiSpan(benchmark::State& state) {
+  SessionState session;
+  MultiSpanModel& model = session.MultiSpan;
+  model.spanCount = static_cast<int>(state.range(0));
+  for (int j = 1; j <= state.range(0); ++j) {
+    model.spanLength[j] = 9 + j % 3;
+    model.spanE[j] = 1600000;
+    model.spanI[j] = 100;
+    model.spanUniform[j] = 100;
+  }
+  MultiSpanResults window;
+  window.run = std::make_shared<const MultiSpanSolution>(solveMultiSpan(model));
+  for (auto _ : state) {
+    CheckMultiSpanStatics(window, session);
+    benchmark::DoNotOptimize(window.statics.line);
+  }
+  if (window.statics.differences.empty()) state.SkipWithError("nothing was compared");
+}
+BENCHMARK(CheckMultiSpan)->Arg(2)->Arg(51)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace lignara

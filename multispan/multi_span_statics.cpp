@@ -1,7 +1,6 @@
 #include "multispan/multi_span_statics.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "statics/beam_units.h"
 
