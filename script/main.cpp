@@ -11,6 +11,8 @@
 #include "desktop/kit/text.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_player.h"
+#include "desktop/session/sessions.h"
+#include "desktop/session/variants.h"
 #include "script/script_platform.h"
 
 namespace lignara {
@@ -32,7 +34,8 @@ void DropRemarks(QtMsgType type, const QMessageLogContext&, const QString& text)
 struct Options {
   QString data;
   bool show = false;
-  QString file;  ///< empty: standard input
+  QString repeat;  ///< LINE=VALUES; empty: played once
+  QString file;    ///< empty: standard input
 };
 
 /// Reads the command line; an exit status where the program has to end at once.
@@ -42,7 +45,9 @@ std::optional<int> ReadOptions(const QStringList& arguments, Options& options) {
   const QCommandLineOption help = parser.addHelpOption();
   const QCommandLineOption data("data", "Start in this directory.", "DIR");
   const QCommandLineOption show("show", "Show the windows on the screen.");
-  parser.addOptions({data, show});
+  const QCommandLineOption repeat("repeat", "Play FILE for each of several values of one line.",
+                                  "LINE=VALUES");
+  parser.addOptions({data, show, repeat});
   parser.addPositionalArgument("FILE", "The script; standard input without it.", "[FILE]");
   if (!parser.parse(arguments) || parser.positionalArguments().size() > 1) {
     const QString reason = parser.errorText();
@@ -55,7 +60,12 @@ std::optional<int> ReadOptions(const QStringList& arguments, Options& options) {
   }
   options.data = parser.value(data);
   options.show = parser.isSet(show);
+  options.repeat = parser.value(repeat);
   options.file = parser.positionalArguments().value(0);
+  if (parser.isSet(repeat) && options.file.isEmpty()) {
+    std::cerr << "--repeat needs a file\n";
+    return kWrongUsage;
+  }
   return std::nullopt;
 }
 
@@ -74,11 +84,53 @@ int PlayScript(std::istream& lines, const QString& name, ScriptPlayer& player) {
   return kDone;
 }
 
+/// Prints a table of CSV: a row for each value. Returns the exit status.
+int PlayVariants(const Variants& variants, SessionState& session, ScriptPlatform& platform) {
+  Print(CsvLine(VariantHeads(variants)));
+  int status = kDone;
+  for (const QString& value : variants.values) {
+    QString refusal;
+    const QStringList row = PlayVariant(variants, value, session, platform, refusal);
+    if (row.isEmpty()) {
+      std::cerr << FromQt(refusal) << std::endl;
+      status = kStopped;
+    } else {
+      Print(CsvLine(row));
+    }
+  }
+  return status;
+}
+
+/// The variants that the command line asks for; nothing, with a word on standard error, where it
+/// asks for none that can be.
+std::optional<Variants> ReadVariants(const Options& options) {
+  Variants variants;
+  QString refusal;
+  variants.enterLine = options.repeat.section('=', 0, 0).toInt() - 1;
+  variants.values = ParseValues(options.repeat.section('=', 1), refusal);
+  if (refusal.isEmpty()) variants.lines = ReadSessionFile(options.file, refusal);
+  if (refusal.isEmpty()) refusal = WhyNoVariants(variants.lines, variants.enterLine);
+  if (refusal.isEmpty()) return variants;
+  std::cerr << FromQt(refusal) << "\n";
+  return std::nullopt;
+}
+
+int Repeat(const Variants& variants) {
+  SessionState session;
+  ScriptPlatform platform(session, Print);
+  const FaultScope faults(platform);
+  platform.PaintNothing();
+  StartSession(session, FromQt(QDir::currentPath()));
+  platform.OpenWindow(window_name::kLauncher);
+  return PlayVariants(variants, session, platform);
+}
+
 int Run(std::istream& lines, const QString& name, bool show) {
   SessionState session;
   ScriptPlatform platform(session, Print);
   const FaultScope faults(platform);
   if (!show) platform.PaintNothing();
+  Sessions sessions(session, platform);
   StartSession(session, FromQt(QDir::currentPath()));
   platform.OpenWindow(window_name::kLauncher);
   QApplication::processEvents();
@@ -107,10 +159,13 @@ int Main(int argc, char* argv[]) {
       return kWrongUsage;
     }
   }
+  std::optional<Variants> variants;
+  if (!options.repeat.isEmpty() && !(variants = ReadVariants(options))) return kWrongUsage;
   if (!options.data.isEmpty() && !QDir::setCurrent(options.data)) {
     std::cerr << "there is no directory " << FromQt(options.data) << "\n";
     return kWrongUsage;
   }
+  if (variants) return Repeat(*variants);
   return options.file.isEmpty() ? Run(std::cin, "-", options.show)
                                 : Run(file, options.file, options.show);
 }

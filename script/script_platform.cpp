@@ -81,6 +81,11 @@ std::optional<std::string> ScriptPlatform::PrintingUser::ChooseSaveFile(const st
   return FromQt(answers.File("save dialog"));
 }
 
+std::optional<std::string> ScriptPlatform::PrintingUser::ChooseOpenFile(const std::string& filter) {
+  output("dialog open " + QuotedText(filter));
+  return FromQt(answers.File("open dialog"));
+}
+
 void ScriptPlatform::PrintingUser::PrintReport(const Report& report) {
   PagePrinter printer(output);
   for (const Report::Item& item : report.items()) std::visit(printer, item);

@@ -43,6 +43,7 @@ class ScriptPlatform : public DesktopPlatform {
     std::optional<std::string> PromptText(const std::string& title, const std::string& text,
                                           const std::string& initial) override;
     std::optional<std::string> ChooseSaveFile(const std::string& filter) override;
+    std::optional<std::string> ChooseOpenFile(const std::string& filter) override;
     void PrintReport(const Report& report) override;
 
     ScriptOutput output;

@@ -238,7 +238,9 @@ class GlulamForm : public ToolWindow {
     rows->addStretch();
     rows->addWidget(Note(kGlulamFactorNote));
     auto* keep = new QPushButton("Set user &adjustment as default");
-    binding().Press(keep, [this] { SaveUserFactors(record_, session(), platform()); });
+    binding().Press(keep, [this] {
+      if (platform().MayWriteFiles()) SaveUserFactors(record_, session(), platform());
+    });
     rows->addWidget(keep, 0, Qt::AlignRight);
     return rows;
   }

@@ -110,6 +110,18 @@ std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& fi
   return path;
 }
 
+std::optional<std::string> DesktopPlatform::ChooseOpenFile(const std::string& filter) {
+  if (respondent_ != nullptr) return respondent_->ChooseOpenFile(filter);
+  const std::optional<QString> path = AskOpenFile(folder_, ToQt(filter));
+  if (!path) return std::nullopt;
+  folder_ = QFileInfo(*path).absolutePath();
+  return FromQt(*path);
+}
+
+bool DesktopPlatform::MayWriteFiles() {
+  return respondent_ == nullptr || respondent_->MayWriteFiles();
+}
+
 bool DesktopPlatform::UserSaysYes(const std::string& title, const std::string& text) {
   const ArrowPointer arrow;
   return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==

@@ -15,6 +15,7 @@
 namespace lignara {
 
 class Respondent;
+class SessionCommands;
 class ToolWindow;
 
 /// The program's surroundings on a desktop: real windows, dialogs, printer and help.
@@ -45,6 +46,17 @@ class DesktopPlatform : public Platform {
   /// Stands in the user's place for boxes, dialogs and prints from now on; null for the user.
   void SetRespondent(Respondent* respondent) { respondent_ = respondent; }
   Respondent* respondent() const { return respondent_; }
+  /// The path of the file to open; nothing when the user cancels.
+  std::optional<std::string> ChooseOpenFile(const std::string& filter);
+  /// Asked ahead of a file that is written without a dialog.
+  bool MayWriteFiles();
+  /// What the user can do with the session; null where this program keeps none.
+  void SetSessions(SessionCommands* sessions) { sessions_ = sessions; }
+  SessionCommands* sessions() const { return sessions_; }
+  /// While a session is played the desktop's own choice of the active window counts for nothing,
+  /// and the program does not end.
+  void SetPlayed(bool played) { played_ = played; }
+  bool IsPlayed() const { return played_; }
   /// The name of what the command at hand writes or prints.
   QString DocumentName() const;
 
@@ -86,6 +98,8 @@ class DesktopPlatform : public Platform {
   SessionState& session_;
   ActionListener* listener_ = nullptr;
   Respondent* respondent_ = nullptr;
+  SessionCommands* sessions_ = nullptr;
+  bool played_ = false;
   QString folder_;  ///< in which a file was saved last
   RepeatedMessages repeated_;
   QPointer<ToolWindow> commandWindow_;

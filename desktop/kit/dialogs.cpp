@@ -60,6 +60,13 @@ QString FileNameOf(const QString& title) {
   return name.simplified();
 }
 
+std::optional<QString> AskOpenFile(const QString& folder, const QString& filter) {
+  const ArrowPointer arrow;
+  const QString path =
+      QFileDialog::getOpenFileName(QApplication::activeWindow(), "Open", folder, QtFilter(filter));
+  return path.isEmpty() ? std::nullopt : std::optional(path);
+}
+
 std::optional<QString> AskSaveFile(const SaveProposal& proposal) {
   const ArrowPointer arrow;
   QFileDialog dialog(QApplication::activeWindow(), proposal.caption, proposal.folder,

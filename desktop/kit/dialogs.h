@@ -40,6 +40,9 @@ struct SaveProposal {
   QString filter;  ///< as the core writes it; the extension is that of the kind chosen in it
 };
 
+/// Asks for a file to open; nothing when the user cancels.
+std::optional<QString> AskOpenFile(const QString& folder, const QString& filter);
+
 /// Asks for the file to write; nothing when the user cancels.
 std::optional<QString> AskSaveFile(const SaveProposal& proposal);
 

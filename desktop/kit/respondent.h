@@ -16,7 +16,10 @@ class Respondent {
   virtual std::optional<std::string> PromptText(const std::string& title, const std::string& text,
                                                 const std::string& initial) = 0;
   virtual std::optional<std::string> ChooseSaveFile(const std::string& filter) = 0;
+  virtual std::optional<std::string> ChooseOpenFile(const std::string& filter) = 0;
   virtual void PrintReport(const Report& report) = 0;
+  /// Asked ahead of a file that the program writes without a dialog.
+  virtual bool MayWriteFiles() { return true; }
 };
 
 }  // namespace lignara

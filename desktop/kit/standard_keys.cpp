@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/session_commands.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
@@ -88,6 +90,27 @@ void SetStandardKeys(QMainWindow* window) {
   SetMenuKeys(window);
   SetButtonKeys(window);
   SetCloseKey(window);
+}
+
+void SetSessionKeys(QMainWindow* window, const DesktopPlatform& platform) {
+  struct SessionKey {
+    QKeySequence key;
+    void (SessionCommands::*command)();
+  };
+  static const SessionKey keys[] = {
+      {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &SessionCommands::Save},
+      {QKeySequence(Qt::CTRL | Qt::Key_O), &SessionCommands::Open},
+      {QKeySequence(Qt::CTRL | Qt::Key_Z), &SessionCommands::Undo},
+      {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &SessionCommands::Redo}};
+  const QList<QKeySequence> taken = KeysTaken(window);
+  for (const SessionKey& row : keys) {
+    if (taken.contains(row.key)) continue;
+    const auto command = row.command;
+    QObject::connect(new QShortcut(row.key, window), &QShortcut::activated, window,
+                     [&platform, command] {
+                       if (platform.sessions() != nullptr) (platform.sessions()->*command)();
+                     });
+  }
 }
 
 }  // namespace lignara

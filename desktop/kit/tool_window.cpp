@@ -58,6 +58,7 @@ void ToolWindow::Furnish(const QSize& screen) {
   page->SetMost(kMostInsisted.boundedTo(screen) - QSize(0, bars));
   if (focus != nullptr) focus->setFocus();
   SetStandardKeys(this);
+  SetSessionKeys(this, platform());
   new FocusMark(this);
 }
 
@@ -87,7 +88,7 @@ bool ToolWindow::event(QEvent* event) {
   const bool handled = QMainWindow::event(event);
   // A desktop may activate a window behind a modal one: the user can do nothing in there.
   const bool active = event->type() == QEvent::WindowActivate;
-  if (active && !platform().IsBlocked(this)) platform().NoteActive(this);
+  if (active && !platform().IsPlayed() && !platform().IsBlocked(this)) platform().NoteActive(this);
   return handled;
 }
 

@@ -30,6 +30,8 @@ class ToolWindow : public QMainWindow {
 
   /// Shows the record again.
   virtual void Refresh() { binding_.Refresh(); }
+  /// Forgets what the user entered, where the window stays when a session begins anew.
+  virtual void StartAgain() {}
   /// What the window's own close control does; plain closing unless a window says otherwise.
   virtual void CloseControl();
   /// Told after another window was closed.

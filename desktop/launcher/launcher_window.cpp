@@ -16,6 +16,7 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture_button.h"
 #include "desktop/kit/readers.h"
+#include "desktop/kit/session_commands.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
 #include "truss/description.h"
@@ -42,7 +43,10 @@ class LauncherForm : public ToolWindow {
     ShowDataFolder();
   }
 
+  void StartAgain() override { record_.spanText.clear(); }
+
   void CloseControl() override {
+    if (platform().IsPlayed()) return;  // a session that is opened does not end the program
     CloseAllWindows(platform());
     platform().CloseWindow(window_name::kHelp);
     platform().CloseWindow(window_name::kLauncher);
@@ -51,12 +55,37 @@ class LauncherForm : public ToolWindow {
  private:
   void AddMenus() {
     QMenu* files = menuBar()->addMenu("&Files");
+    AddSessionItems(files);
+    files->addSeparator();
     QAction* exit = files->addAction("E&xit");
     exit->setShortcut(QKeySequence::Quit);
     binding().Menu(exit, [this] { CloseControl(); });
     QMenu* help = AddHelpMenu();
     binding().Menu(help->addAction("&About..."),
                    [this] { platform().OpenWindow(window_name::kAbout); });
+  }
+
+  /// They are no actions of the session.
+  void AddSessionItems(QMenu* menu) {
+    struct Item {
+      const char* caption;
+      QKeySequence key;
+      void (SessionCommands::*command)();
+    };
+    const Item items[] = {
+        {"&Save Session...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+         &SessionCommands::Save},
+        {"&Open Session...", QKeySequence(Qt::CTRL | Qt::Key_O), &SessionCommands::Open},
+        {"&Undo", QKeySequence(Qt::CTRL | Qt::Key_Z), &SessionCommands::Undo},
+        {"&Redo", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &SessionCommands::Redo}};
+    for (const Item& item : items) {
+      QAction* action = menu->addAction(item.caption);
+      action->setShortcut(item.key);
+      const auto command = item.command;
+      connect(action, &QAction::triggered, this, [this, command] {
+        if (platform().sessions() != nullptr) (platform().sessions()->*command)();
+      });
+    }
   }
 
   /// Says at the foot what is amiss with the data folder. Where nothing is, there is no foot.

@@ -148,7 +148,9 @@ void ScriptPlayer::Play(const QString& line) {
   }
   (this->*action->carryOut)(words);
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QApplication::processEvents();
+  // A hand on the mouse would not do what the lines of a session mean.
+  QApplication::processEvents(platform_.IsPlayed() ? QEventLoop::ExcludeUserInputEvents
+                                                   : QEventLoop::AllEvents);
   if (const QString failure = answers_.TakeFailure(); !failure.isEmpty()) {
     throw ScriptError{failure};
   }

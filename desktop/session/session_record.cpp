@@ -15,6 +15,9 @@ using Kind = UserAction::Kind;
 /// A key that does nothing but bring the focus along.
 constexpr const char* kIdleKey = "F24";
 
+/// What playing a line takes besides its command, in microseconds.
+constexpr int kPlayCost = 500;
+
 /// How a script calls an action, and what it leaves behind.
 struct Verb {
   Kind kind;
@@ -100,6 +103,7 @@ void SessionRecord::Begin(ToolWindow* window, const UserAction& action) {
   focusBefore_ = window->focusWidget();
   pendingWindow_ = window;
   pending_ = Describe(window, action);
+  began_.start();
 }
 
 void SessionRecord::Answered(const QString& answer) {
@@ -113,6 +117,9 @@ void SessionRecord::BoxShown() {
 void SessionRecord::End() {
   if (!pending_) return;
   FollowFocus();
+  // A user who reads a box or answers a dialog takes time that a play does not.
+  const bool asked = pending_->boxShown || !pending_->lead.isEmpty();
+  pending_->cost = kPlayCost + (asked ? 0 : static_cast<int>(began_.nsecsElapsed() / 1000));
   Append(*std::exchange(pending_, std::nullopt));
 }
 
@@ -191,16 +198,39 @@ void SessionRecord::FollowFocus() {
 void SessionRecord::Append(RecordedAction action) {
   if (!actions_.empty() && action.window == actions_.back().window &&
       TakesThePlaceOf(action, actions_.back())) {
+    Tell(action);
     action.lead = actions_.back().lead;
     actions_.back() = std::move(action);
   } else {
+    Tell(action);
     actions_.push_back(std::move(action));
   }
-  const RecordedAction& last = actions_.back();
+}
+
+void SessionRecord::Tell(const RecordedAction& action) {
   QStringList lines;
-  if (last.window != toldWindow_ && last.kind != Kind::Window) lines << "window " + last.window;
-  toldWindow_ = last.window;
-  if (told_) told_(lines + last.lead + QStringList(last.line));
+  if (action.window != toldWindow_ && action.kind != Kind::Window) {
+    lines << "window " + action.window;
+  }
+  toldWindow_ = action.window;
+  if (told_) told_(lines + action.lead + QStringList(action.line));
+}
+
+std::size_t SessionRecord::LastDone() const {
+  std::size_t count = actions_.size();
+  while (count > 0 && actions_[count - 1].kind == Kind::Window) --count;
+  return count;
+}
+
+int SessionRecord::CostOfFirst(std::size_t count) const {
+  int cost = 0;
+  for (std::size_t i = 0; i < count && i < actions_.size(); ++i) cost += actions_[i].cost;
+  return cost;
+}
+
+QStringList SessionRecord::LinesOf(std::size_t index) const {
+  const RecordedAction& action = actions_[index];
+  return QStringList("window " + action.window) + action.lead + QStringList(action.line);
 }
 
 void SessionRecord::AddLine(const QString& window, const QString& line) {

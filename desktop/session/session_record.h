@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -24,6 +25,7 @@ struct RecordedAction {
   QPointer<QWidget> control;
   bool lastCounts = false;
   bool boxShown = false;
+  int cost = 0;  ///< microseconds that it takes to play
 };
 
 /// Writes down what the user does, as the script lines that would do it again.
@@ -47,6 +49,12 @@ class SessionRecord : public ActionListener {
   QStringList Lines() const { return LinesOfFirst(actions_.size()); }
   /// The script of the first actions.
   QStringList LinesOfFirst(std::size_t count) const;
+  /// The number of actions up to the last that is more than a look at a window; 0 where none is.
+  std::size_t LastDone() const;
+  /// What it takes to play the first actions, in microseconds.
+  int CostOfFirst(std::size_t count) const;
+  /// One action by itself, with the window that it acts in.
+  QStringList LinesOf(std::size_t index) const;
   /// Is handed the lines of each action as it ends; also of one that takes the place of the last.
   void OnAppend(std::function<void(const QStringList& lines)> told) { told_ = std::move(told); }
 
@@ -65,6 +73,7 @@ class SessionRecord : public ActionListener {
   QString ControlLine(Replay& replay, const UserAction& action, QWidget* control);
   Replay& ReplayOf(ToolWindow* window);
   void Append(RecordedAction action);
+  void Tell(const RecordedAction& action);
   void FollowFocus();
 
   bool paused_ = false;
@@ -72,6 +81,7 @@ class SessionRecord : public ActionListener {
   std::optional<RecordedAction> pending_;
   QPointer<ToolWindow> pendingWindow_;
   QPointer<QWidget> focusBefore_;
+  QElapsedTimer began_;
   QString toldWindow_ = window_name::kLauncher;
   std::function<void(const QStringList&)> told_;
   std::unordered_map<const ToolWindow*, Replay> replays_;

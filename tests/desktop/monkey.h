@@ -23,6 +23,7 @@ class Monkey {
 
   ScriptPlatform& platform() { return platform_; }
   QString folder() const { return directory_.path(); }
+  SessionState& session() { return session_; }
   int heard() const { return heard_; }
 
  private:

@@ -1,0 +1,56 @@
+#include "desktop/session/journal_keeper.h"
+
+#include <QFile>
+#include <QLocale>
+
+#include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/text.h"
+#include "desktop/session/sessions.h"
+
+namespace lignara {
+
+JournalKeeper::JournalKeeper(Sessions& sessions, DesktopPlatform& platform, const QString& folder)
+    : sessions_(sessions), platform_(platform), folder_(folder), journal_(folder) {
+  sessions_.OnAppend([this](const QStringList& lines) { Append(lines); });
+  sessions_.OnReplaced([this] { journal_.Replace(sessions_.record().Lines()); });
+  NoteMissing();
+}
+
+void JournalKeeper::Append(const QStringList& lines) {
+  journal_.Append(lines);
+  NoteMissing();
+}
+
+void JournalKeeper::NoteMissing() {
+  if (journal_.IsOpen() || noted_) return;
+  noted_ = true;
+  platform_.ShowNote("No journal is kept: " + FromQt(folder_) + " cannot be written");
+}
+
+void JournalKeeper::OfferLeft() {
+  for (LeftJournal& journal : LeftJournals(folder_)) {
+    const QString when = journal.last.toString("yyyy-MM-dd, hh:mm");
+    const QString question = "Restore the session of " + when + "?";
+    if (platform_.AskYesNo(kProgramName, FromQt(question))) {
+      Restore(journal);
+      return;
+    }
+    Keep(journal);
+  }
+}
+
+void JournalKeeper::Restore(LeftJournal& journal) {
+  if (sessions_.PlayAndTell(journal.lines, journal.path, "Restore Session")) {
+    QFile::remove(journal.path);
+  } else {
+    Keep(journal);
+  }
+}
+
+void JournalKeeper::Keep(const LeftJournal& journal) {
+  const QString kept = KeepAsSession(journal);
+  platform_.ShowMessage(
+      {FromQt("The session is kept as " + (kept.isEmpty() ? journal.path : kept))});
+}
+
+}  // namespace lignara

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+#include "app/session_state.h"
+
+namespace lignara {
+
+class DesktopPlatform;
+
+/// How a session was played.
+struct SessionPlay {
+  QStringList said;     ///< what boxes would have said
+  QStringList leftOut;  ///< what was not done: prints, files, pictures
+  QStringList read;     ///< what `read` and `rows` lines told, a text each, where that is kept
+  QString stop;         ///< "FILE:LINE: reason" where a line could not be carried out
+  bool cancelled = false;
+};
+
+/// Told ahead of each line of how many are done; false ends the play.
+using SessionProgress = std::function<bool(int done)>;
+
+/// What becomes of lines that only read.
+enum class Reading { PassedOver, Kept };
+
+/// Plays the lines of a session on the windows as they stand, with no box on the way. It prints
+/// nothing, writes no file and takes no picture, and does not end the program. `name` is the file
+/// of the lines.
+SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPlatform& platform,
+                        const SessionProgress& progress, Reading reading = Reading::PassedOver);
+
+/// Brings the program to where it stands after its start: the launcher alone, nothing entered.
+void StartProgramAgain(SessionState& session, DesktopPlatform& platform);
+
+/// The lines of a session file, read with bounds on its size. Empty, with the reason in `refusal`,
+/// where it cannot be read.
+QStringList ReadSessionFile(const QString& path, QString& refusal);
+
+}  // namespace lignara

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "app/session_state.h"
+#include "desktop/kit/session_commands.h"
+#include "desktop/session/session_player.h"
+#include "desktop/session/session_record.h"
+
+namespace lignara {
+
+class DesktopPlatform;
+
+/// The session of a running program: what was done in it is recorded, saved, opened, taken back.
+class Sessions : public QObject, public SessionCommands {
+ public:
+  Sessions(SessionState& session, DesktopPlatform& platform);
+  ~Sessions() override;
+
+  void Save() override { Later(&Sessions::SaveNow); }
+  void Open() override { Later(&Sessions::OpenNow); }
+  void Undo() override { Later(&Sessions::UndoNow); }
+  void Redo() override { Later(&Sessions::RedoNow); }
+  bool CanUndo() const override;
+  /// Leaves the keys of undo and redo to the session where a field has nothing to take back.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool CanRedo() const override { return !undone_.empty(); }
+
+  /// Plays lines in the program as it stands after its start, and tells of what is to be told under
+  /// a title. `name` is the file of the lines. False where
+  /// they were not played whole.
+  bool PlayAndTell(const QStringList& lines, const QString& name, const QString& title);
+
+  SessionRecord& record() { return record_; }
+  /// Is told when the record is another one: lines were taken back, or a session was opened.
+  void OnReplaced(std::function<void()> told) { replaced_ = std::move(told); }
+  /// Is handed the lines of each action that ends.
+  void OnAppend(std::function<void(const QStringList&)> told) { appended_ = std::move(told); }
+
+ private:
+  /// A session in words of a script that heads it: program, date, title.
+  QStringList Header(const QString& path) const;
+  void Later(void (Sessions::*command)());
+  void SaveNow();
+  void OpenNow();
+  void UndoNow();
+  void RedoNow();
+  /// The program as it stands after its start.
+  void StartAgain();
+  SessionPlay Replay(const QStringList& lines, const QString& name);
+  void Appended(const QStringList& lines);
+
+  SessionState& session_;
+  DesktopPlatform& platform_;
+  SessionRecord record_;
+  std::vector<QStringList> undone_;
+  bool playing_ = false;
+  bool replaying_ = false;  ///< from the start of the program on
+  std::function<void()> replaced_ = [] {};
+  std::function<void(const QStringList&)> appended_ = [](const QStringList&) {};
+};
+
+/// The kinds of files in the dialogs.
+inline constexpr const char* kSessionFilter = "Session(*.lig)|*.lig|All(*.*)|*.*|";
+
+}  // namespace lignara

@@ -1,0 +1,121 @@
+#include "desktop/session/variants.h"
+
+#include <QRegularExpression>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/kit/text.h"
+#include "desktop/session/script_error.h"
+#include "desktop/session/script_line.h"
+#include "desktop/session/session_player.h"
+
+namespace lignara {
+namespace {
+
+constexpr int kMostValues = 10000;
+
+int Decimals(const QString& number) {
+  const qsizetype point = number.indexOf('.');
+  return point < 0 ? 0 : static_cast<int>(number.size() - point - 1);
+}
+
+QStringList RangeValues(const QRegularExpressionMatch& range, QString& refusal) {
+  const QString by = range.captured(3).isEmpty() ? "1" : range.captured(3);
+  const double first = range.captured(1).toDouble();
+  const double last = range.captured(2).toDouble();
+  const double step = by.toDouble();
+  // As many steps as fit; what is missing to a whole one by rounding counts as whole.
+  const double steps = step == 0 ? -1 : std::floor((last - first) / step + 1e-6);
+  if (!(steps >= 0 && steps < kMostValues)) {
+    refusal = "the range has no values, or more than 10000";
+    return {};
+  }
+  const int decimals = std::max(Decimals(range.captured(1)), Decimals(by));
+  QStringList values;
+  for (int i = 0; i <= static_cast<int>(steps); ++i) {
+    values << QString::number(first + i * step, 'f', decimals);
+  }
+  return values;
+}
+
+std::vector<ScriptWord> WordsOf(const QString& line) {
+  try {
+    return SplitScriptLine(line);
+  } catch (const ScriptError&) {
+    return {};
+  }
+}
+
+bool Reads(const std::vector<ScriptWord>& words) {
+  return words.size() > 1 && (words[0].text == "read" || words[0].text == "rows");
+}
+
+/// The captions of a line, without its first word and so many of its last.
+QString Captions(const std::vector<ScriptWord>& words, std::size_t lastOnes) {
+  QStringList captions;
+  for (std::size_t i = 1; i + lastOnes < words.size(); ++i) captions << words[i].text;
+  return captions.join(' ');
+}
+
+QString WithValue(const QString& line, const QString& value) {
+  const std::vector<ScriptWord> words = WordsOf(line);
+  QString changed = words[0].text;
+  for (std::size_t i = 1; i + 1 < words.size(); ++i) changed += " " + Quoted(words[i].text);
+  return changed + " " + Quoted(value);
+}
+
+}  // namespace
+
+QStringList ParseValues(const QString& text, QString& refusal) {
+  static const QString number = "([-+]?(?:\\d+\\.?\\d*|\\.\\d+))";
+  static const QRegularExpression range("^\\s*" + number + "\\s*\\.\\.\\s*" + number +
+                                        "(?:\\s+step\\s+" + number + ")?\\s*$");
+  if (const auto match = range.match(text); match.hasMatch()) return RangeValues(match, refusal);
+  QStringList values;
+  for (const QString& value : text.split(',', Qt::SkipEmptyParts)) values << value.trimmed();
+  values.removeAll(QString());
+  if (values.isEmpty()) refusal = "there are no values";
+  if (values.size() > kMostValues) refusal = "there are more than 10000 values";
+  return refusal.isEmpty() ? values : QStringList();
+}
+
+QString WhyNoVariants(const QStringList& lines, int enterLine) {
+  if (enterLine < 0 || enterLine >= lines.size()) {
+    return QString("there is no line %1").arg(enterLine + 1);
+  }
+  const std::vector<ScriptWord> words = WordsOf(lines[enterLine]);
+  const bool enters = words.size() >= 3 && words[0].text == "enter";
+  return enters ? QString() : QString("line %1 enters no value").arg(enterLine + 1);
+}
+
+QStringList VariantHeads(const Variants& variants) {
+  QStringList heads(Captions(WordsOf(variants.lines[variants.enterLine]), 1));
+  for (const QString& line : variants.lines) {
+    const std::vector<ScriptWord> words = WordsOf(line);
+    if (Reads(words)) heads << Captions(words, 0);
+  }
+  return heads;
+}
+
+QStringList PlayVariant(const Variants& variants, const QString& value, SessionState& session,
+                        DesktopPlatform& platform, QString& refusal) {
+  QStringList lines = variants.lines;
+  lines[variants.enterLine] = WithValue(lines[variants.enterLine], value);
+  StartProgramAgain(session, platform);
+  const SessionPlay play = PlaySession(
+      lines, value, platform, [](int) { return true; }, Reading::Kept);
+  refusal = play.stop;
+  return refusal.isEmpty() ? QStringList(value) + play.read : QStringList();
+}
+
+QString CsvLine(const QStringList& cells) {
+  static const QRegularExpression special("[\",\\n]");
+  QStringList written;
+  for (QString cell : cells) {
+    const bool quoted = cell.contains(special);
+    written << (quoted ? "\"" + cell.replace("\"", "\"\"") + "\"" : cell);
+  }
+  return written.join(',');
+}
+
+}  // namespace lignara

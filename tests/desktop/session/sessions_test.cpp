@@ -1,0 +1,225 @@
+// Sessions: saved, opened, taken back.
+
+#include "desktop/session/sessions.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "desktop/kit/text.h"
+#include "desktop/session/script_error.h"
+#include "tests/desktop/open_desktop.h"
+#include "tests/desktop/screen_text.h"
+
+namespace lignara {
+namespace {
+
+/// The program with a session, and a folder for its files.
+class SessionProgram : public OpenDesktop {
+ public:
+  SessionProgram() { QApplication::processEvents(); }
+
+  void LoadKingPost() {
+    OpenKingPost();
+    Play({"select \"Top Node Loads (lbs)\" 1", "enter \"Top Node Loads (lbs)\" 1000",
+          "press \"Enter\"", "press \"Run\""});
+  }
+
+  void Save(const QString& path) {
+    Play({"window main"});
+    Line("answer file " + Quoted(path));
+    Play({"menu \"Files\" \"Save Session...\""});
+  }
+
+  void Open(const QString& path) {
+    Play({"window main"});
+    if (sessions.CanUndo()) Play({"answer yes"});
+    Line("answer file " + Quoted(path));
+    Play({"menu \"Files\" \"Open Session...\""});
+  }
+
+  void Line(const QString& line) { Play({FromQt(line).c_str()}); }
+  std::string Screen() const { return FromQt(ScreenText(platform).join('\n')); }
+  /// The last box's text.
+  std::string Told() const {
+    const QStringList boxes = printed.filter("message ");
+    return boxes.isEmpty() ? "" : FromQt(boxes.last());
+  }
+
+  Sessions sessions{session, platform};
+};
+
+class SessionsTest : public testing::Test {
+ protected:
+  QString Path(const char* name) const { return folder.filePath(name); }
+
+  QString Write(const QByteArray& text) const {
+    QFile file(Path("written.lig"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    return file.fileName();
+  }
+
+  QByteArray Read(const char* name) const {
+    QFile file(Path(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+
+  QTemporaryDir folder;
+  SessionProgram program;
+};
+
+TEST_F(SessionsTest, WhatIsSavedOpensAsItWas) {
+  program.LoadKingPost();
+  program.Save(Path("a.lig"));
+  SessionProgram other;
+  other.Open(Path("a.lig"));
+  // The launcher came to the front to save.
+  other.Play({"window main"});
+  EXPECT_EQ(other.Screen(), program.Screen());
+  EXPECT_EQ(other.Told(),
+            "message \"Open Session\" \"AREA OR MOD. PROP. NOT SELECTED, NO DEF. WILL BE "
+            "CALCULATED\\nNO STRESS WILL BE CALCULATED, NEED WOOD TYPE & SIZE\"")
+      << "what the boxes of the run said";
+  EXPECT_EQ(FromQt(other.sessions.record().LinesOfFirst(5).join('\n')),
+            FromQt(program.sessions.record().LinesOfFirst(5).join('\n')));
+}
+
+TEST_F(SessionsTest, AFileIsAScriptUnderAHeadOfComments) {
+  program.LoadKingPost();
+  program.Save(Path("roof.lig"));
+  const QStringList lines = QString(Read("roof.lig")).split('\n');
+  EXPECT_TRUE(lines[1].startsWith("# program: Lignara 6.1")) << FromQt(lines[1]);
+  EXPECT_TRUE(lines[2].startsWith("# date: ")) << FromQt(lines[2]);
+  EXPECT_EQ(FromQt(lines[3]), "# title: roof");
+  EXPECT_EQ(FromQt(lines[4]), "press \"KINGPOST\"");
+  OpenDesktop plain;
+  for (const QString& line : lines) plain.Play({FromQt(line).c_str()});
+  EXPECT_EQ(FromQt(ScreenText(plain.platform).join('\n')), program.Screen());
+}
+
+TEST_F(SessionsTest, WorkOnTheScreenIsAskedForFirst) {
+  program.LoadKingPost();
+  const std::string before = program.Screen();
+  program.Play({"window main", "answer no", "menu \"Files\" \"Open Session...\""});
+  EXPECT_EQ(program.Screen(), before);
+  EXPECT_EQ(FromQt(program.printed.last()),
+            "ask \"Open Session\" \"All windows are closed. Go on?\"");
+}
+
+TEST_F(SessionsTest, ALineThatCannotBeCarriedOutStopsThePlayThere) {
+  const QString path = Write("# mine\npress \"KINGPOST\"\npress \"Nonsense\"\npress \"FINK\"\n");
+  program.Open(path);
+  EXPECT_EQ(program.Told(),
+            "message \"Open Session\" \"" + FromQt(path) +
+                ":3: no control is named \\\"Nonsense\\\"\\nWhat was built so far is "
+                "on the screen.\"");
+  EXPECT_EQ(program.session.TrussType, "KINGPOST");
+}
+
+TEST_F(SessionsTest, BoxesAreAListAtTheEnd) {
+  program.Open(Write("enter \"Enter No. of Spans\" 1\npress \"Multi-Span Beam\"\n"));
+  EXPECT_EQ(program.Told(), "message \"Open Session\" \"You must enter at least 2 spans\"");
+}
+
+TEST_F(SessionsTest, NothingIsPrintedWrittenOrPictured) {
+  const QString saved = Path("report.txt");
+  const QString picture = Path("a.png");
+  program.LoadKingPost();
+  QStringList lines = program.sessions.record().Lines();
+  lines << "answer file " + Quoted(saved) << "menu \"Files\" \"Save Output to Text File...\""
+        << "screenshot " + Quoted(picture) << "picture \"Truss\" " + Quoted(picture)
+        << "read \"Left Side\""
+        << "window main"
+        << "press \"Ply Wood\""
+        << "window ply"
+        << "press \"Standard Live Loads\""
+        << "press \"Print\"";
+  program.printed.clear();
+  program.Open(Write(lines.join('\n').toUtf8()));
+  EXPECT_FALSE(QFile::exists(saved));
+  EXPECT_FALSE(QFile::exists(picture));
+  EXPECT_TRUE(program.printed.filter("printed").isEmpty());
+  EXPECT_TRUE(program.printed.filter("value").isEmpty());
+  const std::string told = program.Told();
+  for (const QString& part : {"Left out: saving " + saved, QString("Left out: printing"),
+                              QString("Left out: screenshot"), QString("Left out: picture")}) {
+    EXPECT_NE(told.find(FromQt(part)), std::string::npos) << FromQt(part) << " in " << told;
+  }
+}
+
+TEST_F(SessionsTest, DefaultsForLaterRunsAreNotKept) {
+  program.Open(
+      Write("press \"Glu-Lam Data Base\"\nwindow GL\n"
+            "press \"Set user adjustment as default\"\n"));
+  EXPECT_EQ(
+      program.Told(),
+      "message \"Open Session\" \"Left out: keeping defaults for later runs of the program\"");
+}
+
+TEST_F(SessionsTest, ASessionDoesNotEndTheProgram) {
+  program.Open(Write("press \"KINGPOST\"\nwindow main\nclose\nmenu \"Files\" \"Exit\"\n"));
+  EXPECT_EQ(program.platform.OpenWindows(), (QStringList{"main", "TR_INPUT"}));
+}
+
+TEST_F(SessionsTest, ASessionOpensNoOther) {
+  const QString path = Path("written.lig");
+  program.Open(Write("answer file " + Quoted(path).toUtf8() +
+                     "\nmenu \"Files\" \"Open Session...\"\npress \"FINK\"\n"));
+  EXPECT_EQ(program.session.TrussType, "FINK");
+}
+
+TEST_F(SessionsTest, AFileThatCannotBeReadIsTold) {
+  program.Open(Path("missing.lig"));
+  EXPECT_EQ(program.Told(),
+            "message \"Lignara\" \"Cannot read " + FromQt(Path("missing.lig")) + "\"");
+  program.Save("/no such folder/a.lig");
+  EXPECT_EQ(program.Told(), "message \"Lignara\" \"Cannot write /no such folder/a.lig\"");
+}
+
+TEST_F(SessionsTest, UndoTakesTheLastActionBackAndRedoDoesItAgain) {
+  program.LoadKingPost();
+  program.Play({"window TRUSS", "press \"Deflections\""});
+  const std::string before = program.Screen();
+  program.Play({"enter \"Top Node Loads (lbs)\" 2000"});
+  const std::string after = program.Screen();
+  ASSERT_NE(before, after);
+  program.Play({"window main", "menu \"Files\" \"Undo\""});
+  EXPECT_EQ(program.Screen(), before);
+  program.Play({"window main", "menu \"Files\" \"Redo\""});
+  EXPECT_EQ(program.Screen(), after);
+  EXPECT_FALSE(program.sessions.CanRedo());
+}
+
+TEST_F(SessionsTest, ANewActionEndsRedo) {
+  program.LoadKingPost();
+  program.sessions.Undo();
+  QApplication::processEvents();
+  EXPECT_TRUE(program.sessions.CanRedo());
+  program.Play({"window TRUSS", "press \"Deflections\""});
+  EXPECT_FALSE(program.sessions.CanRedo());
+}
+
+TEST_F(SessionsTest, UndoGoesBackToTheStart) {
+  const std::string start = program.Screen();
+  program.LoadKingPost();
+  for (int i = 0; i < 100 && program.sessions.CanUndo(); ++i) {
+    program.sessions.Undo();
+    QApplication::processEvents();
+  }
+  EXPECT_EQ(program.Screen(), start);
+}
+
+TEST_F(SessionsTest, TheKeyTakesBackWhereAFieldHasNothingToTakeBack) {
+  program.LoadKingPost();
+  program.Play({"window TRUSS", "press \"Deflections\""});
+  ASSERT_NE(program.Screen().find("TRUSS Deflections shown panel"), std::string::npos);
+  program.PressKey("TRUSS", Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(program.Screen().find("TRUSS Deflections shown panel"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace lignara

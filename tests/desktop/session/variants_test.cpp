@@ -1,0 +1,89 @@
+// One field of a session with several values, and what comes out of each.
+
+#include "desktop/session/variants.h"
+
+#include <gtest/gtest.h>
+
+#include "desktop/kit/text.h"
+#include "tests/desktop/open_desktop.h"
+
+namespace lignara {
+namespace {
+
+struct Values {
+  const char* text;
+  const char* values;  ///< with a blank between; empty: refused
+};
+
+class ParseValuesTest : public testing::TestWithParam<Values> {};
+
+TEST_P(ParseValuesTest, GivesListsAndRanges) {
+  QString refusal;
+  EXPECT_EQ(FromQt(ParseValues(GetParam().text, refusal).join(' ')), GetParam().values);
+  EXPECT_EQ(refusal.isEmpty(), *GetParam().values != '\0');
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, ParseValuesTest,
+                         testing::Values(Values{"20..40 step 5", "20 25 30 35 40"},
+                                         Values{"1..4", "1 2 3 4"},
+                                         Values{"20..41 step 10", "20 30 40"},
+                                         Values{"0..0.3 step 0.1", "0.0 0.1 0.2 0.3"},
+                                         Values{"10..4 step -2", "10 8 6 4"}, Values{"30", "30"},
+                                         Values{"20, 24 ,30.5", "20 24 30.5"}, Values{"7..7", "7"},
+                                         Values{"", ""}, Values{",", ""}, Values{"1..2 step 0", ""},
+                                         Values{"2..1", ""}, Values{"0..1e9", "0..1e9"},
+                                         Values{"0..1 step 0.00001", ""}));
+
+TEST(Variants, ATrussOfSeveralLengthsGivesARowEach) {
+  OpenDesktop desktop;
+  Variants variants;
+  variants.lines = QStringList{"press \"KINGPOST\"",
+                               "window TR_INPUT",
+                               "enter \"Total Length (ft)\" 24",
+                               "enter \"H (ft)\" 5",
+                               "press \"OK\"",
+                               "window TRUSS",
+                               "enter \"Top Node Loads (lbs)\" 1000",
+                               "press \"All\"",
+                               "press \"Run\"",
+                               "read \"Left Side\"",
+                               "rows \"Top Node Loads (lbs)\""};
+  variants.enterLine = 6;
+  EXPECT_EQ(FromQt(VariantHeads(variants).join('/')),
+            "Top Node Loads (lbs)/Left Side/Top Node Loads (lbs)");
+  QString refusal;
+  const QStringList first =
+      PlayVariant(variants, "1000", desktop.session, desktop.platform, refusal);
+  const QStringList other =
+      PlayVariant(variants, "2000", desktop.session, desktop.platform, refusal);
+  ASSERT_EQ(first.size(), 3) << FromQt(refusal);
+  ASSERT_EQ(other.size(), 3) << FromQt(refusal);
+  // All loads twice as large: so is the reaction.
+  EXPECT_DOUBLE_EQ(other[1].toDouble(), 2 * first[1].toDouble());
+  EXPECT_GT(first[1].toDouble(), 0);
+}
+
+TEST(Variants, AValueThatCannotBePlayedSaysWhy) {
+  OpenDesktop desktop;
+  Variants variants;
+  variants.lines =
+      QStringList{"enter \"Enter No. of Spans\" 2", "press \"Multi-Span Beam\"", "window MS"};
+  QString refusal;
+  EXPECT_TRUE(PlayVariant(variants, "1", desktop.session, desktop.platform, refusal).isEmpty());
+  EXPECT_EQ(FromQt(refusal), "1:3: the window MS is not open");
+}
+
+TEST(Variants, OnlyALineThatEntersCanTakeValues) {
+  const QStringList lines = {"press \"KINGPOST\"", "enter \"A\" 1", "enter \"A"};
+  EXPECT_EQ(FromQt(WhyNoVariants(lines, 0)), "line 1 enters no value");
+  EXPECT_EQ(FromQt(WhyNoVariants(lines, 1)), "");
+  EXPECT_EQ(FromQt(WhyNoVariants(lines, 2)), "line 3 enters no value");
+  EXPECT_EQ(FromQt(WhyNoVariants(lines, 3)), "there is no line 4");
+}
+
+TEST(CsvLine, QuotesWhatWouldSplit) {
+  EXPECT_EQ(FromQt(CsvLine({"a", "b, c", "d \"e\"", ""})), "a,\"b, c\",\"d \"\"e\"\"\",");
+}
+
+}  // namespace
+}  // namespace lignara
