@@ -88,14 +88,13 @@ class GlulamForm : public ToolWindow {
     AddStatusLine();
     auto* area = new QWidget;
     setCentralWidget(area);
-    auto* columns = new QGridLayout(area);
-    columns->setHorizontalSpacing(12);
-    columns->setColumnStretch(0, 1);
-    columns->addLayout(Combinations(), 0, 0);
-    // Put there ahead of the values, so that the Tab key comes to the choices first.
+    auto* columns = new QHBoxLayout(area);
+    columns->setSpacing(12);
+    columns->addLayout(Combinations(), 1);
+    // Made ahead of the values, so that the Tab key comes to the choices first.
     QLayout* choices = Choices();
-    columns->addLayout(choices, 0, 2);
-    columns->addLayout(Values(), 0, 1);
+    columns->addLayout(choices);
+    columns->insertLayout(1, Values());
     auto* done = new QPushButton("Done / &Transfer");
     binding().Press(done, [this] { TransferGlulamSelection(record_, session(), platform()); });
     choices->addWidget(done);

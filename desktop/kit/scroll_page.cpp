@@ -1,9 +1,28 @@
 #include "desktop/kit/scroll_page.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace lignara {
+
+namespace {
+
+/// The least room of columns side by side, without the margins around them.
+QSize SideBySide(const QBoxLayout* columns) {
+  QSize room(0, 0);
+  for (int i = 0; i < columns->count(); ++i) {
+    const QLayoutItem* column = columns->itemAt(i);
+    if (column->isEmpty()) continue;
+    const QSize least = column->minimumSize();
+    const int gap = room.width() > 0 ? columns->spacing() : 0;
+    room = {room.width() + gap + least.width(), std::max(room.height(), least.height())};
+  }
+  return room;
+}
+
+}  // namespace
 
 ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent), most_(1000, 640) {
   setWidgetResizable(true);
@@ -14,6 +33,8 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent), most_(1000, 640) 
 void ScrollPage::Hold(QWidget* content) {
   content_ = content;
   content_->setParent(viewport());
+  auto* columns = qobject_cast<QBoxLayout*>(content_->layout());
+  if (columns != nullptr && columns->direction() == QBoxLayout::LeftToRight) columns_ = columns;
 }
 
 void ScrollPage::TakeIn() {
@@ -49,8 +70,27 @@ QSize ScrollPage::WithBars(const QSize& size) const {
 }
 
 bool ScrollPage::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+    Arrange();
+    updateGeometry();
+  }
   return QScrollArea::eventFilter(watched, event);
+}
+
+void ScrollPage::resizeEvent(QResizeEvent* event) {
+  Arrange();
+  QScrollArea::resizeEvent(event);
+}
+
+void ScrollPage::Arrange() {
+  if (columns_ == nullptr) return;
+  const QMargins margins = columns_->contentsMargins();
+  const QSize room = maximumViewportSize().shrunkBy(margins);
+  const QSize needed = SideBySide(columns_);
+  const int bar = needed.height() > room.height() ? verticalScrollBar()->sizeHint().width() : 0;
+  const bool wide = needed.width() + bar <= room.width();
+  const auto direction = wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+  if (columns_->direction() != direction) columns_->setDirection(direction);
 }
 
 void TakeInContents(const QWidget* window) {

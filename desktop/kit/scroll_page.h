@@ -2,10 +2,13 @@
 
 #include <QScrollArea>
 
+class QBoxLayout;
+
 namespace lignara {
 
 /// Holds what stands in a window, or in a part of it, and lets the user scroll where the room is
-/// too small for it. It wants the room that its content wants and is content with `most()`.
+/// too small for it. It wants the room that its content wants and is content with `most()`. Columns
+/// for which it is too narrow stand below each other, so that one has to scroll one way only.
 class ScrollPage : public QScrollArea {
  public:
   explicit ScrollPage(QWidget* parent = nullptr);
@@ -24,12 +27,15 @@ class ScrollPage : public QScrollArea {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Arrange();
   QSize WithBars(const QSize& size) const;
 
   QSize most_;
   QWidget* content_ = nullptr;
+  QBoxLayout* columns_ = nullptr;  ///< of the content, where it has any
 };
 
 /// Takes in what the pages of a window hold.

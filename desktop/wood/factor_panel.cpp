@@ -56,6 +56,27 @@ QString WidestRow(const Rows& rows) {
   return *widest;
 }
 
+/// Parts side by side; in further rows where letters are so large that a small screen has no room
+/// for all of them in one.
+QLayout* InRows(const std::vector<QLayout*>& parts, int gap) {
+  constexpr int kRoom = 940;
+  auto* rows = new QVBoxLayout;
+  QHBoxLayout* row = nullptr;
+  int used = 0;
+  for (QLayout* part : parts) {
+    const int width = part->minimumSize().width() + gap;
+    if (row == nullptr || used + width > kRoom) {
+      row = new QHBoxLayout;
+      row->setSpacing(gap);
+      rows->addLayout(row);
+      used = 0;
+    }
+    row->addLayout(part);
+    used += width;
+  }
+  return rows;
+}
+
 /// Conditions of use first, then the factors that follow from them, then the multipliers and what
 /// to do with them.
 class FactorPanelForm : public QGroupBox {
@@ -83,23 +104,20 @@ class FactorPanelForm : public QGroupBox {
   /// The five lists side by side. A pair stands below the list that it goes with: flat use follows
   /// width and thickness.
   QLayout* Conditions() {
-    auto* columns = new QHBoxLayout;
-    AddChoice(columns, FactorList::Width, kWidthRows);
-    AddChoice(columns, FactorList::Thickness, kThicknessRows)->addWidget(Pair(FactorPair::FlatUse));
-    AddChoice(columns, FactorList::Grade, kGradeRows);
-    AddChoice(columns, FactorList::LoadDuration, kLoadDurationRows);
-    AddChoice(columns, FactorList::ShearCondition, kShearConditionRows)
-        ->addWidget(Pair(FactorPair::RepetitiveUse));
-    for (int i = 0; i < columns->count(); ++i) {
-      static_cast<QVBoxLayout*>(columns->itemAt(i)->layout())->addStretch();
-    }
-    return columns;
+    QVBoxLayout* width = Choice(FactorList::Width, kWidthRows);
+    QVBoxLayout* thickness = Choice(FactorList::Thickness, kThicknessRows);
+    thickness->addWidget(Pair(FactorPair::FlatUse));
+    QVBoxLayout* grade = Choice(FactorList::Grade, kGradeRows);
+    QVBoxLayout* duration = Choice(FactorList::LoadDuration, kLoadDurationRows);
+    QVBoxLayout* shear = Choice(FactorList::ShearCondition, kShearConditionRows);
+    shear->addWidget(Pair(FactorPair::RepetitiveUse));
+    for (QVBoxLayout* column : {width, thickness, grade, duration, shear}) column->addStretch();
+    return InRows({width, thickness, grade, duration, shear}, kGap);
   }
 
   template <typename Rows>
-  QVBoxLayout* AddChoice(QHBoxLayout* columns, FactorList list, const Rows& rows) {
+  QVBoxLayout* Choice(FactorList list, const Rows& rows) {
     auto* column = new QVBoxLayout;
-    columns->addLayout(column);
     QListWidget* shown = AddList(column, kFactorListCaptions[static_cast<std::size_t>(list)],
                                  rows.size(), WidestRow(rows));
     binding_.List(shown, &window_.panel.List(list).rows, &window_.panel.List(list).row,
@@ -124,20 +142,16 @@ class FactorPanelForm : public QGroupBox {
   }
 
   QLayout* Factors() {
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(Boxes());
-    columns->addSpacing(12);
-    columns->addLayout(FactorRows("Size Factor", 4, &window_.panel.sizeRows));
-    columns->addSpacing(12);
+    QLayout* fields = Fields();
+    QLayout* sizes = FactorRows("Size Factor", 4, &window_.panel.sizeRows);
     auto* moisture = new QVBoxLayout;
     moisture->addWidget(Pair(FactorPair::Moisture));
     moisture->addStretch();
-    columns->addLayout(moisture);
-    columns->addLayout(FactorRows("Wet Use Factor", 7, &window_.panel.wetRows));
-    return columns;
+    QLayout* wet = FactorRows("Wet Use Factor", 7, &window_.panel.wetRows);
+    return InRows({fields, sizes, moisture, wet}, kWideGap);
   }
 
-  QLayout* Boxes() {
+  QLayout* Fields() {
     auto* rows = new QVBoxLayout;
     auto* grid = new QGridLayout;
     for (const FactorBox& box : kFactorBoxes) {
@@ -158,18 +172,20 @@ class FactorPanelForm : public QGroupBox {
 
   /// "Calculate Factors", what comes of it, and the way out.
   QLayout* Results() {
+    auto* first = new QHBoxLayout;
     auto* row = new QHBoxLayout;
     calculate_ = new QPushButton("Ca&lculate Factors");
     binding_.Press(calculate_, [this] { CalculateFactors(window_, platform_); });
-    row->addWidget(calculate_, 0, Qt::AlignBottom);
-    row->addWidget(Multipliers(), 1);
+    first->addWidget(calculate_, 0, Qt::AlignBottom);
+    first->addWidget(Multipliers(), 1);
+    row->addStretch();
     auto* ok = new QPushButton("OK");
     binding_.Press(ok, [this] { AcceptFactors(window_, session_, platform_); });
     cancel_ = new QPushButton("Cancel");
     binding_.Press(cancel_, [this] { CancelFactors(window_); });
     row->addWidget(ok, 0, Qt::AlignBottom);
     row->addWidget(cancel_, 0, Qt::AlignBottom);
-    return row;
+    return InRows({first, row}, kGap);
   }
 
   QGroupBox* Multipliers() {
@@ -178,13 +194,15 @@ class FactorPanelForm : public QGroupBox {
     for (int i = 0; i < kStressKinds; ++i) {
       const char* caption = kMultiplierCaptions[static_cast<std::size_t>(i)];
       grid->addWidget(new QLabel(caption), 0, i);
-      QLineEdit* box = MakeField(caption, 48);
-      ShowOnly(box);
-      binding_.Text(box, &window_.panel.multipliers[static_cast<std::size_t>(i)]);
-      grid->addWidget(box, 1, i);
+      QLineEdit* field = MakeField(caption, 48);
+      ShowOnly(field);
+      binding_.Text(field, &window_.panel.multipliers[static_cast<std::size_t>(i)]);
+      grid->addWidget(field, 1, i);
     }
     return panel;
   }
+
+  static constexpr int kGap = 6, kWideGap = 12;
 
   WoodDataBaseWindow& window_;
   Binding& binding_;

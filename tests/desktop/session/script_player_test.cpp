@@ -102,6 +102,11 @@ TEST_F(ScriptPlayerTest, ReadGivesPlainTextForTheLegend) {
   EXPECT_EQ(Said({"read \"Tension\""}), "value \"Tension\"");
 }
 
+TEST_F(ScriptPlayerTest, ReadGivesACaptionWithoutTheMarkOfItsKey) {
+  desktop.Play({"press \"Glu-Lam Data Base\"", "window GL"});
+  EXPECT_EQ(Said({"read \"Combination Symbol\""}), "value \"Combination Symbol\"");
+}
+
 TEST_F(ScriptPlayerTest, TheLaunchersPicturesHaveShapes) {
   EXPECT_EQ(Said({"shapes \"KINGPOST\""}).substr(0, 5), "line ");
 }
