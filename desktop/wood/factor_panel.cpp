@@ -63,15 +63,16 @@ QLayout* InRows(const std::vector<QLayout*>& parts, int gap) {
   auto* rows = new QVBoxLayout;
   QHBoxLayout* row = nullptr;
   int used = 0;
-  for (QLayout* part : parts) {
-    const int width = part->minimumSize().width() + gap;
+  for (QLayout* layout : parts) {
+    QWidget* part = InWidget(layout);
+    const int width = part->minimumSizeHint().width() + gap;
     if (row == nullptr || used + width > kRoom) {
       row = new QHBoxLayout;
       row->setSpacing(gap);
       rows->addLayout(row);
       used = 0;
     }
-    row->addLayout(part);
+    row->addWidget(part);
     used += width;
   }
   return rows;
