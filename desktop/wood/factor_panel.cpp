@@ -56,24 +56,21 @@ QString WidestRow(const Rows& rows) {
   return *widest;
 }
 
-/// Parts side by side; in further rows where letters are so large that a small screen has no room
-/// for all of them in one.
+/// Parts side by side; in two rows where letters are so large that a small screen has no room for
+/// all of them in one.
 QLayout* InRows(const std::vector<QLayout*>& parts, int gap) {
-  constexpr int kRoom = 940;
+  constexpr int kUsual = 100, kLarge = 130;
+  const bool large = InLetters(kUsual) > kLarge;
+  const std::size_t most = large ? (parts.size() + 1) / 2 : parts.size();
   auto* rows = new QVBoxLayout;
   QHBoxLayout* row = nullptr;
-  int used = 0;
-  for (QLayout* layout : parts) {
-    QWidget* part = InWidget(layout);
-    const int width = part->minimumSizeHint().width() + gap;
-    if (row == nullptr || used + width > kRoom) {
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (i % most == 0) {
       row = new QHBoxLayout;
       row->setSpacing(gap);
       rows->addLayout(row);
-      used = 0;
     }
-    row->addWidget(part);
-    used += width;
+    row->addLayout(parts[i]);
   }
   return rows;
 }
