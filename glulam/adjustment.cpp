@@ -12,7 +12,7 @@
 #include "glulam/glulam_columns.h"
 #include "glulam/glulam_window.h"
 #include "glulam/load_durations.h"
-#include "glulam/stability.h"
+#include "glulam/size_and_stability.h"
 
 namespace lignara {
 namespace {

@@ -1,4 +1,4 @@
-#include "glulam/stability.h"
+#include "glulam/size_and_stability.h"
 
 #include <cmath>
 #include <limits>
