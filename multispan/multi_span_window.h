@@ -84,7 +84,7 @@ void ShowNextLoad(MultiSpanWindow& window, SessionState& session);
 /// Shows the entry of the current load, and the numbers.
 void ShowPointLoad(MultiSpanWindow& window, const SessionState& session);
 
-// Solving (solve_command.cpp).
+// Solving (run.cpp).
 
 /// "Run": solves the beam and shows its results in a window of their own.
 void RunMultiSpan(SessionState& session, Platform& platform);
