@@ -4,7 +4,7 @@
 #include "beam/stress_check.h"
 #include "glulam/glulam_columns.h"
 #include "glulam/load_durations.h"
-#include "glulam/use_conditions.h"
+#include "glulam/moisture_and_load_types.h"
 
 namespace lignara {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "glulam/use_conditions.h"
+#include "glulam/moisture_and_load_types.h"
 
 namespace lignara {
 

@@ -6,7 +6,7 @@
 #include "app/window_names.h"
 #include "glulam/glulam_window.h"
 #include "glulam/load_durations.h"
-#include "glulam/use_conditions.h"
+#include "glulam/moisture_and_load_types.h"
 
 namespace lignara {
 namespace {

@@ -23,7 +23,7 @@
 #include "glulam/combination_files.h"
 #include "glulam/glulam_columns.h"
 #include "glulam/load_durations.h"
-#include "glulam/use_conditions.h"
+#include "glulam/moisture_and_load_types.h"
 
 namespace lignara {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "app/launcher.h"
 #include "glulam/load_durations.h"
-#include "glulam/use_conditions.h"
+#include "glulam/moisture_and_load_types.h"
 
 namespace lignara {
 
