@@ -30,6 +30,13 @@ std::optional<std::string> FromQt(const std::optional<QString>& text) {
   return text ? std::optional(lignara::FromQt(*text)) : std::nullopt;
 }
 
+/// What an action opened or closed moves the rest of its window area by area, from inside out, one
+/// in each round of events.
+void Settle() {
+  constexpr int kAreasWithinEachOther = 4;
+  for (int round = 0; round < kAreasWithinEachOther; ++round) QApplication::processEvents();
+}
+
 }  // namespace
 
 ScriptPlatform::ScriptPlatform(SessionState& session, ScriptOutput output)
@@ -47,7 +54,7 @@ void ScriptPlatform::Place(ToolWindow* window) {
 }
 
 void ScriptPlatform::LetBeSeen(ToolWindow* window) {
-  if (window->updatesEnabled()) return;
+  if (window->updatesEnabled()) return Settle();
   const QList<QLayout*> layouts = window->findChildren<QLayout*>();
   for (QLayout* layout : layouts) {
     layout->setEnabled(true);
@@ -57,7 +64,7 @@ void ScriptPlatform::LetBeSeen(ToolWindow* window) {
   // They have passed over the sizes that their widgets got meanwhile.
   for (QLayout* layout : layouts) layout->activate();
   window->setUpdatesEnabled(true);
-  QApplication::processEvents();
+  Settle();
 }
 
 void ScriptPlatform::PrintingUser::ShowMessage(const Message& message) {

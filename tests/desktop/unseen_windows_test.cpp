@@ -60,5 +60,19 @@ TEST(UnseenWindows, FollowFurtherCommandsOnceTheyAreLookedAt) {
   EXPECT_EQ(Places(unseen.Window("TRUSS")), Places(seen.Window("TRUSS")));
 }
 
+/// A panel that opens moves what stands around it area by area; a look waits for that.
+TEST(UnseenWindows, StandStillWhenTheyAreLookedAtAgain) {
+  OpenDesktop desktop;
+  desktop.platform.PaintNothing();
+  desktop.Play(kTruss);
+  ToolWindow* truss = desktop.Window("TRUSS");
+  desktop.platform.LetBeSeen(truss);
+  desktop.Play({"press \"Deflections\""});
+  desktop.platform.LetBeSeen(truss);
+  const auto places = Places(truss);
+  desktop.Play({"windows", "windows", "windows"});
+  EXPECT_EQ(Places(truss), places);
+}
+
 }  // namespace
 }  // namespace lignara
