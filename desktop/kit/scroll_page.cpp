@@ -93,8 +93,17 @@ void ScrollPage::Arrange() {
   if (columns_->direction() != direction) columns_->setDirection(direction);
 }
 
+std::vector<ScrollPage*> PagesOf(const QWidget* window) {
+  std::vector<ScrollPage*> pages;
+  // A page is no class of its own to the toolkit: asked for it, it would give any scroll area.
+  for (QScrollArea* area : window->findChildren<QScrollArea*>()) {
+    if (auto* page = dynamic_cast<ScrollPage*>(area)) pages.push_back(page);
+  }
+  return pages;
+}
+
 void TakeInContents(const QWidget* window) {
-  for (ScrollPage* page : window->findChildren<ScrollPage*>()) page->TakeIn();
+  for (ScrollPage* page : PagesOf(window)) page->TakeIn();
 }
 
 void Reveal(QWidget* widget) {

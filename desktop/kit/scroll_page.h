@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QScrollArea>
+#include <vector>
 
 class QBoxLayout;
 
@@ -37,6 +38,9 @@ class ScrollPage : public QScrollArea {
   QWidget* content_ = nullptr;
   QBoxLayout* columns_ = nullptr;  ///< of the content, where it has any
 };
+
+/// The pages in a window, outer ones first.
+std::vector<ScrollPage*> PagesOf(const QWidget* window);
 
 /// Takes in what the pages of a window hold.
 void TakeInContents(const QWidget* window);

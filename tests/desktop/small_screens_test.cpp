@@ -74,7 +74,7 @@ class SmallScreens : public testing::TestWithParam<SmallScreen> {
   void ExpectToScrollOneWay(const char* name) {
     if (GetParam().points > 0) return;
     const ToolWindow* window = desktop().Window(name);
-    for (const ScrollPage* page : window->findChildren<ScrollPage*>()) {
+    for (const ScrollPage* page : PagesOf(window)) {
       const bool sideways = page->horizontalScrollBar()->isVisible();
       const bool down = page->verticalScrollBar()->isVisible();
       EXPECT_FALSE(sideways && down) << FromQt(window->name());
