@@ -48,6 +48,8 @@ DesktopPlatform::DesktopPlatform(SessionState& session)
 }
 
 DesktopPlatform::~DesktopPlatform() {
+  // Windows that were closed a moment ago know the platform still.
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   windows_.insert(windows_.begin(), hidden_.begin(), hidden_.end());
   while (!windows_.empty()) {
     ToolWindow* newest = windows_.back();
