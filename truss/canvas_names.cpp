@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/clip.h"
 #include "truss/canvas.h"
 
 namespace lignara {
@@ -84,16 +85,6 @@ NameRoom BottomRoom(const CanvasLine& line, NameSize size) {
   const CanvasPoint mark = line.Middle();
   const double shift = DirectionOf(line) == Direction::Falling ? -size.width : 0.0;
   return {mark.x + shift, mark.y + kBelow, size.width, size.height};
-}
-
-/// Narrows the part [from, to] of a line to where a coordinate lies between two bounds; false where
-/// nothing is left.
-bool Clip(double start, double delta, double low, double high, double& from, double& to) {
-  if (delta == 0) return start >= low && start <= high;
-  const double a = (low - start) / delta, b = (high - start) / delta;
-  from = std::max(from, std::min(a, b));
-  to = std::min(to, std::max(a, b));
-  return from <= to;
 }
 
 /// True where the line comes nearer to the room than its own thickness.

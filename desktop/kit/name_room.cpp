@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "app/clip.h"
+
 namespace lignara {
 namespace {
 
@@ -43,16 +45,6 @@ double Distance(const QRectF& rect, const QPointF& point) {
   const double dx = std::max({rect.left() - point.x(), 0.0, point.x() - rect.right()});
   const double dy = std::max({rect.top() - point.y(), 0.0, point.y() - rect.bottom()});
   return std::hypot(dx, dy);
-}
-
-/// Narrows the part [from, to] of a line to where a coordinate lies between two bounds; false where
-/// nothing is left.
-bool Clip(double start, double delta, double low, double high, double& from, double& to) {
-  if (delta == 0) return start >= low && start <= high;
-  const double a = (low - start) / delta, b = (high - start) / delta;
-  from = std::max(from, std::min(a, b));
-  to = std::min(to, std::max(a, b));
-  return from <= to;
 }
 
 bool Crosses(const QLineF& line, const QRectF& rect) {
