@@ -109,6 +109,15 @@ void OpenDesktop::PressKey(const char* window, Qt::Key key, Qt::KeyboardModifier
   QApplication::processEvents();
 }
 
+QStringList OpenDesktop::Walk(const char* window, int stops) {
+  QStringList path;
+  for (int i = 0; i < stops; ++i) {
+    PressKey(window, Qt::Key_Tab);
+    path << FocusIn(window);
+  }
+  return path;
+}
+
 void OpenDesktop::Type(const char* window, const QString& text) {
   for (const QChar sign : text) QTest::keyClick(ActiveHandle(window), sign.toLatin1());
   QApplication::processEvents();

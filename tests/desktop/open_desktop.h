@@ -37,6 +37,9 @@ class OpenDesktop {
   /// shortcuts and mnemonics to the widget that has the focus.
   void PressKey(const char* window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+  /// The captions at which `stops` presses of Tab in a window stop.
+  QStringList Walk(const char* window, int stops);
+
   /// Types a text where the focus of a window is.
   void Type(const char* window, const QString& text);
 

@@ -68,15 +68,6 @@ class MultiSpanWindowsTest : public testing::Test {
     throw std::runtime_error(name);
   }
 
-  QStringList Walk(const char* window, int stops) {
-    QStringList path;
-    for (int i = 0; i < stops; ++i) {
-      desktop.PressKey(window, Qt::Key_Tab);
-      path << desktop.FocusIn(window);
-    }
-    return path;
-  }
-
   OpenDesktop desktop;
 };
 
@@ -136,9 +127,9 @@ TEST_F(MultiSpanWindowsTest, MnemonicsAreDistinct) {
 TEST_F(MultiSpanWindowsTest, TabWalksTheSpanInTheOrderOfWork) {
   OpenInput();
   EXPECT_EQ(desktop.FocusIn("MS"), "Length(ft)");
-  EXPECT_EQ(Walk("MS", 5), QStringList({"Unbraced Length (ft)", "Unif. ld(lb/ft)", "bf(in)",
-                                        "d(in)", "Gross Area , in^2"}));
-  EXPECT_EQ(Walk("MS", 6),
+  EXPECT_EQ(desktop.Walk("MS", 5), QStringList({"Unbraced Length (ft)", "Unif. ld(lb/ft)", "bf(in)",
+                                                "d(in)", "Gross Area , in^2"}));
+  EXPECT_EQ(desktop.Walk("MS", 6),
             QStringList({"Youngs Mod.(psi)", "Mom. of Inertia(in^4)", "Sect. Mod.(in^3)",
                          "Shear Area(in^2)", "Base All. Bending Str. (psi)",
                          "Base All. Shear Str. (psi)"}));

@@ -47,16 +47,6 @@ class LumberWindowsTest : public testing::Test {
     throw std::runtime_error(name);
   }
 
-  /// The captions at which `stops` presses of Tab stop.
-  QStringList Walk(const char* window, int stops) {
-    QStringList path;
-    for (int i = 0; i < stops; ++i) {
-      desktop.PressKey(window, Qt::Key_Tab);
-      path << desktop.FocusIn(window);
-    }
-    return path;
-  }
-
   OpenDesktop desktop;
 };
 
@@ -118,15 +108,15 @@ TEST_F(LumberWindowsTest, TabWalksTheCalculatorInTheOrderOfWork) {
   EXPECT_EQ(desktop.FocusIn("WTYPETR"), "1");
   desktop.Play({"press \"Width\" \"8\""});
   // The size accepted is only shown, and no stop.
-  EXPECT_EQ(Walk("WTYPETR", 3), QStringList({"1", "Accept", "Select"}));
-  EXPECT_EQ(Walk("WTYPETR", 6),
+  EXPECT_EQ(desktop.Walk("WTYPETR", 3), QStringList({"1", "Accept", "Select"}));
+  EXPECT_EQ(desktop.Walk("WTYPETR", 6),
             QStringList({"B(in)", "D(in)", "Area (in^2)", "Fa (psi)", "Ft (psi)", "E (psi)"}));
 }
 
 TEST_F(LumberWindowsTest, TabGoesFromFamilyToFileToGradeToFactors) {
   OpenDataBase();
   desktop.Play({"press \"Machine Rated\""});
-  EXPECT_EQ(Walk("wdb", 2), QStringList({"Data Base File to Load", "Grades"}));
+  EXPECT_EQ(desktop.Walk("wdb", 2), QStringList({"Data Base File to Load", "Grades"}));
 }
 
 /// Two clicks of the mouse on a row, as a hand makes them.
