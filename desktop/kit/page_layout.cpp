@@ -1,13 +1,18 @@
 #include "desktop/kit/page_layout.h"
 
 #include <QFontMetricsF>
+#include <QPagedPaintDevice>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/kit/legend.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
 namespace {
+
+constexpr double kMargin = 0.75;      ///< around the text, inches
+constexpr double kPageNumber = 0.45;  ///< of the page number below the upper edge, inches
 
 /// A drawing takes no more of a page's height than this, so that the figures stand below it.
 constexpr double kDrawingShare = 0.36;
@@ -120,9 +125,27 @@ class PageMaker {
 
 }  // namespace
 
+QRectF TextArea(const QPagedPaintDevice& paper) {
+  const int dots = paper.logicalDpiX();
+  const double margin = kMargin * dots;
+  return QRectF(paper.pageLayout().fullRectPixels(dots)).adjusted(margin, margin, -margin, -margin);
+}
+
 std::vector<PaperPage> LayOut(const Report& report, const QFont& font, QPaintDevice* device,
                               const QSizeF& area) {
   return PageMaker(report, font, device, area).Make();
+}
+
+void NumberPages(std::vector<PaperPage>& pages, const QFont& font, QPaintDevice* device,
+                 const QSizeF& area) {
+  const QFontMetricsF metrics(font, device);
+  const double foot = (kPageNumber - kMargin) * device->logicalDpiY();
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    const QString number = QString("Page %1 of %2").arg(i + 1).arg(pages.size());
+    const double width = std::ceil(metrics.horizontalAdvance(number));
+    const double height = metrics.lineSpacing();
+    pages[i].push_back(PlacedText{number, {area.width() - width, foot - height, width, height}});
+  }
 }
 
 }  // namespace lignara

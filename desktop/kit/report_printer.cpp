@@ -19,9 +19,6 @@
 namespace lignara {
 namespace {
 
-constexpr double kMargin = 0.75;      ///< around the text, inches
-constexpr double kPageNumber = 0.45;  ///< of the page number below the upper edge, inches
-
 QFont FontOf(const Report& report) {
   QFont font(ToQt(report.fontName), report.fontSize);
   font.setStyleHint(QFont::Serif);
@@ -38,7 +35,6 @@ class PagePainter {
     for (std::size_t i = 0; i < pages.size(); ++i) {
       if (i > 0) paper_.newPage();
       for (const PlacedItem& item : pages[i]) std::visit(*this, item);
-      PaintNumber(i + 1, pages.size());
     }
   }
 
@@ -60,34 +56,22 @@ class PagePainter {
   }
 
  private:
-  /// In the upper margin, where no print zone is.
-  void PaintNumber(std::size_t page, std::size_t pages) {
-    const double base = kPageNumber * paper_.logicalDpiY();
-    const QRectF room(area_.left(), 0, area_.width(), base);
-    painter_.drawText(room, Qt::AlignRight | Qt::AlignBottom,
-                      QString("Page %1 of %2").arg(page).arg(pages));
-  }
-
   QPagedPaintDevice& paper_;
   QPainter& painter_;
   const QRectF area_;
 };
-
-/// The sheet without its margins, in dots.
-QRectF TextArea(const QPagedPaintDevice& paper) {
-  const int dots = paper.logicalDpiX();
-  const double margin = kMargin * dots;
-  return QRectF(paper.pageLayout().fullRectPixels(dots)).adjusted(margin, margin, -margin, -margin);
-}
 
 /// Paints a report on sheets of letter size. False when they cannot be painted on.
 bool PaintReport(const Report& report, QPagedPaintDevice& paper) {
   paper.setPageSize(QPageSize(QPageSize::Letter));
   QPainter painter;
   if (!painter.begin(&paper)) return false;
-  painter.setFont(FontOf(report));
+  const QFont font = FontOf(report);
+  painter.setFont(font);
   const QRectF area = TextArea(paper);
-  PagePainter(paper, painter, area).Paint(LayOut(report, FontOf(report), &paper, area.size()));
+  std::vector<PaperPage> pages = LayOut(report, font, &paper, area.size());
+  NumberPages(pages, font, &paper, area.size());
+  PagePainter(paper, painter, area).Paint(pages);
   return painter.end();
 }
 

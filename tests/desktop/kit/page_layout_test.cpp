@@ -89,5 +89,19 @@ TEST_F(PageLayoutTest, ForgetsTheHeadsAtABlankLineAndAtAPageBreak) {
   }
 }
 
+TEST_F(PageLayoutTest, NumbersThePagesAtTheRightEndOfTheUpperMargin) {
+  Lines(13);
+  auto pages = Pages();
+  paper.setDotsPerMeterX(static_cast<int>(100 / 0.0254));
+  paper.setDotsPerMeterY(static_cast<int>(100 / 0.0254));
+  NumberPages(pages, font, &paper, {2000, 500});
+  EXPECT_EQ(TextsOf(pages[0]).back(), "Page 1 of 2");
+  EXPECT_EQ(TextsOf(pages[1]).back(), "Page 2 of 2");
+  const QRectF room = std::get<PlacedText>(pages[0].back()).room;
+  EXPECT_DOUBLE_EQ(room.right(), 2000);
+  // 0.45 inch below the edge of the sheet, which is 0.75 inch above the text: at 100 dots an inch.
+  EXPECT_NEAR(room.bottom(), -30, 0.5);
+}
+
 }  // namespace
 }  // namespace lignara
