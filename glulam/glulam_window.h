@@ -73,7 +73,7 @@ void EmptySize(GlulamWindow& window, const SessionState& session, Platform& plat
                std::string GlulamWindow::*size);
 
 /// Works out the fourteen values anew: after each choice, and after each change of "L(ft)",
-/// "d(in)", "b(in)" or a user factor (adjustment.cpp).
+/// "d(in)", "b(in)" or a user factor (allowable_stresses.cpp).
 void RecomputeAllowables(GlulamWindow& window, const SessionState& session, Platform& platform);
 
 /// "Set user adjustment as default" (user_factors.cpp). Where the file cannot be written it stays

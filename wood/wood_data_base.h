@@ -6,9 +6,9 @@
 #include "app/list_rows.h"
 #include "app/platform.h"
 #include "app/session_state.h"
-#include "wood/factor_panel.h"
 #include "wood/final_selection.h"
 #include "wood/species_data.h"
+#include "wood/stress_adjustment_panel.h"
 
 namespace lignara {
 

@@ -15,7 +15,7 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
-#include "desktop/wood/factor_panel.h"
+#include "desktop/wood/stress_adjustment_panel.h"
 #include "wood/wood_data_base.h"
 
 namespace lignara {

@@ -2,14 +2,22 @@
 
 #include <array>
 
+#include "app/platform.h"
+#include "app/session_state.h"
 #include "app/stored_number.h"
 
 namespace lignara {
+
+struct WoodDataBaseWindow;
 
 /// The stresses that have a final multiplier, in the order of `AdjustmentFactors::Multiplier` and
 /// of the fields "Final Stress Multipliers".
 enum class StressKind { Fb, Ft, Fv, FcPar, FcPerp, E };
 inline constexpr int kStressKinds = 6;
+
+/// The captions of the fields "Final Stress Multipliers", in the order of StressKind.
+inline constexpr std::array<const char*, kStressKinds> kMultiplierCaptions = {
+    "Fb", "Ft", "Fv", "Fc parell", "Fc perp.", "E"};
 
 /// The working state of the panel "Stress Adjustment Factors".
 struct AdjustmentFactors {
@@ -30,5 +38,10 @@ struct AdjustmentFactors {
 
 /// The final multipliers of all stresses from the factors, each in 32-bit float.
 void ComputeMultipliers(AdjustmentFactors& factors);
+
+/// "Calculate Factors".
+void CalculateFactors(WoodDataBaseWindow& window, Platform& platform);
+/// "OK" of the panel: applies the multipliers to the grade.
+void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform);
 
 }  // namespace lignara

@@ -1,4 +1,4 @@
-#include "tests/wood/factor_panel_fixture.h"
+#include "tests/wood/stress_adjustment_fixture.h"
 
 namespace lignara {
 namespace {

@@ -6,8 +6,7 @@
 
 #include "app/list_rows.h"
 #include "app/platform.h"
-#include "app/session_state.h"
-#include "wood/adjustment_factors.h"
+#include "wood/final_multipliers.h"
 
 namespace lignara {
 
@@ -28,10 +27,6 @@ inline constexpr int kFactorPairs = 3;
 /// The captions of the three pairs, in their order.
 inline constexpr std::array<const char*, kFactorPairs> kFactorPairCaptions = {
     "Repetative Use", "Flat Use", "Moisture > 19%"};
-
-/// The captions of the fields "Final Stress Multipliers", in the order of StressKind.
-inline constexpr std::array<const char*, kStressKinds> kMultiplierCaptions = {
-    "Fb", "Ft", "Fv", "Fc parell", "Fc perp.", "E"};
 
 /// The panel "Stress Adjustment Factors".
 struct FactorPanel {
@@ -70,10 +65,6 @@ void OpenFactorPanel(WoodDataBaseWindow& window, Platform& platform);
 void ChooseFactorRow(WoodDataBaseWindow& window, Platform& platform, FactorList list, int row);
 /// "Yes" or "No" of a pair.
 void AnswerFactorPair(WoodDataBaseWindow& window, Platform& platform, FactorPair pair, bool yes);
-/// "Calculate Factors".
-void CalculateFactors(WoodDataBaseWindow& window, Platform& platform);
-/// "OK" of the panel: applies the multipliers to the grade.
-void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform);
 /// "Cancel" of the panel.
 void CancelFactors(WoodDataBaseWindow& window);
 

@@ -13,6 +13,7 @@
 #include "glulam/glulam_window.h"
 #include "glulam/load_durations.h"
 #include "glulam/size_and_stability.h"
+#include "glulam/use_codes.h"
 
 namespace lignara {
 namespace {
@@ -27,21 +28,9 @@ void ShowValue(std::string& shown, const Number& value, std::string_view pattern
   if (stored) shown = FormatNumber(*stored, pattern);
 }
 
-/// A use code of a combination.
-struct UseCode {
-  std::string_view code;
-  const char* note;
-  bool wetOffered;
-};
-constexpr UseCode kUseCodes[] = {
-    {"1", "Not balanced, for dry or wet use.", true},
-    {"2", "Straight or slightly cambered member for dry use and industrial appearance.", false},
-    {"3", "Balanced, equal capacity in both pos. and neg. bending.", true},
-};
-
 /// Another code leaves note and choice as they were.
 void FollowUseCode(GlulamWindow& window, const std::string& code) {
-  for (const UseCode& use : kUseCodes) {
+  for (const GlulamUseCode& use : kGlulamUseCodes) {
     if (use.code != code) continue;
     window.useNote = use.note;
     window.wetOffered = use.wetOffered;

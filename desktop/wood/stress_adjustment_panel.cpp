@@ -1,4 +1,4 @@
-#include "desktop/wood/factor_panel.h"
+#include "desktop/wood/stress_adjustment_panel.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
