@@ -22,16 +22,6 @@ std::optional<LoadInput> ReadLoad(const BeamWindow& window) {
   return input;
 }
 
-bool Passes(const std::vector<LoadCheck>& checks, const SingleSpanBeam& beam,
-            const LoadInput& input, Platform& platform) {
-  for (const LoadCheck& check : checks) {
-    if (!check.fails(beam, input)) continue;
-    platform.ShowMessage({check.message});
-    return false;
-  }
-  return true;
-}
-
 void StoreLoad(SingleSpanBeam& beam, int load, const LoadKindInfo& kind, const LoadInput& input) {
   for (const LoadValue& value : kind.values) {
     (beam.*value.array)[load] = input[static_cast<std::size_t>(value.field)];
@@ -74,7 +64,7 @@ void AddLoad(BeamWindow& window, Platform& platform) {
   const LoadKindInfo& kind = LoadKindOf(beam.selectedKind);
   const int load = beam.loadCount.value() + 1;
   beam.loadKind[load] = static_cast<int>(kind.kind);
-  if (!Passes(kind.addChecks, beam, *input, platform)) return;
+  if (!Passes(kind.checks.add, beam, *input, platform)) return;
   StoreLoad(beam, load, kind, *input);
   if (kind.afterAdd != nullptr) kind.afterAdd(beam, load);
   beam.loadCount += 1;
@@ -88,7 +78,7 @@ void EditLoad(BeamWindow& window, Platform& platform) {
   const std::optional<LoadInput> input = ReadLoad(window);
   if (!input) return;
   const LoadKindInfo& kind = LoadKindOf(beam.selectedKind);
-  if (!Passes(kind.editChecks, beam, *input, platform)) return;
+  if (!Passes(kind.checks.edit, beam, *input, platform)) return;
   const int load = window.loads.row + 1;
   beam.loadKind[load] = static_cast<int>(kind.kind);
   StoreLoad(beam, load, kind, *input);

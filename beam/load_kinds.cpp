@@ -2,53 +2,10 @@
 
 #include <algorithm>
 
-#include "beam/support_class.h"
-
 namespace lignara {
 namespace {
 
 using Beam = SingleSpanBeam;
-
-const Float32& In(const LoadInput& input, LoadField field) {
-  return input[static_cast<std::size_t>(field)];
-}
-
-// The checks. Lengths are compared as they are stored, so that 0.7 and 9.3 make 10.
-
-bool StartsOffBeam(const Beam& beam, const LoadInput& input) {
-  const Float32& A = In(input, LoadField::A);
-  return A < 0 || A > beam.spanLength;
-}
-
-bool EndsOffBeam(const Beam& beam, const LoadInput& input) {
-  const Float32 end = In(input, LoadField::A) + In(input, LoadField::B);
-  return end > beam.spanLength;
-}
-
-bool IsLongerThanBeam(const Beam& beam, const LoadInput& input) {
-  return In(input, LoadField::B) > beam.spanLength;
-}
-
-bool StandsOnSupport(const Beam& beam, const LoadInput& input) {
-  const Float32& A = In(input, LoadField::A);
-  return (A == 0 && beam.leftSupport != SupportType::Free) ||
-         (A == beam.spanLength && beam.rightSupport != SupportType::Free);
-}
-
-template <LoadField field>
-bool IsZero(const Beam&, const LoadInput& input) {
-  return In(input, field) == 0;
-}
-
-bool HasTwoPins(const Beam& beam, const LoadInput&) {
-  return beam.supportClass == SupportClass::SimpleSpan;
-}
-
-bool HasFreeEnd(const Beam& beam, const LoadInput&) { return IsCantilever(beam.supportClass); }
-
-bool HasAxialLoad(const Beam& beam, const LoadInput&) {
-  return HasLoadOf(beam, LoadKind::AxialLoad);
-}
 
 // What adding does besides.
 
@@ -63,38 +20,6 @@ void PullMomentFromEnds(Beam& beam, int load) {
   if (room > beam.loadA[load]) beam.loadA[load] = room;
   if (lastPlace < beam.loadA[load]) beam.loadA[load] = beam.spanLength - room;
 }
-
-constexpr const char* kOffSpan = "YOUR LOAD IS OFF OF THE SPAN !";
-constexpr const char* kMomentOffSpan = "YOUR MOMENT IS OFF OF THE SPAN !";
-constexpr const char* kOffBeam = "YOUR LOAD IS OFF THE BEAM !";
-constexpr const char* kOnSupport = "YOUR LOAD IS ON A SUPPORT, NO ACTION !";
-constexpr const char* kNoLoad = "YOUR LOAD IS 0 !";
-constexpr const char* kNoAxialLoad = "YOUR LOAD IS 0!";
-constexpr const char* kNoDisplacement = "YOUR DISPLACEMENT IS 0 !";
-constexpr const char* kTwoPins = "BOTH SIDES ARE PINNED, CAN'T USE SUPPORT DISP!";
-constexpr const char* kFreeEnd = "WITH ONE SIDE FREE, SUPPORT DISP. GIVES NO AFFECT!";
-constexpr const char* kOneAxialLoad =
-    "DELETE YOUR EXISTING AXIAL LOAD, PRIOR TO ADDING A NEW ONE OR EDIT YOUR EXISTING AXIAL LOAD. "
-    "ONLY ONE AXIAL LOAD IS PERMITTED!";
-
-const std::vector<LoadCheck> kPointAdd = {
-    {StartsOffBeam, kOffSpan}, {StandsOnSupport, kOnSupport}, {IsZero<LoadField::P>, kNoLoad}};
-const std::vector<LoadCheck> kPointEdit = {
-    {StandsOnSupport, kOnSupport}, {StartsOffBeam, kOffSpan}, {IsZero<LoadField::P>, kNoLoad}};
-const std::vector<LoadCheck> kUniformAdd = {
-    {StartsOffBeam, kOffBeam}, {EndsOffBeam, kOffBeam}, {IsZero<LoadField::W>, kNoLoad}};
-const std::vector<LoadCheck> kUniformEdit = {
-    {StartsOffBeam, kOffBeam}, {IsLongerThanBeam, kOffBeam}, {IsZero<LoadField::W>, kNoLoad}};
-const std::vector<LoadCheck> kMomentAdd = {{StartsOffBeam, kMomentOffSpan},
-                                           {IsZero<LoadField::M>, kNoLoad}};
-const std::vector<LoadCheck> kMomentEdit = {{StartsOffBeam, kOffSpan},
-                                            {IsZero<LoadField::M>, kNoLoad}};
-const std::vector<LoadCheck> kDisplacementAdd = {
-    {IsZero<LoadField::Disp>, kNoDisplacement}, {HasTwoPins, kTwoPins}, {HasFreeEnd, kFreeEnd}};
-const std::vector<LoadCheck> kDisplacementEdit = {{IsZero<LoadField::Disp>, kNoDisplacement}};
-const std::vector<LoadCheck> kAxialAdd = {{HasAxialLoad, kOneAxialLoad},
-                                          {IsZero<LoadField::P>, kNoAxialLoad}};
-const std::vector<LoadCheck> kAxialEdit = {{IsZero<LoadField::P>, kNoAxialLoad}};
 
 const std::vector<LoadValue> kPointValues = {{LoadField::A, &Beam::loadA},
                                              {LoadField::P, &Beam::loadP}};
@@ -119,8 +44,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Point Load",
         .listWord = "Point Load",
         .values = kPointValues,
-        .addChecks = kPointAdd,
-        .editChecks = kPointEdit,
+        .checks = PointLoadChecks(),
         .afterAdd = KeepRightLength,
         .reportWord = "Load is point load",
         .reportLines = {{"P = ", &Beam::loadP, " lbs"}, {kLocation, &Beam::loadA, ""}},
@@ -130,8 +54,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Level Uniform",
         .listWord = "Unif. Level",
         .values = kUniformValues,
-        .addChecks = kUniformAdd,
-        .editChecks = kUniformEdit,
+        .checks = UniformLoadChecks(),
         .afterAdd = nullptr,
         .reportWord = "Load is level uniform",
         .reportLines = UniformLines("w = "),
@@ -141,8 +64,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Slpd. Unif. L=0",
         .listWord = "Unif. Sl. L=0",
         .values = kUniformValues,
-        .addChecks = kUniformAdd,
-        .editChecks = kUniformEdit,
+        .checks = UniformLoadChecks(),
         .afterAdd = nullptr,
         .reportWord = "Load is sloped uniform, left side = 0 lbs/ft",
         .reportLines = UniformLines("Max w = "),
@@ -152,8 +74,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Slpd. Unif. R=0",
         .listWord = "Unif. Sl. R=0",
         .values = kUniformValues,
-        .addChecks = kUniformAdd,
-        .editChecks = kUniformEdit,
+        .checks = UniformLoadChecks(),
         .afterAdd = nullptr,
         .reportWord = "Load is sloped uniform, right side = 0 lbs/ft",
         .reportLines = UniformLines("Max w = "),
@@ -163,8 +84,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Point Moment",
         .listWord = "Point Moment",
         .values = kMomentValues,
-        .addChecks = kMomentAdd,
-        .editChecks = kMomentEdit,
+        .checks = PointMomentChecks(),
         .afterAdd = PullMomentFromEnds,
         .reportWord = "Load is point moment",
         .reportLines = {{"M = ", &Beam::loadM, " ft-lbs"}, {kLocation, &Beam::loadA, ""}},
@@ -174,8 +94,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Disp. Sup. Left",
         .listWord = "Left Sup. Disp.",
         .values = kDisplacementValues,
-        .addChecks = kDisplacementAdd,
-        .editChecks = kDisplacementEdit,
+        .checks = DisplacementChecks(),
         .afterAdd = nullptr,
         .reportWord = "Load is left support displacement",
         .reportLines = {{"Left support displacement = ", &Beam::loadDisp, " in"}},
@@ -185,8 +104,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Disp. Sup. Right",
         .listWord = "Right Sup. Disp.",
         .values = kDisplacementValues,
-        .addChecks = kDisplacementAdd,
-        .editChecks = kDisplacementEdit,
+        .checks = DisplacementChecks(),
         .afterAdd = nullptr,
         .reportWord = "Load is right support displacement",
         .reportLines = {{"Right support displacement = ", &Beam::loadDisp, " in"}},
@@ -196,8 +114,7 @@ const std::array<LoadKindInfo, kLoadKinds> kLoadKindTable = {{
         .caption = "Axial Load",
         .listWord = "Axial Load",
         .values = kAxialValues,
-        .addChecks = kAxialAdd,
-        .editChecks = kAxialEdit,
+        .checks = AxialLoadChecks(),
         .afterAdd = nullptr,
         .reportWord = "Load is Axial",
         .reportLines = {{"Axial Load = ", &Beam::loadAxial, " lbs"}},

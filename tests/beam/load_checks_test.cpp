@@ -143,10 +143,10 @@ TEST_F(LoadEntry, EditOfAPointLoadTestsTheSupportFirst) {
 
 TEST_F(LoadEntry, OrderOfThePointChecksStandsInTheTable) {
   const LoadKindInfo& point = LoadKindOf(LoadKind::PointLoad);
-  EXPECT_EQ(point.addChecks[0].message, kOffSpan);
-  EXPECT_EQ(point.addChecks[1].message, kOnSupport);
-  EXPECT_EQ(point.editChecks[0].message, kOnSupport);
-  EXPECT_EQ(point.editChecks[1].message, kOffSpan);
+  EXPECT_EQ(point.checks.add[0].message, kOffSpan);
+  EXPECT_EQ(point.checks.add[1].message, kOnSupport);
+  EXPECT_EQ(point.checks.edit[0].message, kOnSupport);
+  EXPECT_EQ(point.checks.edit[1].message, kOffSpan);
 }
 
 TEST_F(LoadEntry, EditOfAPointLoadLeavesItsRightLength) {
