@@ -7,6 +7,7 @@
 #include "connections/bolt_shear.h"
 #include "connections/bolt_sketches.h"
 #include "connections/rod_table.h"
+#include "connections/rod_tension.h"
 
 namespace lignara {
 namespace {
@@ -90,16 +91,14 @@ void ComputeTension(BoltWindow& window, Platform& platform) {
   const Number woodStress = ReadNumber(window.woodStress);
   // One that is too large has shown its box, and the results stay.
   if (!FieldNumber(boltStress) || !FieldNumber(woodStress)) return;
-  if (!(boltStress > 0) || !(woodStress > 0)) {
-    platform.ShowMessage(
-        {"WOOD AND STEEL ALLOWABLE STRESS IN TENSION SECTION MUST BE GREATER THAN 0"});
+  if (const char* refusal = TensionRefusal(boltStress, woodStress)) {
+    platform.ShowMessage({refusal});
     return;
   }
   const RodSize& rod = RodTable[static_cast<std::size_t>(window.rods.row)];
-  const Float32 load = rod.area * boltStress * 1000;
-  const Float32 side = Sqrt(load / woodStress);
-  window.load = FormatNumber(load, kTwoDecimals);
-  window.plateSide = FormatNumber(side, kTwoDecimals);
+  const RodTension tension = TensionOf(rod, boltStress, woodStress);
+  window.load = FormatNumber(tension.load, kTwoDecimals);
+  window.plateSide = FormatNumber(tension.plateSide, kTwoDecimals);
   window.plateThickness = rod.plateThickness;
   window.tensionComputedFrom = TensionInputOf(window);
 }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "connections/rod_table.h"
+#include "connections/rod_tension.h"
 #include "tests/connections/opened_bolts.h"
 
 namespace lignara {
@@ -11,7 +11,7 @@ using Texts = std::vector<std::string>;
 constexpr const char* kRefusal =
     "WOOD AND STEEL ALLOWABLE STRESS IN TENSION SECTION MUST BE GREATER THAN 0";
 
-class BoltTensionTest : public OpenedBolts {
+class RodTensionTest : public OpenedBolts {
  protected:
   /// As if the user had typed into both fields.
   void EnterStresses(const std::string& bolt, const std::string& wood) {
@@ -32,7 +32,7 @@ struct RodCase {
   const char* side;  ///< root of load / 400 psi
 };
 
-TEST_F(BoltTensionTest, EveryRodCarriesItsAreaAndHasItsPlate) {
+TEST_F(RodTensionTest, EveryRodCarriesItsAreaAndHasItsPlate) {
   const RodCase cases[] = {
       {"3/8", 0.375, 0.078, "3/16", "1560.00", "1.97"},
       {"1/2", 0.5, 0.142, "1/4", "2840.00", "2.66"},
@@ -66,7 +66,7 @@ TEST_F(BoltTensionTest, EveryRodCarriesItsAreaAndHasItsPlate) {
   EXPECT_TRUE(platform.messages.empty());
 }
 
-TEST_F(BoltTensionTest, RodOfThreeQuarterInch) {
+TEST_F(RodTensionTest, RodOfThreeQuarterInch) {
   window.boltStress = "20";
   window.woodStress = "400";
   ChooseRod(window, platform, 3);
@@ -74,7 +74,7 @@ TEST_F(BoltTensionTest, RodOfThreeQuarterInch) {
   EXPECT_EQ(Results(), (Texts{"6680.00", "4.09", "3/8"}));
 }
 
-TEST_F(BoltTensionTest, StressesThatAreNotAboveZeroAreRefused) {
+TEST_F(RodTensionTest, StressesThatAreNotAboveZeroAreRefused) {
   const std::pair<const char*, const char*> cases[] = {{"", "400"},  {"20", ""},    {"0", "400"},
                                                        {"20", "0"},  {"-1", "400"}, {"20", "-1"},
                                                        {"x", "400"}, {"", ""}};
@@ -85,7 +85,7 @@ TEST_F(BoltTensionTest, StressesThatAreNotAboveZeroAreRefused) {
   }
 }
 
-TEST_F(BoltTensionTest, RefusalLeavesTheOlderResults) {
+TEST_F(RodTensionTest, RefusalLeavesTheOlderResults) {
   EnterStresses("20", "400");
   EnterStresses("", "400");
   EXPECT_EQ(platform.TakeTexts(), Texts{kRefusal});
@@ -93,7 +93,7 @@ TEST_F(BoltTensionTest, RefusalLeavesTheOlderResults) {
   EXPECT_EQ(Results(), (Texts{"1560.00", "1.97", "3/16"}));
 }
 
-TEST_F(BoltTensionTest, ResultsAreOutOfDateWhileTheInputIsRefused) {
+TEST_F(RodTensionTest, ResultsAreOutOfDateWhileTheInputIsRefused) {
   EnterStresses("", "400");
   EXPECT_FALSE(TensionIsOutOfDate(window));
   EnterStresses("20", "400");
@@ -106,12 +106,12 @@ TEST_F(BoltTensionTest, ResultsAreOutOfDateWhileTheInputIsRefused) {
   EXPECT_FALSE(TensionIsOutOfDate(window));
 }
 
-TEST_F(BoltTensionTest, ClickOnTheChosenRodComputes) {
+TEST_F(RodTensionTest, ClickOnTheChosenRodComputes) {
   ChooseRod(window, platform, 0);
   EXPECT_EQ(platform.TakeTexts(), Texts{kRefusal});
 }
 
-TEST_F(BoltTensionTest, RodsOutsideOfTheListChangeNothing) {
+TEST_F(RodTensionTest, RodsOutsideOfTheListChangeNothing) {
   for (const int row : {-1, 16}) {
     ChooseRod(window, platform, row);
     EXPECT_EQ(window.rods.row, 0);
@@ -119,7 +119,7 @@ TEST_F(BoltTensionTest, RodsOutsideOfTheListChangeNothing) {
   EXPECT_TRUE(platform.messages.empty());
 }
 
-TEST_F(BoltTensionTest, StressTooLargeIsOneBoxAndLeavesTheOlderResults) {
+TEST_F(RodTensionTest, StressTooLargeIsOneBoxAndLeavesTheOlderResults) {
   EnterStresses("20", "400");
   for (const char* text : {"1e39", "1e400"}) {
     EnterStresses(text, "400");
@@ -130,13 +130,13 @@ TEST_F(BoltTensionTest, StressTooLargeIsOneBoxAndLeavesTheOlderResults) {
   }
 }
 
-TEST_F(BoltTensionTest, LoadTooLargeIsToldAndCountsAsNone) {
+TEST_F(RodTensionTest, LoadTooLargeIsToldAndCountsAsNone) {
   EnterStresses("3e38", "400");
   EXPECT_EQ(platform.TakeTexts(), Texts{"The number is too large"});
   EXPECT_EQ(Results(), (Texts{"0.00", "0.00", "3/16"}));
 }
 
-TEST_F(BoltTensionTest, LargeLoadsKeepTheirDigits) {
+TEST_F(RodTensionTest, LargeLoadsKeepTheirDigits) {
   window.boltStress = "33.3";
   window.woodStress = "625";
   ChooseRod(window, platform, 15);
