@@ -102,21 +102,4 @@ PlyKeyKind OptionKey(std::string caption, Texts entries, int chosenAtOpening = 0
 /// Gives a key other entries. A list whose entries change has no row chosen; options keep theirs.
 void SetEntries(PlyKey& key, const Texts& entries);
 
-// The report lines of a description. A key that is not shown has no line.
-
-/// A fixed text.
-PlyReportLine SayText(std::string text);
-/// The chosen entry between two texts.
-PlyReportLine SayKey(std::size_t key, std::string before = "", std::string after = "");
-/// The key's caption, " is ", and the chosen entry.
-PlyReportLine SayKeyField(std::size_t key);
-/// The text that stands for the chosen entry.
-PlyReportLine SayInWords(std::size_t key, Texts words);
-/// A result between two texts.
-PlyReportLine SayResult(std::size_t result, std::string before, std::string after = "");
-/// Each result field: its caption, " is ", and its value.
-PlyReportLine SayResultFields();
-/// The list of lines.
-PlyReportLine SayLines();
-
 }  // namespace lignara

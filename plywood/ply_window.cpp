@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "app/report_file.h"
-
 namespace lignara {
 namespace {
 
@@ -61,25 +59,6 @@ void ChoosePlyRow(PlyPanelWindow& window, PlyPanel panel, std::size_t key, int r
   if (!choice.Has(row)) return;
   choice.row = row;
   Follow(state, PlyPanelKindOf(panel));
-}
-
-Report PlyReport(const PlyPanelWindow& window, PlyPanel panel) {
-  const PlyPanelKind& kind = PlyPanelKindOf(panel);
-  Texts lines = {"", kind.title, ""};
-  for (const PlyReportLine& say : kind.report) say(window.Panel(panel), lines);
-  Report report;
-  report.fontName = kind.fontName;
-  for (const std::string& line : lines) report.Line(line);
-  return report;
-}
-
-void PrintPlyReport(const PlyPanelWindow& window, PlyPanel panel, Platform& platform) {
-  platform.PrintReport(PlyReport(window, panel));
-}
-
-void SavePlyReport(const PlyPanelWindow& window, PlyPanel panel, Platform& platform) {
-  std::optional<ReportFile> file = CreateReportFile(platform);
-  if (file) WriteReportFile(*file, PlyReport(window, panel), platform);
 }
 
 }  // namespace lignara

@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "app/platform.h"
-#include "app/report.h"
 #include "plywood/panel_kinds.h"
 
 namespace lignara {
@@ -29,12 +28,5 @@ void ClosePanel(PlyPanelWindow& window);
 /// A click on a row of a list, or on an option: the panel shows at once what follows from it. A row
 /// outside the list changes nothing.
 void ChoosePlyRow(PlyPanelWindow& window, PlyPanel panel, std::size_t key, int row);
-
-/// The report of a panel as it stands; values that are not there yet are empty.
-Report PlyReport(const PlyPanelWindow& window, PlyPanel panel);
-/// "Print".
-void PrintPlyReport(const PlyPanelWindow& window, PlyPanel panel, Platform& platform);
-/// "Save Output to Text File".
-void SavePlyReport(const PlyPanelWindow& window, PlyPanel panel, Platform& platform);
 
 }  // namespace lignara

@@ -1,5 +1,7 @@
 #include "plywood/reference.h"
 
+#include "plywood/ply_report.h"
+
 namespace lignara {
 
 PlyPanelKind ReferencePanel(const std::string& keyCaption,

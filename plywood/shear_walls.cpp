@@ -1,6 +1,7 @@
 #include <string_view>
 
 #include "plywood/panel_kinds.h"
+#include "plywood/ply_report.h"
 
 namespace lignara {
 namespace {

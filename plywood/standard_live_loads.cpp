@@ -1,6 +1,7 @@
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
 #include "plywood/panel_kinds.h"
+#include "plywood/ply_report.h"
 #include "plywood/stamp.h"
 
 namespace lignara {

@@ -1,4 +1,5 @@
 #include "plywood/panel_kinds.h"
+#include "plywood/ply_report.h"
 
 namespace lignara {
 namespace {

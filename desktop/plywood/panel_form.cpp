@@ -16,6 +16,7 @@
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
+#include "plywood/ply_report.h"
 
 namespace lignara {
 namespace {

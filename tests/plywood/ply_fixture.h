@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "plywood/ply_report.h"
 #include "plywood/ply_window.h"
 #include "tests/support/recording_platform.h"
 
