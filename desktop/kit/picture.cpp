@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QImage>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,9 +15,6 @@ namespace {
 
 constexpr double kKeyZoom = 1.25;
 constexpr double kKeyMove = 40;  // pixels
-
-/// Pixels of a picture in a file for each on the screen.
-constexpr double kFileScale = 2.0;
 
 struct MoveKey {
   int key;
@@ -70,22 +66,6 @@ void Picture::LetUserExplore() {
 void Picture::PressAt(double x, double y) {
   if (move_) move_(x, y);
   if (press_) press_(x, y);
-}
-
-bool Picture::SavePng(const QString& path) {
-  const double legend = LegendHeight(drawing_.scene.legend, fontMetrics().height());
-  QImage image((QSizeF(size()) + QSizeF(0, legend)).toSize() * kFileScale, QImage::Format_RGB32);
-  image.setDevicePixelRatio(kFileScale);
-  image.fill(palette().color(QPalette::Base));
-  QPainter painter(&image);
-  painter.setFont(font());
-  painter.save();
-  painter.setClipRect(rect());
-  PaintDrawing(painter, view(), rect(), drawing_, palette());
-  painter.restore();
-  PaintLegend(painter, QRectF(0, height(), width(), legend), drawing_.scene.legend, palette());
-  painter.end();
-  return image.save(path, "PNG");
 }
 
 void Picture::paintEvent(QPaintEvent*) {

@@ -38,9 +38,6 @@ class Picture : public QWidget {
   /// What the mouse does that comes to a place of the drawing and is pressed there.
   void PressAt(double x, double y);
 
-  /// Writes the picture as PNG, with its legend. False when the file cannot be written.
-  bool SavePng(const QString& path);
-
   QSize sizeHint() const override { return {640, 400}; }
   QSize minimumSizeHint() const override { return {160, 100}; }
 

@@ -16,6 +16,7 @@
 #include "desktop/kit/binding.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/save_picture.h"
 #include "desktop/kit/picture_button.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
@@ -333,7 +334,7 @@ void ScriptPlayer::SavePicture(const Words& words) {
   platform_.LetBeSeen(Current());
   const QString path = words.back().text;
   const bool saved =
-      picture != nullptr ? picture->SavePng(path) : control->grab().save(path, "PNG");
+      picture != nullptr ? SavePng(*picture, path) : control->grab().save(path, "PNG");
   if (!saved) throw ScriptError{"cannot write " + path};
 }
 

@@ -1,6 +1,7 @@
 // A picture on the screen: which place of the drawing the mouse means, and the picture as a file.
 
 #include "desktop/kit/picture.h"
+#include "desktop/kit/save_picture.h"
 
 #include <gtest/gtest.h>
 
@@ -224,7 +225,7 @@ TEST_F(PictureTest, IsWrittenAsAPngWithItsLines) {
   QTemporaryDir directory;
   picture.resize(480, 300);
   const QString path = directory.filePath("picture.png");
-  ASSERT_TRUE(picture.SavePng(path));
+  ASSERT_TRUE(SavePng(picture, path));
   const QImage image(path);
   ASSERT_EQ(image.size(), QSize(960, 600));
   const QColor line = image.pixelColor(480, 300), ground = image.pixelColor(480, 100);
@@ -233,7 +234,7 @@ TEST_F(PictureTest, IsWrittenAsAPngWithItsLines) {
 }
 
 TEST_F(PictureTest, SaysWhereItCannotBeWritten) {
-  EXPECT_FALSE(picture.SavePng("/no such directory/picture.png"));
+  EXPECT_FALSE(SavePng(picture, "/no such directory/picture.png"));
 }
 
 TEST(ColourOn, KeepsEveryColourWellApartFromALightAndADarkGround) {

@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 
 #include "desktop/kit/picture.h"
+#include "desktop/kit/save_picture.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {
@@ -134,9 +135,9 @@ TEST_F(TrussMarksTest, TheSavedPictureHasItsLegend) {
   GiveMembers(1000);
   QTemporaryDir directory;
   const QString before = directory.filePath("before.png"), after = directory.filePath("after.png");
-  ASSERT_TRUE(Canvas()->SavePng(before));
+  ASSERT_TRUE(SavePng(*Canvas(), before));
   Run();
-  ASSERT_TRUE(Canvas()->SavePng(after));
+  ASSERT_TRUE(SavePng(*Canvas(), after));
   const QImage plain(before), explained(after);
   EXPECT_EQ(plain.size(), Canvas()->size() * 2);
   ASSERT_GT(explained.height(), plain.height() + 20);
