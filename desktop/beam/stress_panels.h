@@ -5,15 +5,13 @@
 
 namespace lignara {
 
-/// The panels that the single-span window opens below its results. The record has to live as long
-/// as the window.
+/// The panels of the stress check in the single-span window. The record has to live as long as the
+/// window.
 
 /// "Properties Required For Stress Check". Its fields empty themselves when they are entered, so
 /// the focus comes to its "Close" first.
 QGroupBox* MakePropertiesPanel(BeamWindow& window, Binding& binding);
 /// "Stress Check".
 QGroupBox* MakeStressCheckPanel(BeamWindow& window, Binding& binding);
-/// "Diagrams".
-QGroupBox* MakeDiagramsPanel(BeamWindow& window, Binding& binding, DesktopPlatform& platform);
 
 }  // namespace lignara

@@ -1,10 +1,9 @@
-#include "desktop/beam/beam_panels.h"
+#include "desktop/beam/diagrams_panel.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
@@ -13,7 +12,7 @@
 #include <algorithm>
 
 #include "beam/diagrams.h"
-#include "desktop/kit/area_keys.h"
+#include "desktop/beam/close_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/readers.h"
@@ -22,14 +21,6 @@
 
 namespace lignara {
 namespace {
-
-/// The command that closes a panel; made first, it is the first stop of the Tab key in there.
-QPushButton* CloseButton(QGroupBox* panel, Binding& binding, Binding::Command close) {
-  auto* button = new QPushButton("Close", panel);
-  binding.Press(button, std::move(close));
-  SetEscapeButton(panel, button);
-  return button;
-}
 
 /// A picture that is pressed wherever the mouse is dragged over it.
 class DraggedPicture : public Picture {
@@ -108,39 +99,6 @@ QLayout* DiagramsFoot(QGroupBox* panel, BeamWindow& window, Binding& binding) {
 }
 
 }  // namespace
-
-QGroupBox* MakePropertiesPanel(BeamWindow& window, Binding& binding) {
-  QGroupBox* panel = MakePanel("Properties Required For Stress Check");
-  auto* rows = new QVBoxLayout(panel);
-  QPushButton* close = CloseButton(panel, binding, [&window] { CloseProperties(window); });
-  auto* grid = new QGridLayout;
-  grid->setColumnMinimumWidth(2, 14);
-  constexpr int kRows = 5;
-  for (int i = 0; i < kStressFields; ++i) {
-    const auto field = static_cast<StressField>(i);
-    QLineEdit* box = PutField(grid, i % kRows, i < kRows ? 0 : 3,
-                              kStressFieldCaptions[static_cast<std::size_t>(i)], 84);
-    binding.Field(box, &window.Field(field).text,
-                  [&window, field] { EditStressField(window, field); });
-    binding.Entered(box, [&window, field] { EnterStressField(window, field); });
-  }
-  rows->addLayout(grid);
-  rows->addWidget(close, 0, Qt::AlignRight);
-  binding.Shown(panel, &window.propertiesOpen);
-  return panel;
-}
-
-QGroupBox* MakeStressCheckPanel(BeamWindow& window, Binding& binding) {
-  QGroupBox* panel = MakePanel("Stress Check");
-  auto* rows = new QVBoxLayout(panel);
-  QListWidget* list = MakeList("Stress Check", 10);
-  binding.List(list, &window.check.rows);
-  rows->addWidget(list);
-  rows->addWidget(CloseButton(panel, binding, [&window] { window.check.open = false; }), 0,
-                  Qt::AlignRight);
-  binding.Shown(panel, &window.check.open);
-  return panel;
-}
 
 QGroupBox* MakeDiagramsPanel(BeamWindow& window, Binding& binding, DesktopPlatform& platform) {
   QGroupBox* panel = MakePanel("Diagrams");

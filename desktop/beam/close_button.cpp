@@ -1,0 +1,18 @@
+#include "desktop/beam/close_button.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <utility>
+
+#include "desktop/kit/area_keys.h"
+
+namespace lignara {
+
+QPushButton* CloseButton(QGroupBox* panel, Binding& binding, Binding::Command close) {
+  auto* button = new QPushButton("Close", panel);
+  binding.Press(button, std::move(close));
+  SetEscapeButton(panel, button);
+  return button;
+}
+
+}  // namespace lignara
