@@ -6,6 +6,7 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "truss/canvas_scene.h"
+#include "truss/force_sense.h"
 #include "truss/overstress.h"
 #include "truss/run_inputs.h"
 #include "truss/truss_types.h"
@@ -27,9 +28,8 @@ std::vector<Member> AxialMembers(const SessionState& session) {
 
 RowNote AxialNote(const TrussWindow& window, const Member& member, bool above) {
   RowNote note;
-  const Float32& axial = AxialOf(window.model, member.family)[member.index];
-  if (axial > 0) note = {"T", "tension"};
-  if (axial < 0) note = {"C", "compression"};
+  const ForceSense sense = SenseOf(AxialOf(window.model, member.family)[member.index]);
+  note = {sense.letter, sense.spoken};
   note.warned = above;
   if (above) note.spoken += ", above its allowable stress";
   return note;
@@ -71,8 +71,7 @@ std::string StatusLine(const TrussWindow& window, bool outOfDate) {
 }
 
 std::string HitSense(const TrussWindow& window) {
-  if (window.hitMember.empty() || window.heldLoad == 0) return "";
-  return window.heldLoad > 0 ? "T" : "C";
+  return window.hitMember.empty() ? "" : SenseOf(window.heldLoad).letter;
 }
 
 }  // namespace
