@@ -2,8 +2,8 @@
 
 #include "app/launcher.h"
 #include "bench/silent_platform.h"
-#include "wood/member_size.h"
-#include "wood/wood_data_base.h"
+#include "wood/member_size_window.h"
+#include "wood/wood_data_base_window.h"
 #include "wood/wood_report.h"
 
 namespace lignara {

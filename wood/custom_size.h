@@ -1,6 +1,6 @@
 #pragma once
 
-#include "wood/member_size.h"
+#include "wood/member_size_window.h"
 
 namespace lignara {
 

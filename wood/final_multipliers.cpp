@@ -3,7 +3,7 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
-#include "wood/wood_data_base.h"
+#include "wood/wood_data_base_window.h"
 
 namespace lignara {
 namespace {

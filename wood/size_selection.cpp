@@ -3,7 +3,7 @@
 #include "app/number_reader.h"
 #include "wood/custom_size.h"
 #include "wood/dressed_size.h"
-#include "wood/member_size.h"
+#include "wood/member_size_window.h"
 
 namespace lignara {
 namespace {

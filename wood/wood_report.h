@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/report.h"
-#include "wood/wood_data_base.h"
+#include "wood/wood_data_base_window.h"
 
 namespace lignara {
 

@@ -1,3 +1,5 @@
+#include "wood/member_size_window.h"
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -17,7 +19,6 @@
 #include "desktop/kit/text.h"
 #include "desktop/kit/warning_colour.h"
 #include "desktop/windows.h"
-#include "wood/member_size.h"
 
 namespace lignara {
 namespace {

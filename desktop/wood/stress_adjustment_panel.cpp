@@ -15,7 +15,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "wood/adjustment_tables.h"
-#include "wood/wood_data_base.h"
+#include "wood/wood_data_base_window.h"
 
 namespace lignara {
 namespace {

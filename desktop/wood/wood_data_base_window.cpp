@@ -1,3 +1,5 @@
+#include "wood/wood_data_base_window.h"
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -16,7 +18,6 @@
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
 #include "desktop/wood/stress_adjustment_panel.h"
-#include "wood/wood_data_base.h"
 
 namespace lignara {
 namespace {

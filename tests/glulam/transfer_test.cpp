@@ -1,6 +1,6 @@
 #include "tests/support/expect_box.h"
 #include "tests/support/glulam_fixture.h"
-#include "wood/member_size.h"
+#include "wood/member_size_window.h"
 
 namespace lignara {
 namespace {

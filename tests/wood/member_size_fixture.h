@@ -6,7 +6,7 @@
 
 #include "app/launcher.h"
 #include "tests/support/recording_platform.h"
-#include "wood/member_size.h"
+#include "wood/member_size_window.h"
 
 namespace lignara {
 

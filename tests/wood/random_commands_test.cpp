@@ -7,8 +7,8 @@
 #include "app/launcher.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/recording_platform.h"
-#include "wood/member_size.h"
-#include "wood/wood_data_base.h"
+#include "wood/member_size_window.h"
+#include "wood/wood_data_base_window.h"
 #include "wood/wood_report.h"
 
 namespace lignara {

@@ -4,7 +4,7 @@
 
 #include "tests/support/data_folder.h"
 #include "tests/support/recording_platform.h"
-#include "wood/wood_data_base.h"
+#include "wood/wood_data_base_window.h"
 
 namespace lignara {
 

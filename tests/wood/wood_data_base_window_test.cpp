@@ -1,4 +1,4 @@
-#include "wood/wood_data_base.h"
+#include "wood/wood_data_base_window.h"
 
 #include <gtest/gtest.h>
 

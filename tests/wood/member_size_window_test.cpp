@@ -1,4 +1,4 @@
-#include "wood/member_size.h"
+#include "wood/member_size_window.h"
 
 #include "app/number_pattern.h"
 #include "tests/wood/member_size_fixture.h"

@@ -86,7 +86,7 @@ struct MemberSizeWindow {
   }
 };
 
-// Life of the window (member_size.cpp).
+// Life of the window (member_size_window.cpp).
 
 /// The window as it opens, for the client that `DesignMode` names.
 void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);

@@ -25,7 +25,7 @@ struct WoodDataBaseWindow {
   std::vector<BaseStressRecord> baseStresses;  ///< row i belongs to row i of `grades`
 };
 
-// Choosing a grade (wood_data_base.cpp).
+// Choosing a grade (wood_data_base_window.cpp).
 
 /// The window as it opens: empty lists, no family.
 void OpenWoodDataBase(WoodDataBaseWindow& window);
