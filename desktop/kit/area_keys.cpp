@@ -19,10 +19,25 @@ QPushButton* ButtonOf(const QWidget* area, const char* key) {
   return qobject_cast<QPushButton*>(area->property(key).value<QObject*>());
 }
 
+bool IsAble(const QPushButton* button) {
+  return button != nullptr && button->isVisible() && button->isEnabled();
+}
+
 bool Click(QPushButton* button) {
-  const bool able = button != nullptr && button->isVisible() && button->isEnabled();
+  const bool able = IsAble(button);
   if (able) button->click();
   return able;
+}
+
+/// The button of the innermost area around a widget that can be pressed; null where an area on the
+/// way there has a command of its own.
+QPushButton* InnermostButton(QWidget* widget, const char* button, const char* command) {
+  for (; widget != nullptr; widget = widget->parentWidget()) {
+    if (widget->property(command).isValid()) return nullptr;
+    if (IsAble(ButtonOf(widget, button))) return ButtonOf(widget, button);
+    if (widget->isWindow()) break;
+  }
+  return nullptr;
 }
 
 bool RunCommand(const QWidget* widget, const char* key) {
@@ -72,13 +87,16 @@ bool LeaveArea(QWidget* widget) {
   return false;
 }
 
+QPushButton* ReturnButtonOf(QWidget* widget) {
+  return InnermostButton(widget, kReturnButton, kReturnCommand);
+}
+
+QPushButton* EscapeButtonOf(QWidget* widget) {
+  return InnermostButton(widget, kEscapeButton, kEscapeCommand);
+}
+
 bool PressReturn(QWidget* widget) {
-  if (RunCommand(widget, kReturnCommand)) return true;
-  for (; widget != nullptr; widget = widget->parentWidget()) {
-    if (Click(ButtonOf(widget, kReturnButton))) return true;
-    if (widget->isWindow()) break;
-  }
-  return false;
+  return RunCommand(widget, kReturnCommand) || Click(ReturnButtonOf(widget));
 }
 
 }  // namespace lignara

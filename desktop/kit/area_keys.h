@@ -30,6 +30,13 @@ bool PressEscape(QWidget* area);
 /// Leaves the innermost area around a widget that Escape can leave. False where there is none.
 bool LeaveArea(QWidget* widget);
 
+/// The button that Return would press with the focus in a widget; null where it would do something
+/// else, or nothing.
+QPushButton* ReturnButtonOf(QWidget* widget);
+
+/// The same of Escape.
+QPushButton* EscapeButtonOf(QWidget* widget);
+
 /// Does what Return does for a widget: its own command, or the button of the innermost area around
 /// it that can be pressed. False where there is neither.
 bool PressReturn(QWidget* widget);

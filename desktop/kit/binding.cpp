@@ -26,6 +26,9 @@ namespace {
 /// Set on a list whose rows were made anew: what stood beside them is gone.
 constexpr const char* kNotesLost = "notesLost";
 
+/// Set on a field that acts when the user comes into it.
+constexpr const char* kActsOnEntry = "actsOnEntry";
+
 using Kind = UserAction::Kind;
 
 /// A place in the units of a picture, in as many digits as tell it from all others.
@@ -59,6 +62,7 @@ class EntryWatcher : public QObject {
   EntryWatcher(QLineEdit* field, Binding::Command entered)
       : QObject(field), field_(field), entered_(std::move(entered)) {
     field->installEventFilter(this);
+    field->setProperty(kActsOnEntry, true);
   }
 
   bool eventFilter(QObject*, QEvent* event) override {
@@ -80,6 +84,10 @@ class EntryWatcher : public QObject {
 int ChosenRow(const QListWidget* list) {
   const QListWidgetItem* item = list->currentItem();
   return item != nullptr && item->isSelected() ? list->currentRow() : -1;
+}
+
+bool ActsOnEntry(const QWidget* widget) {
+  return widget != nullptr && widget->property(kActsOnEntry).toBool();
 }
 
 void Binding::Field(QLineEdit* field, std::string* text, Command typed) {

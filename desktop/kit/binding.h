@@ -25,6 +25,9 @@ class Picture;
 /// The row of a list that is chosen, as the screen shows it; -1 where none is.
 int ChosenRow(const QListWidget* list);
 
+/// True for a field with a command for a user who comes into it (`Binding::Entered`).
+bool ActsOnEntry(const QWidget* widget);
+
 /// Ties the widgets of a window to the members of its record, once each. A user's action writes the
 /// record and calls the command; after every command all windows show their records again.
 ///

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/kit/area_keys.h"
+#include "desktop/kit/lead_focus.h"
 
 namespace lignara {
 namespace {
@@ -27,7 +28,7 @@ bool Holds(const QWidget* panel, const QWidget* widget) {
 
 void Focus(QWidget* widget) {
   // As the Tab key does: a field is marked whole, ready to be typed over.
-  if (widget != nullptr && widget->isEnabled()) widget->setFocus(Qt::TabFocusReason);
+  if (widget != nullptr && widget->isEnabled()) LeadFocus(widget, Qt::TabFocusReason);
 }
 
 }  // namespace
@@ -81,9 +82,14 @@ void OpenPanels::Hide(QWidget* panel) {
   panel->setVisible(false);
 }
 
-bool OpenPanels::CloseNewest() {
+QWidget* OpenPanels::Newest() {
   std::erase_if(open_, [](const Open& open) { return !open.panel || open.panel->isHidden(); });
-  return !open_.empty() && PressEscape(open_.back().panel);
+  return open_.empty() ? nullptr : open_.back().panel;
+}
+
+bool OpenPanels::CloseNewest() {
+  QWidget* newest = Newest();
+  return newest != nullptr && PressEscape(newest);
 }
 
 }  // namespace lignara

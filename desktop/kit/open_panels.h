@@ -15,6 +15,8 @@ class OpenPanels {
 
   /// Leaves the panel that was opened last, as Escape does. False where none is open.
   bool CloseNewest();
+  /// The panel that Escape leaves next; null where none is open.
+  QWidget* Newest();
 
  private:
   struct Open {

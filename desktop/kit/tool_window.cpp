@@ -110,6 +110,13 @@ void ToolWindow::keyPressEvent(QKeyEvent* event) {
   QMainWindow::keyPressEvent(event);
 }
 
+QPushButton* ToolWindow::ButtonOfKey(Qt::Key key) {
+  QWidget* focus = focusWidget() != nullptr ? focusWidget() : this;
+  if (key != Qt::Key_Escape) return ReturnButtonOf(focus);
+  QWidget* newest = binding_.panels().Newest();
+  return EscapeButtonOf(newest != nullptr ? newest : focus);
+}
+
 bool ToolWindow::Enter(QWidget* focus) {
   auto* button = qobject_cast<QPushButton*>(focus);
   if (button == nullptr) return PressReturn(focus);

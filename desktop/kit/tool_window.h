@@ -49,6 +49,9 @@ class ToolWindow : public QMainWindow {
   /// it prints.
   virtual QString DocumentName() const { return windowTitle(); }
 
+  /// The button that Return or Escape would press now; null where the key does something else.
+  QPushButton* ButtonOfKey(Qt::Key key);
+
   /// Closes the window for good, without asking its close control.
   void CloseForGood();
 

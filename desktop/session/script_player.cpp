@@ -9,12 +9,14 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <algorithm>
 
 #include "desktop/kit/binding.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/lead_focus.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/picture_button.h"
@@ -22,22 +24,12 @@
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/kept_answers.h"
 #include "desktop/session/script_error.h"
+#include "desktop/session/window_keys.h"
 
 namespace lignara {
 namespace {
 
 using Verb = UserAction::Kind;
-
-/// Leads the focus to a widget as a hand does. Where the desktop does not let the window become the
-/// active one, the widget is told all the same.
-void GiveFocus(QWidget* widget) {
-  const QWidget* before = widget->window()->focusWidget();
-  widget->setFocus();
-  const bool came = before != widget && widget->window()->focusWidget() == widget;
-  if (!came || QApplication::focusWidget() == widget) return;
-  QFocusEvent in(QEvent::FocusIn, Qt::OtherFocusReason);
-  QApplication::sendEvent(widget, &in);
-}
 
 bool IsPicture(const QWidget* widget) { return IsAny<Picture, PictureButton>(widget); }
 bool IsPanel(const QWidget* widget) { return IsAny<QGroupBox>(widget); }
@@ -64,6 +56,16 @@ int ToWhole(const ScriptWord& word) {
   const int value = word.text.toInt(&ok);
   if (!ok) throw ScriptError{Quoted(word.text) + " is not a whole number"};
   return value;
+}
+
+/// Sends what a keyboard says to a control; true where it is taken.
+bool Send(QEvent::Type type, QKeyCombination key, const QString& text,
+          const QPointer<QWidget>& to) {
+  if (to.isNull()) return false;  // the key going down closed it
+  QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
+  event.ignore();
+  QApplication::sendEvent(to, &event);
+  return event.isAccepted();
 }
 
 /// The row that a word names: its index, or in quotes its text.
@@ -193,7 +195,7 @@ void ScriptPlayer::Window(const Words& words) {
 void ScriptPlayer::Press(const Words& words) {
   auto* button =
       static_cast<QAbstractButton*>(ActiveControl(words, words.size(), KindsOf(Verb::Press)));
-  GiveFocus(button);
+  LeadFocus(button);
   button->click();
 }
 
@@ -207,33 +209,35 @@ void ScriptPlayer::Menu(const Words& words) {
 void ScriptPlayer::Enter(const Words& words) {
   const std::size_t count = words.size() - 1;
   auto* field = static_cast<QLineEdit*>(ActiveControl(words, count, KindsOf(Verb::Enter)));
-  GiveFocus(field);
+  LeadFocus(field);
   if (field->window()->focusWidget() != field) return;  // the window leads the user elsewhere
   field->setText(words.back().text);
   emit field->textEdited(words.back().text);
 }
 
 void ScriptPlayer::Key(const Words& words) {
-  QWidget* control = ActiveControl(words, words.size() - 1, KindsOf(Verb::Key));
+  const QPointer<QWidget> control = ActiveControl(words, words.size() - 1, KindsOf(Verb::Key));
   const QKeySequence sequence = QKeySequence::fromString(words.back().text);
   if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
     throw ScriptError{"there is no key " + Quoted(words.back().text)};
   }
   platform_.LetBeSeen(Current());  // where a key leads depends on what stands where
-  GiveFocus(control);
-  const QKeyCombination key = sequence[0];
+  LeadFocus(control);
   const QString text = words.back().text.size() == 1 ? words.back().text : QString();
-  QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
-  QKeyEvent up(QEvent::KeyRelease, key.key(), key.keyboardModifiers(), text);
-  QApplication::sendEvent(control, &down);
-  QApplication::sendEvent(control, &up);
+  // As at a keyboard: a control that has a use for the key goes ahead of the window's own keys.
+  if (!Send(QEvent::ShortcutOverride, sequence[0], text, control) &&
+      PressWindowKey(Current(), sequence)) {
+    return;
+  }
+  Send(QEvent::KeyPress, sequence[0], text, control);
+  Send(QEvent::KeyRelease, sequence[0], text, control);
 }
 
 void ScriptPlayer::Select(const Words& words) {
   auto* list =
       static_cast<QListWidget*>(ActiveControl(words, words.size() - 1, KindsOf(Verb::Select)));
   const int row = RowOf(list, words.back());
-  GiveFocus(list);
+  LeadFocus(list);
   // A row is chosen by each click, also where it was chosen before.
   list->setCurrentRow(-1);
   list->setCurrentRow(row);
@@ -242,7 +246,7 @@ void ScriptPlayer::Select(const Words& words) {
 void ScriptPlayer::Click(const Words& words) {
   const std::size_t count = words.size() - 2;
   auto* picture = static_cast<Picture*>(ActiveControl(words, count, KindsOf(Verb::Click)));
-  if ((picture->focusPolicy() & Qt::ClickFocus) != 0) GiveFocus(picture);
+  if ((picture->focusPolicy() & Qt::ClickFocus) != 0) LeadFocus(picture);
   picture->PressAt(ToFigure(words[count]), ToFigure(words[count + 1]));
 }
 

@@ -1,11 +1,14 @@
 #include "desktop/session/session_record.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
 #include <utility>
 
+#include "desktop/kit/binding.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/window_keys.h"
 
 namespace lignara {
 namespace {
@@ -44,6 +47,11 @@ QString Word(const QString& text) {
            ((sign.unicode() < 128 && sign.isLetterOrNumber()) || QString("+-._").contains(sign));
   }
   return bare ? text : Quoted(text);
+}
+
+/// The name that scripts give a key, which the toolkit shortens.
+QString KeyName(const QKeySequence& key) {
+  return key == QKeySequence(Qt::Key_Escape) ? QString("Escape") : Word(key.toString());
 }
 
 QString PathWords(const QStringList& path) {
@@ -147,6 +155,11 @@ std::optional<RecordedAction> SessionRecord::Describe(ToolWindow* window,
     case Kind::Window:
       recorded.line = "window " + window->name();
       break;
+    case Kind::Press:
+      recorded.line = KeyLine(replay, window, action);
+      recorded.keepsFocus = !recorded.line.isEmpty();
+      if (recorded.keepsFocus) break;
+      [[fallthrough]];
     default:
       recorded.line = ControlLine(replay, action, control);
   }
@@ -157,6 +170,18 @@ std::optional<RecordedAction> SessionRecord::Describe(ToolWindow* window,
     }
   }
   return recorded;
+}
+
+/// A press by key, where the focus stays in a field that acts when the user comes into it: a press
+/// by mouse in its place would let the user come back there, who never went away. Empty for any
+/// other press.
+QString SessionRecord::KeyLine(Replay& replay, ToolWindow* window, const UserAction& action) {
+  QWidget* focus = window->focusWidget();
+  if (focus == action.control || focus != replay.focus || !ActsOnEntry(focus)) return {};
+  const auto* button = qobject_cast<QAbstractButton*>(action.control);
+  const QKeySequence key = button == nullptr ? QKeySequence() : KeyThatPresses(button, window);
+  if (key.isEmpty()) return {};
+  return ControlLine(replay, {Kind::Key, focus, nullptr, KeyName(key)}, focus);
 }
 
 QString SessionRecord::ControlLine(Replay& replay, const UserAction& action, QWidget* control) {
@@ -187,7 +212,7 @@ void SessionRecord::FollowFocus() {
   if (pendingWindow_.isNull()) return;
   Replay& replay = ReplayOf(pendingWindow_);
   QWidget* now = pendingWindow_->focusWidget();
-  const Verb* verb = VerbOf(pending_->kind);
+  const Verb* verb = pending_->keepsFocus ? nullptr : VerbOf(pending_->kind);
   if (now != focusBefore_ && now != pending_->control) {
     replay.focus = now;
   } else if (verb != nullptr && (verb->takesFocus || TakesClicks(*pending_))) {

@@ -25,7 +25,8 @@ struct RecordedAction {
   QPointer<QWidget> control;
   bool lastCounts = false;
   bool boxShown = false;
-  int cost = 0;  ///< microseconds that it takes to play
+  bool keepsFocus = false;  ///< a press by a key that does not lead the focus to the button
+  int cost = 0;             ///< microseconds that it takes to play
 };
 
 /// Writes down what the user does, as the script lines that would do it again.
@@ -70,6 +71,7 @@ class SessionRecord : public ActionListener {
   };
 
   std::optional<RecordedAction> Describe(ToolWindow* window, const UserAction& action);
+  QString KeyLine(Replay& replay, ToolWindow* window, const UserAction& action);
   QString ControlLine(Replay& replay, const UserAction& action, QWidget* control);
   Replay& ReplayOf(ToolWindow* window);
   void Append(RecordedAction action);
