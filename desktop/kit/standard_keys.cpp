@@ -101,6 +101,7 @@ void SetSessionKeys(QMainWindow* window, const DesktopPlatform& platform) {
       {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &SessionCommands::Save},
       {QKeySequence(Qt::CTRL | Qt::Key_O), &SessionCommands::Open},
       {QKeySequence(Qt::CTRL | Qt::Key_Z), &SessionCommands::Undo},
+      {QKeySequence(Qt::CTRL | Qt::Key_Y), &SessionCommands::Redo},
       {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &SessionCommands::Redo}};
   const QList<QKeySequence> taken = KeysTaken(window);
   for (const SessionKey& row : keys) {

@@ -77,7 +77,7 @@ class LauncherForm : public ToolWindow {
          &SessionCommands::Save},
         {"&Open Session...", QKeySequence(Qt::CTRL | Qt::Key_O), &SessionCommands::Open},
         {"&Undo", QKeySequence(Qt::CTRL | Qt::Key_Z), &SessionCommands::Undo},
-        {"&Redo", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &SessionCommands::Redo}};
+        {"&Redo", QKeySequence(Qt::CTRL | Qt::Key_Y), &SessionCommands::Redo}};
     for (const Item& item : items) {
       QAction* action = menu->addAction(item.caption);
       action->setShortcut(item.key);
