@@ -287,9 +287,13 @@ void DesktopPlatform::SetBusyPointer(bool busy) {
 }
 
 void DesktopPlatform::ShowNote(const std::string& text) {
-  if (windows_.empty()) return;
+  if (ToolWindow* front = Front()) front->ShowNote(ToQt(text));
+}
+
+ToolWindow* DesktopPlatform::Front() const {
+  if (windows_.empty()) return nullptr;
   const auto active = std::find(windows_.begin(), windows_.end(), lastActive_);
-  (active == windows_.end() ? windows_.back() : *active)->ShowNote(ToQt(text));
+  return active == windows_.end() ? windows_.back() : *active;
 }
 
 ToolWindow* DesktopPlatform::FindWindow(const QString& name) const {

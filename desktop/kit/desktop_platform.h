@@ -62,6 +62,9 @@ class DesktopPlatform : public Platform {
 
   /// The open window of a name, not hidden; null where there is none.
   ToolWindow* FindWindow(const QString& name) const;
+  /// The open window that is in front: the one that the user came to last, the help not counted;
+  /// null where none is open.
+  ToolWindow* Front() const;
   /// Brings an open window to the front, as a click on it does.
   void Activate(ToolWindow* window);
   /// A window has become the active one. It is told when the user comes back to it from another

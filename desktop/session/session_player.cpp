@@ -75,15 +75,16 @@ class Played {
   bool was_;
 };
 
-enum class Meaning { Act, Read, Look, Picture };
+enum class Meaning { Nothing, Act, Read, Look, Picture };
 
 Meaning MeaningOf(const QString& line) {
   if (line.size() > kLongestLine) throw ScriptError{"the line is too long"};
   const std::vector<ScriptWord> words = SplitScriptLine(line);
-  const QString verb = words.empty() ? QString() : words.front().text;
+  if (words.empty()) return Meaning::Nothing;
+  const QString& verb = words.front().text;
   if (verb == "picture" || verb == "screenshot") return Meaning::Picture;
   if (verb == "read" || verb == "rows") return Meaning::Read;
-  static const QStringList look = {"", "state", "shapes", "windows"};
+  static const QStringList look = {"state", "shapes", "windows"};
   return look.contains(verb) ? Meaning::Look : Meaning::Act;
 }
 
@@ -131,6 +132,7 @@ SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPl
       if (meaning == Meaning::Act || kept) player.Play(line);
       if (kept) play.read << TextsOf(std::exchange(told, {}));
       if (meaning == Meaning::Picture) play.leftOut << line;
+      if (meaning != Meaning::Nothing) ++play.done;
     } catch (const ScriptError& error) {
       play.stop = QString("%1:%2: %3").arg(name).arg(number).arg(error.reason);
       break;

@@ -15,6 +15,7 @@ struct SessionPlay {
   QStringList said;     ///< what boxes would have said
   QStringList leftOut;  ///< what was not done: prints, files, pictures
   QStringList read;     ///< what `read` and `rows` lines told, a text each, where that is kept
+  int done = 0;         ///< lines carried out, comments and empty ones not counted
   QString stop;         ///< "FILE:LINE: reason" where a line could not be carried out
   bool cancelled = false;
 };

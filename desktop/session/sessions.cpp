@@ -2,12 +2,11 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QProgressDialog>
-#include <chrono>
+#include <QMessageBox>
+#include <QPushButton>
 #include <memory>
 
 #include "app/launcher.h"
@@ -15,35 +14,24 @@
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
+#include "desktop/kit/tool_window.h"
+#include "desktop/session/play_progress.h"
+#include "desktop/session/play_report.h"
+#include "desktop/session/script_line.h"
+#include "desktop/session/user_place.h"
 
 namespace lignara {
 namespace {
 
-constexpr int kProgressAfter = 500;        // milliseconds
-constexpr int kLongestUndo = 1'000'000;    // microseconds
-constexpr qsizetype kMostLinesShown = 20;  // of what is told at the end
+constexpr int kLongestUndo = 1'000'000;  // microseconds
 
-/// A bar with "Cancel" that comes up when a play takes long. None where nobody looks.
-SessionProgress ProgressBar(int lines, const DesktopPlatform& platform) {
-  if (platform.respondent() != nullptr) return [](int) { return true; };
-  auto bar = std::make_shared<QProgressDialog>("Playing the session...", "Cancel", 0, lines);
-  bar->setWindowModality(Qt::ApplicationModal);
-  bar->setMinimumDuration(kProgressAfter);
-  return [bar](int done) {
-    bar->setValue(done);
-    return !bar->wasCanceled();
-  };
-}
-
-QString ListOf(const SessionPlay& play) {
-  QStringList lines;
-  if (!play.stop.isEmpty()) lines << play.stop << "What was built so far is on the screen.";
-  if (play.cancelled) lines << "Cancelled. What was built so far is on the screen.";
-  lines += play.said;
-  for (const QString& what : play.leftOut) lines << "Left out: " + what;
-  const qsizetype more = lines.size() - kMostLinesShown;
-  if (more > 0) lines = lines.mid(0, kMostLinesShown) << QString("and %1 more").arg(more);
-  return lines.join('\n');
+/// A line for the eye: without the quotes of its words, and no longer than a status line is.
+QString InWords(const QString& line) {
+  constexpr qsizetype kMost = 80;
+  QString words;
+  for (const ScriptWord& word : SplitScriptLine(line)) words += " " + word.text;
+  words = words.simplified();
+  return words.size() > kMost ? words.left(kMost) + "..." : words;
 }
 
 }  // namespace
@@ -84,20 +72,46 @@ QStringList Sessions::Header(const QString& path) const {
           "# title: " + title.simplified()};
 }
 
-void Sessions::SaveNow() {
+bool Sessions::SaveToFile() {
   const auto path = platform_.ChooseSaveFile(kSessionFilter);
-  if (!path) return;
-  const QString text = (Header(ToQt(*path)) + record_.Lines()).join('\n') + "\n";
-  if (ReplaceFile(*path, FromQt(text))) {
-    platform_.ShowNote("Saved to " + *path);
-  } else {
+  if (!path) return false;
+  const QStringList lines = record_.Lines();
+  if (!ReplaceFile(*path, FromQt((Header(ToQt(*path)) + lines).join('\n') + "\n"))) {
     platform_.ShowMessage({"Cannot write " + *path});
+    return false;
   }
+  saved_ = lines;
+  platform_.ShowNote("Saved to " + *path);
+  return true;
+}
+
+bool Sessions::MayCloseWork() {
+  if (record_.actions().empty()) return true;
+  if (platform_.respondent() == nullptr) return UserLetsWorkGo();
+  return platform_.AskYesNo("Open Session",
+                            "All windows are closed, and what is not saved is lost. Go on?");
+}
+
+bool Sessions::UserLetsWorkGo() {
+  const bool saved = record_.Lines() == saved_;
+  QMessageBox box(platform_.Front());
+  box.setWindowTitle("Open Session");
+  box.setIcon(QMessageBox::Question);
+  box.setText("Opening a session closes all windows.");
+  box.setInformativeText(saved ? "What you did in them is saved."
+                               : "What you did in them is not saved, and would be lost.");
+  QPushButton* save = saved ? nullptr : box.addButton("&Save First...", QMessageBox::YesRole);
+  QPushButton* open = box.addButton(saved ? "&Open" : "&Open Without Saving",
+                                    saved ? QMessageBox::YesRole : QMessageBox::DestructiveRole);
+  box.addButton(QMessageBox::Cancel);
+  box.setDefaultButton(saved ? open : save);
+  box.exec();
+  if (save != nullptr && box.clickedButton() == save) return SaveToFile();
+  return box.clickedButton() == open;
 }
 
 void Sessions::OpenNow() {
-  const bool work = !record_.actions().empty();
-  if (work && !platform_.AskYesNo("Open Session", "All windows are closed. Go on?")) return;
+  if (!MayCloseWork()) return;
   const auto path = platform_.ChooseOpenFile(kSessionFilter);
   if (!path) return;
   QString refusal;
@@ -106,22 +120,41 @@ void Sessions::OpenNow() {
     platform_.ShowMessage({FromQt(refusal)});
     return;
   }
-  PlayAndTell(lines, ToQt(*path), "Open Session");
+  if (PlayAndTell(lines, ToQt(*path), "Open Session")) saved_ = record_.Lines();
 }
 
 bool Sessions::PlayAndTell(const QStringList& lines, const QString& name, const QString& title) {
   undone_.clear();
-  const SessionPlay play = Replay(lines, name);
-  const QString list = ListOf(play);
-  if (!list.isEmpty()) platform_.ShowMessage({FromQt(list), FromQt(title)});
+  const SessionPlay play = Replay(lines, name, "Playing " + QFileInfo(name).fileName());
+  Tell(play, name, title);
   return play.stop.isEmpty() && !play.cancelled;
 }
 
-SessionPlay Sessions::Replay(const QStringList& lines, const QString& name) {
+void Sessions::Tell(const SessionPlay& play, const QString& name, const QString& title) {
+  const QString text = PlayAsText(play);
+  if (text.isEmpty()) {
+    platform_.ShowNote(FromQt(HowItEnded(play, name)));
+  } else if (platform_.respondent() != nullptr) {
+    platform_.ShowMessage({FromQt(text), FromQt(title)});
+  } else {
+    ShowPlay(play, name, title, platform_.Front());
+  }
+}
+
+SessionPlay Sessions::Replay(const QStringList& lines, const QString& name, const QString& what) {
   playing_ = replaying_ = true;
+  platform_.SetPlayed(true);
+  // Where a script stands in the user's place, nobody looks.
+  std::unique_ptr<PlayProgress> bar;
+  if (platform_.respondent() == nullptr) {
+    bar = std::make_unique<PlayProgress>(what, static_cast<int>(lines.size()), progressAfter_);
+  }
   StartAgain();
   const SessionPlay play =
-      PlaySession(lines, name, platform_, ProgressBar(static_cast<int>(lines.size()), platform_));
+      PlaySession(lines, name, platform_, [&bar](int done) { return !bar || bar->Step(done); });
+  bar.reset();
+  if (ToolWindow* front = platform_.Front()) platform_.Activate(front);
+  platform_.SetPlayed(false);
   playing_ = replaying_ = false;
   replaced_();
   return play;
@@ -147,23 +180,33 @@ bool Sessions::CanUndo() const { return record_.LastDone() > 0; }
 
 void Sessions::UndoNow() {
   const std::size_t last = record_.LastDone();
-  if (last == 0) return;
+  if (last == 0) return platform_.ShowNote("There is nothing to undo");
   if (record_.CostOfFirst(last - 1) > kLongestUndo) {
     platform_.ShowNote("No undo: to do all again but the last action takes more than a second");
     return;
   }
+  const UserPlace place = PlaceOfUser(platform_);
   const QStringList taken = record_.LinesOf(last - 1);
-  Replay(record_.LinesOfFirst(last - 1), "Undo");
+  const SessionPlay play = Replay(record_.LinesOfFirst(last - 1), "Undo", "Undoing");
   undone_.push_back(taken);
+  LeadBack(place, platform_);
+  if (!play.stop.isEmpty() || play.cancelled) return Tell(play, "Undo", "Undo");
+  platform_.ShowNote(FromQt("Undone: " + InWords(taken.last())));
 }
 
 void Sessions::RedoNow() {
-  if (undone_.empty()) return;
+  if (undone_.empty()) return platform_.ShowNote("There is nothing to redo");
   const QStringList lines = undone_.back();
   undone_.pop_back();
+  const UserPlace place = PlaceOfUser(platform_);
+  const QStringList open = platform_.OpenWindows();
   playing_ = true;
-  PlaySession(lines, "Redo", platform_, [](int) { return true; });
+  const SessionPlay play = PlaySession(lines, "Redo", platform_, [](int) { return true; });
   playing_ = false;
+  // A window that comes up is where the user goes on.
+  if (platform_.OpenWindows() == open) LeadBack(place, platform_);
+  if (!play.stop.isEmpty()) return Tell(play, "Redo", "Redo");
+  platform_.ShowNote(FromQt("Redone: " + InWords(lines.last())));
 }
 
 }  // namespace lignara

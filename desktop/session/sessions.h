@@ -37,6 +37,8 @@ class Sessions : public QObject, public SessionCommands {
   SessionRecord& record() { return record_; }
   /// Is told when the record is another one: lines were taken back, or a session was opened.
   void OnReplaced(std::function<void()> told) { replaced_ = std::move(told); }
+  /// The milliseconds from which on a play shows a bar with "Cancel".
+  void ShowProgressAfter(int milliseconds) { progressAfter_ = milliseconds; }
   /// Is handed the lines of each action that ends.
   void OnAppend(std::function<void(const QStringList&)> told) { appended_ = std::move(told); }
 
@@ -44,19 +46,27 @@ class Sessions : public QObject, public SessionCommands {
   /// A session in words of a script that heads it: program, date, title.
   QStringList Header(const QString& path) const;
   void Later(void (Sessions::*command)());
-  void SaveNow();
+  void SaveNow() { SaveToFile(); }
+  /// False where it is not saved: the user cancels, or the file cannot be written.
+  bool SaveToFile();
   void OpenNow();
   void UndoNow();
   void RedoNow();
+  /// Asks whether the work on the screen may go; the user may save it first.
+  bool MayCloseWork();
+  bool UserLetsWorkGo();
+  void Tell(const SessionPlay& play, const QString& name, const QString& title);
   /// The program as it stands after its start.
   void StartAgain();
-  SessionPlay Replay(const QStringList& lines, const QString& name);
+  SessionPlay Replay(const QStringList& lines, const QString& name, const QString& what);
   void Appended(const QStringList& lines);
 
   SessionState& session_;
   DesktopPlatform& platform_;
   SessionRecord record_;
   std::vector<QStringList> undone_;
+  QStringList saved_;  ///< the lines that a file holds
+  int progressAfter_ = 500;
   bool playing_ = false;
   bool replaying_ = false;  ///< from the start of the program on
   std::function<void()> replaced_ = [] {};

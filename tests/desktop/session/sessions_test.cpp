@@ -41,6 +41,14 @@ class SessionProgram : public OpenDesktop {
   }
 
   void Line(const QString& line) { Play({FromQt(line).c_str()}); }
+  /// The note in the status line of a window, which is cleared: it covers the window's own text.
+  std::string Note(const char* window) {
+    auto* status = Window(window)->findChild<QStatusBar*>();
+    const QString note = status->currentMessage();
+    status->clearMessage();
+    return FromQt(note);
+  }
+
   std::string Screen() const { return FromQt(ScreenText(platform).join('\n')); }
   /// The last box's text.
   std::string Told() const {
@@ -106,8 +114,9 @@ TEST_F(SessionsTest, WorkOnTheScreenIsAskedForFirst) {
   const std::string before = program.Screen();
   program.Play({"window main", "answer no", "menu \"Files\" \"Open Session...\""});
   EXPECT_EQ(program.Screen(), before);
-  EXPECT_EQ(FromQt(program.printed.last()),
-            "ask \"Open Session\" \"All windows are closed. Go on?\"");
+  EXPECT_EQ(
+      FromQt(program.printed.last()),
+      "ask \"Open Session\" \"All windows are closed, and what is not saved is lost. Go on?\"");
 }
 
 TEST_F(SessionsTest, ALineThatCannotBeCarriedOutStopsThePlayThere) {
@@ -219,6 +228,74 @@ TEST_F(SessionsTest, TheKeyTakesBackWhereAFieldHasNothingToTakeBack) {
   ASSERT_NE(program.Screen().find("TRUSS Deflections shown panel"), std::string::npos);
   program.PressKey("TRUSS", Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(program.Screen().find("TRUSS Deflections shown panel"), std::string::npos);
+}
+
+/// The user takes back by the key with the focus in some control of the truss window.
+struct Focused {
+  const char* control;
+  UserAction::Kind action;
+};
+class UndoByKeyTest : public SessionsTest, public testing::WithParamInterface<Focused> {};
+
+TEST_P(UndoByKeyTest, TakesBackAndLeavesTheUserWhereHeWas) {
+  program.LoadKingPost();
+  program.Play({"window TRUSS"});
+  const std::string before = program.Screen();
+  program.Play({"press \"Deflections\"", "window TRUSS"});
+  const Kinds kinds = AllVisible(KindsOf(GetParam().action));
+  FindControl(program.Window("TRUSS"), {GetParam().control}, {kinds})->setFocus();
+  program.PressKey("TRUSS", Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(program.Note("TRUSS"), "Undone: press Deflections");
+  EXPECT_EQ(program.Screen(), before);
+  EXPECT_EQ(program.platform.Front(), program.Window("TRUSS"));
+  EXPECT_EQ(program.Window("TRUSS")->focusWidget(),
+            FindControl(program.Window("TRUSS"), {GetParam().control}, {kinds}));
+  program.PressKey("TRUSS", Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_NE(program.Screen(), before);
+  EXPECT_EQ(program.Note("TRUSS"), "Redone: press Deflections");
+}
+
+INSTANTIATE_TEST_SUITE_P(Focus, UndoByKeyTest,
+                         testing::Values(Focused{"Top Node Loads (lbs)", UserAction::Kind::Enter},
+                                         Focused{"Top Node Loads (lbs)", UserAction::Kind::Select},
+                                         Focused{"Run", UserAction::Kind::Press},
+                                         Focused{"Truss", UserAction::Kind::Click}));
+
+TEST_F(SessionsTest, UndoInAFieldTakesTheTypingBackFirst) {
+  program.LoadKingPost();
+  program.Play({"window main", "enter \"Enter No. of Spans\" 2"});
+  const std::size_t actions = program.sessions.record().actions().size();
+  FindControl(program.Window("main"), {"Enter No. of Spans"}, {AllVisible({IsTypedInto})})
+      ->setFocus();
+  program.Type("main", "7");
+  program.PressKey("main", Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(FromQt(program.sessions.record().Lines().last()), "enter \"Enter No. of Spans\" 2");
+  EXPECT_EQ(program.sessions.record().actions().size(), actions);
+}
+
+TEST_F(SessionsTest, UndoFromTheLauncherStaysThere) {
+  program.LoadKingPost();
+  program.Play({"window main", "menu \"Files\" \"Undo\""});
+  EXPECT_EQ(program.platform.Front(), program.Window("main"));
+  EXPECT_EQ(program.Note("main"), "Undone: press Run");
+}
+
+TEST_F(SessionsTest, UndoKeepsOutOfAFieldThatActsOnEntry) {
+  program.Play({"press \"Single Span Beams\"", "window MLSP", "enter \"A(ft)\" 5",
+                "enter \"P(lbs)\" 1000", "enter \"L(ft)\" 12"});
+  program.PressKey("MLSP", Qt::Key_N, Qt::AltModifier);
+  program.PressKey("MLSP", Qt::Key_F5);
+  program.PressKey("MLSP", Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(program.Note("MLSP"), "Undone: key L(ft) F5");
+  EXPECT_EQ(FromQt(program.FocusIn("MLSP")), "L(ft)") << "it was never left";
+  EXPECT_EQ(FromQt(program.sessions.record().Lines().last()), "key \"L(ft)\" Alt+N");
+}
+
+TEST_F(SessionsTest, NothingToTakeBackIsSaid) {
+  program.Play({"menu \"Files\" \"Undo\""});
+  EXPECT_EQ(program.Note("main"), "There is nothing to undo");
+  program.Play({"menu \"Files\" \"Redo\""});
+  EXPECT_EQ(program.Note("main"), "There is nothing to redo");
 }
 
 }  // namespace
