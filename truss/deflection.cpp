@@ -3,7 +3,7 @@
 #include <array>
 
 #include "app/number_pattern.h"
-#include "app/number_text.h"
+#include "app/row_number.h"
 #include "truss/member_signs.h"
 #include "truss/members.h"
 #include "truss/top_nodes.h"

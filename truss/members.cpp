@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "app/number_text.h"
+#include "app/row_number.h"
 
 namespace lignara {
 namespace {

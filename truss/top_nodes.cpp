@@ -1,6 +1,6 @@
 #include "truss/top_nodes.h"
 
-#include "app/number_text.h"
+#include "app/row_number.h"
 #include "truss/truss_types.h"
 
 namespace lignara {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "app/number_reader.h"
-#include "app/number_text.h"
+#include "app/row_number.h"
 
 namespace lignara {
 namespace {

@@ -1,4 +1,4 @@
-#include "app/number_text.h"
+#include "app/row_number.h"
 
 namespace lignara {
 

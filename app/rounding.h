@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace lignara {
+
+/// A number as decimal digits: 0.d1d2d3... x 10^point.
+struct Decimal {
+  bool negative = false;
+  std::string digits;
+  int point = 0;
+};
+
+/// A number to so many significant digits.
+Decimal ToDecimal(double number, int significant);
+
+/// The shortest decimal that reads back as the same number.
+Decimal ShortestDecimal(float number);
+
+/// Keeps `keep` digits (none where negative), rounding half away from zero.
+void RoundDigits(Decimal& d, int keep);
+
+}  // namespace lignara
