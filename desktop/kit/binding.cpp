@@ -15,6 +15,7 @@
 #include "desktop/kit/area_keys.h"
 #include "desktop/kit/field_mark.h"
 #include "desktop/kit/list_notes.h"
+#include "desktop/kit/out_of_date.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/row_copy.h"
 #include "desktop/kit/row_delegate.h"

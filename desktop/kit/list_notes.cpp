@@ -1,6 +1,5 @@
 #include "desktop/kit/list_notes.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
@@ -16,7 +15,6 @@ namespace {
 constexpr int kNoteRole = Qt::UserRole + 1;
 constexpr int kWarnedRole = Qt::UserRole + 2;
 constexpr int kNoteMargin = 6;
-constexpr const char* kOutOfDateTip = "Out of date: the input has changed since";
 
 /// Paints a row with its tint below and its note at its right end.
 class NoteDelegate : public RowDelegate {
@@ -78,18 +76,6 @@ QLabel* AddReasonLabel(QListWidget* list) {
   words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   words->hide();
   return words;
-}
-
-void SetOutOfDate(QWidget* result, bool outOfDate) {
-  if (result->property("outOfDate").toBool() == outOfDate) return;
-  result->setProperty("outOfDate", outOfDate);
-  const QPalette plain = QApplication::palette(result);
-  QPalette palette = result->palette();
-  for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) {
-    palette.setColor(role, plain.color(outOfDate ? QPalette::PlaceholderText : role));
-  }
-  result->setPalette(palette);
-  result->setToolTip(outOfDate ? kOutOfDateTip : QString());
 }
 
 }  // namespace lignara

@@ -5,7 +5,6 @@
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
-class QWidget;
 
 namespace lignara {
 
@@ -17,8 +16,5 @@ void SetRowNote(QListWidgetItem* row, const RowNote& note);
 bool IsEmptyList(const QListWidget* list);
 /// A label in the room of a list, for the reason why it is empty.
 QLabel* AddReasonLabel(QListWidget* list);
-
-/// Greys the text of a result, with a tip that says why; takes it back again.
-void SetOutOfDate(QWidget* result, bool outOfDate);
 
 }  // namespace lignara

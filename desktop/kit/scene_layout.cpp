@@ -1,47 +1,19 @@
 #include "desktop/kit/scene_layout.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <map>
 #include <optional>
 
 #include "desktop/kit/name_room.h"
+#include "desktop/kit/name_thinning.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
 namespace {
 
-constexpr std::array<int, 10> kSteps = {1, 2, 5, 10, 20, 50, 100, 200, 500, 1000};
 constexpr double kNameGap = 3;
 /// Where more of the names than this part find no place, fewer are shown.
 constexpr double kMostDropped = 0.08;
-
-/// A mark of a series: a text that stands at a place again and again.
-struct Mark {
-  int series, place;
-  QPointF at;
-  double width;  ///< of its text, 0 without one
-};
-
-/// The first step at which the texts of all series stand clear of each other.
-std::size_t FirstStep(const std::vector<Mark>& marks, double height, double gap) {
-  std::map<int, const Mark*> last;
-  double most = 1;
-  for (const Mark& mark : marks) {
-    const Mark*& before = last[mark.series];
-    if (before != nullptr && mark.place == before->place + 1) {
-      const double dx = std::fabs(mark.at.x() - before->at.x());
-      const double dy = std::fabs(mark.at.y() - before->at.y());
-      const double across = (mark.width + gap) / std::max(dx, 1e-6);
-      const double down = (height + gap) / std::max(dy, 1e-6);
-      most = std::max(most, std::min(across, down));
-    }
-    before = &mark;
-  }
-  const auto found = std::lower_bound(kSteps.begin(), kSteps.end(), most - 1e-9);
-  return static_cast<std::size_t>(std::min(found, kSteps.end() - 1) - kSteps.begin());
-}
 
 QPointF Way(NameSide side) {
   switch (side) {
@@ -81,7 +53,7 @@ class LayoutMaker {
   }
 
   SceneLayout Make() {
-    std::vector<Mark> marks;
+    std::vector<SeriesMark> marks;
     for (const NamedLine& line : scene_.lines) {
       marks.push_back({line.series, line.place, MarkOf(line), Width(line.name)});
     }
@@ -90,9 +62,9 @@ class LayoutMaker {
     const double distance = LeastDistance(marks);
     layout_.thinness = ThinnessAt(distance, layout_.unit);
     layout_.dense = distance < layout_.unit;
-    PlaceAll(kSteps[step]);
-    for (int more = 0; more < 2 && TooManyDropped() && step + 1 < kSteps.size(); ++more) {
-      PlaceAll(kSteps[++step]);
+    PlaceAll(kNameSteps[step]);
+    for (int more = 0; more < 2 && TooManyDropped() && step + 1 < kNameSteps.size(); ++more) {
+      PlaceAll(kNameSteps[++step]);
     }
     return layout_;
   }
@@ -157,7 +129,7 @@ class LayoutMaker {
   }
 
   /// Between marks that follow each other in their series.
-  static double LeastDistance(const std::vector<Mark>& marks) {
+  static double LeastDistance(const std::vector<SeriesMark>& marks) {
     double least = 1e9;
     for (std::size_t i = 1; i < marks.size(); ++i) {
       if (marks[i].series != marks[i - 1].series) continue;
@@ -168,15 +140,15 @@ class LayoutMaker {
 
   /// Arrows first, each with its room; then the values, which thin out by themselves.
   void PlaceLoads() {
-    std::vector<Mark> arrows, values;
+    std::vector<SeriesMark> arrows, values;
     for (const LoadArrow& load : scene_.loads) {
       const QPointF node = view_.ToPixels({load.x, load.y});
       arrows.push_back({load.series, load.place, node, 8 * layout_.unit});
       values.push_back({load.series, load.place, node, Width(load.value)});
     }
-    const int arrowStep = kSteps[FirstStep(arrows, 1e6, 0)];
+    const int arrowStep = kNameSteps[FirstStep(arrows, 1e6, 0)];
     const double gap = kNameGap * layout_.unit;
-    const int valueStep = std::max(arrowStep, kSteps[FirstStep(values, 1e6, 2 * gap)]);
+    const int valueStep = std::max(arrowStep, kNameSteps[FirstStep(values, 1e6, 2 * gap)]);
     for (std::size_t i = 0; i < scene_.loads.size(); ++i) {
       if (scene_.loads[i].place % arrowStep != 0 || !room_.contains(arrows[i].at)) continue;
       layout_.loads.push_back(i);

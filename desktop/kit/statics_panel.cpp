@@ -12,7 +12,7 @@
 
 #include "app/help.h"
 #include "desktop/kit/form.h"
-#include "desktop/kit/list_notes.h"
+#include "desktop/kit/out_of_date.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/row_copy.h"
 #include "desktop/kit/table.h"
