@@ -1,5 +1,6 @@
 #include "desktop/session/script_line.h"
 
+#include "desktop/kit/text.h"
 #include "desktop/session/script_error.h"
 
 namespace lignara {
@@ -39,6 +40,20 @@ std::vector<ScriptWord> SplitScriptLine(const QString& line) {
     const bool quoted = line[at] == '"';
     words.push_back({quoted ? ReadQuoted(line, at) : ReadBare(line, at), quoted});
   }
+}
+
+double ToFigure(const ScriptWord& word) {
+  bool ok = false;
+  const double value = word.text.toDouble(&ok);
+  if (!ok) throw ScriptError{Quoted(word.text) + " is not a number"};
+  return value;
+}
+
+int ToWhole(const ScriptWord& word) {
+  bool ok = false;
+  const int value = word.text.toInt(&ok);
+  if (!ok) throw ScriptError{Quoted(word.text) + " is not a whole number"};
+  return value;
 }
 
 }  // namespace lignara

@@ -15,4 +15,8 @@ struct ScriptWord {
 /// that begin with # have none. Throws ScriptError for a quote that is not closed.
 std::vector<ScriptWord> SplitScriptLine(const QString& line);
 
+/// The number that a word is. A `ScriptError` where it is none.
+double ToFigure(const ScriptWord& word);
+int ToWhole(const ScriptWord& word);
+
 }  // namespace lignara

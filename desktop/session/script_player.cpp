@@ -18,11 +18,12 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/lead_focus.h"
 #include "desktop/kit/picture.h"
-#include "desktop/kit/save_picture.h"
 #include "desktop/kit/picture_button.h"
+#include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/kept_answers.h"
+#include "desktop/session/row_finder.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/window_keys.h"
 
@@ -44,20 +45,6 @@ QStringList PathOf(const std::vector<ScriptWord>& words, std::size_t count) {
   return path;
 }
 
-double ToFigure(const ScriptWord& word) {
-  bool ok = false;
-  const double value = word.text.toDouble(&ok);
-  if (!ok) throw ScriptError{Quoted(word.text) + " is not a number"};
-  return value;
-}
-
-int ToWhole(const ScriptWord& word) {
-  bool ok = false;
-  const int value = word.text.toInt(&ok);
-  if (!ok) throw ScriptError{Quoted(word.text) + " is not a whole number"};
-  return value;
-}
-
 /// Sends what a keyboard says to a control; true where it is taken.
 bool Send(QEvent::Type type, QKeyCombination key, const QString& text,
           const QPointer<QWidget>& to) {
@@ -66,19 +53,6 @@ bool Send(QEvent::Type type, QKeyCombination key, const QString& text,
   event.ignore();
   QApplication::sendEvent(to, &event);
   return event.isAccepted();
-}
-
-/// The row that a word names: its index, or in quotes its text.
-int RowOf(const QListWidget* list, const ScriptWord& word) {
-  if (!word.quoted) {
-    const int row = ToWhole(word);
-    if (row < 0 || row >= list->count()) throw ScriptError{"the list has no row " + word.text};
-    return row;
-  }
-  for (int row = 0; row < list->count(); ++row) {
-    if (list->item(row)->text() == word.text) return row;
-  }
-  throw ScriptError{"the list has no row " + Quoted(word.text)};
 }
 
 void PrintTableRows(const QTableWidget* table, const ScriptOutput& output) {
