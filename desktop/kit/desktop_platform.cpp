@@ -1,21 +1,20 @@
 #include "desktop/kit/desktop_platform.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
-#include <QStandardPaths>
 #include <algorithm>
 #include <cassert>
 #include <utility>
 
 #include "app/launcher.h"
 #include "app/window_names.h"
-#include "desktop/kit/dialogs.h"
+#include "desktop/kit/arrow_pointer.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/help_window.h"
+#include "desktop/kit/message_box.h"
 #include "desktop/kit/program_icon.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/report_printer.h"
@@ -39,10 +38,7 @@ bool IsHelp(const ToolWindow* window) { return window->name() == window_name::kH
 
 }  // namespace
 
-DesktopPlatform::DesktopPlatform(SessionState& session)
-    : session_(session),
-      folder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
-  if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
+DesktopPlatform::DesktopPlatform(SessionState& session) : session_(session) {
   QApplication::setWindowIcon(ProgramIcon());
   TellReadersOfPictures();
 }
@@ -114,10 +110,8 @@ std::optional<std::string> DesktopPlatform::ChooseSaveFile(const std::string& fi
 
 std::optional<std::string> DesktopPlatform::ChooseOpenFile(const std::string& filter) {
   if (respondent_ != nullptr) return respondent_->ChooseOpenFile(filter);
-  const std::optional<QString> path = AskOpenFile(folder_, ToQt(filter));
-  if (!path) return std::nullopt;
-  folder_ = QFileInfo(*path).absolutePath();
-  return FromQt(*path);
+  const std::optional<QString> path = fileDialogs_.AskOpen(ToQt(filter));
+  return path ? std::optional(FromQt(*path)) : std::nullopt;
 }
 
 bool DesktopPlatform::MayWriteFiles() {
@@ -145,13 +139,10 @@ std::optional<std::string> DesktopPlatform::UsersFile(const std::string& filter)
   const bool pdf = filter == kPdfFilter;
   SaveProposal proposal;
   proposal.caption = pdf ? "There is no printer: a PDF file is written" : "Save As";
-  proposal.folder = folder_;
   proposal.name = FileNameOf(DocumentName());
   proposal.filter = ToQt(filter);
-  const std::optional<QString> path = AskSaveFile(proposal);
-  if (!path) return std::nullopt;
-  folder_ = QFileInfo(*path).absolutePath();
-  return FromQt(*path);
+  const std::optional<QString> path = fileDialogs_.AskSave(proposal);
+  return path ? std::optional(FromQt(*path)) : std::nullopt;
 }
 
 void DesktopPlatform::OpenWindow(const std::string& name) {

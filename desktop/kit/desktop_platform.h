@@ -8,6 +8,7 @@
 
 #include "app/platform.h"
 #include "app/session_state.h"
+#include "desktop/kit/file_dialogs.h"
 #include "desktop/kit/repeated_messages.h"
 #include "desktop/kit/user_action.h"
 #include "desktop/kit/window_places.h"
@@ -103,7 +104,7 @@ class DesktopPlatform : public Platform {
   Respondent* respondent_ = nullptr;
   SessionCommands* sessions_ = nullptr;
   bool played_ = false;
-  QString folder_;  ///< in which a file was saved last
+  FileDialogs fileDialogs_;
   RepeatedMessages repeated_;
   QPointer<ToolWindow> commandWindow_;
   WindowPlaces places_;

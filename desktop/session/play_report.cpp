@@ -10,7 +10,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "desktop/kit/dialogs.h"
+#include "desktop/kit/arrow_pointer.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/row_copy.h"
 

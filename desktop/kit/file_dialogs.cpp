@@ -1,12 +1,13 @@
-#include "desktop/kit/dialogs.h"
+#include "desktop/kit/file_dialogs.h"
 
 #include <QApplication>
-#include <QCheckBox>
+#include <QDir>
 #include <QFileDialog>
-#include <QMessageBox>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <QStandardPaths>
 
-#include "desktop/kit/text.h"
+#include "desktop/kit/arrow_pointer.h"
 
 namespace lignara {
 namespace {
@@ -18,28 +19,6 @@ QString ExtensionOf(const QString& filter) {
 }
 
 }  // namespace
-
-ArrowPointer::ArrowPointer() : set_(QApplication::overrideCursor() != nullptr) {
-  if (set_) QApplication::setOverrideCursor(Qt::ArrowCursor);
-}
-
-ArrowPointer::~ArrowPointer() {
-  if (set_) QApplication::restoreOverrideCursor();
-}
-
-bool ShowMessageBox(const Message& message, bool offer) {
-  const ArrowPointer arrow;
-  QMessageBox box(QApplication::activeWindow());
-  box.setWindowTitle(ToQt(message.title));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(ToQt(message.text));
-  box.setIcon(message.icon == MessageIcon::Stop ? QMessageBox::Critical : QMessageBox::NoIcon);
-  auto* tick = new QCheckBox("&Do not show again during this command", &box);
-  if (offer) box.setCheckBox(tick);
-  tick->setVisible(offer);
-  box.exec();
-  return tick->isChecked();
-}
 
 QString QtFilter(const QString& filter) {
   const QStringList parts = filter.split('|', Qt::SkipEmptyParts);
@@ -60,16 +39,21 @@ QString FileNameOf(const QString& title) {
   return name.simplified();
 }
 
-std::optional<QString> AskOpenFile(const QString& folder, const QString& filter) {
-  const ArrowPointer arrow;
-  const QString path =
-      QFileDialog::getOpenFileName(QApplication::activeWindow(), "Open", folder, QtFilter(filter));
-  return path.isEmpty() ? std::nullopt : std::optional(path);
+FileDialogs::FileDialogs()
+    : folder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+  if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();
 }
 
-std::optional<QString> AskSaveFile(const SaveProposal& proposal) {
+std::optional<QString> FileDialogs::AskOpen(const QString& filter) {
   const ArrowPointer arrow;
-  QFileDialog dialog(QApplication::activeWindow(), proposal.caption, proposal.folder,
+  const QString path =
+      QFileDialog::getOpenFileName(QApplication::activeWindow(), "Open", folder_, QtFilter(filter));
+  return path.isEmpty() ? std::nullopt : std::optional(Used(path));
+}
+
+std::optional<QString> FileDialogs::AskSave(const SaveProposal& proposal) {
+  const ArrowPointer arrow;
+  QFileDialog dialog(QApplication::activeWindow(), proposal.caption, folder_,
                      QtFilter(proposal.filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
@@ -81,7 +65,12 @@ std::optional<QString> AskSaveFile(const SaveProposal& proposal) {
   const QString extension = dialog.defaultSuffix();
   dialog.selectFile(extension.isEmpty() ? proposal.name : proposal.name + "." + extension);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return dialog.selectedFiles().value(0);
+  return Used(dialog.selectedFiles().value(0));
+}
+
+QString FileDialogs::Used(const QString& path) {
+  folder_ = QFileInfo(path).absolutePath();
+  return path;
 }
 
 }  // namespace lignara
