@@ -33,12 +33,15 @@ ScrollPage::ScrollPage(QWidget* parent) : QScrollArea(parent), most_(1000, 640) 
 void ScrollPage::Hold(QWidget* content) {
   content_ = content;
   content_->setParent(viewport());
+  content_->setAttribute(Qt::WA_Resized);  // nobody has to measure it until then
   auto* columns = qobject_cast<QBoxLayout*>(content_->layout());
   if (columns != nullptr && columns->direction() == QBoxLayout::LeftToRight) columns_ = columns;
 }
 
 void ScrollPage::TakeIn() {
-  if (widget() == nullptr && content_ != nullptr) setWidget(content_);
+  if (widget() != nullptr || content_ == nullptr) return;
+  content_->setAttribute(Qt::WA_Resized, false);
+  setWidget(content_);
 }
 
 void ScrollPage::SetMost(const QSize& most) {
@@ -83,7 +86,7 @@ void ScrollPage::resizeEvent(QResizeEvent* event) {
 }
 
 void ScrollPage::Arrange() {
-  if (columns_ == nullptr) return;
+  if (columns_ == nullptr || widget() == nullptr) return;
   const QMargins margins = columns_->contentsMargins();
   const QSize room = maximumViewportSize().shrunkBy(margins);
   const QSize needed = SideBySide(columns_);

@@ -47,6 +47,7 @@ TEST(UnseenWindows, StandAsOthersOnceTheyAreLookedAt) {
   ExpectSamePlaces(kTruss, "TRUSS");
   ExpectSamePlaces({"press \"HOWE\""}, "TR_INPUT");
   ExpectSamePlaces({"press \"Glu-Lam Data Base\""}, "GL");
+  ExpectSamePlaces({"press \"Fastener Data Base\"", "window FASTENER", "press \"Bolts\""}, "bolts");
 }
 
 TEST(UnseenWindows, FollowFurtherCommandsOnceTheyAreLookedAt) {
