@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTableWidget>
+#include <utility>
 
 #include "desktop/kit/area_keys.h"
 #include "desktop/kit/field_mark.h"
@@ -19,6 +20,7 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/row_copy.h"
 #include "desktop/kit/row_delegate.h"
+#include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {
@@ -231,12 +233,43 @@ void Binding::Check(QAbstractButton* button, bool* checked, Command changed) {
   Follow([button, checked] { button->setChecked(*checked); });
 }
 
-void Binding::Shown(QWidget* panel, const bool* shown) {
-  Shown(panel, [shown] { return *shown; });
+void Binding::Shown(QWidget* panel, const bool* shown, Command make) {
+  Shown(
+      panel, [shown] { return *shown; }, std::move(make));
 }
 
-void Binding::Shown(QWidget* panel, Condition shown) {
+void Binding::Shown(QWidget* panel, Condition shown, Command make) {
+  if (make) ShowLate(panel, shown, std::move(make));
   Follow([this, panel, shown] { panels_.SetShown(panel, shown()); });
+}
+
+void Binding::ShowLate(QWidget* panel, const Condition& shown, Command make) {
+  // Until then the panel keeps the place of what will stand in it in the order of the Tab key.
+  panel->setFocusPolicy(Qt::TabFocus);
+  late_.push_back(std::make_unique<LatePanel>(LatePanel{panel, std::move(make), {}}));
+  Follow([this, shown, late = late_.back().get()] {
+    if (late->make && shown()) Make(*late);
+    for (const Command& refresh : late->refreshers) refresh();
+  });
+}
+
+void Binding::Make(LatePanel& late) {
+  std::vector<Command>* before = std::exchange(follows_, &late.refreshers);
+  std::exchange(late.make, nullptr)();
+  follows_ = before;
+  TabThrough({late.panel});
+  late.panel->setFocusPolicy(Qt::NoFocus);
+  ++lateMade_;
+  afterMaking_(late.panel);
+}
+
+void Binding::MakeAllPanels() {
+  // What is made may hold further panels.
+  for (std::size_t i = 0; i < late_.size(); ++i) {
+    if (!late_[i]->make) continue;
+    Make(*late_[i]);
+    for (const Command& refresh : late_[i]->refreshers) refresh();
+  }
 }
 
 void Binding::CloseOnEscape(QWidget* panel, Command close) {
@@ -287,7 +320,7 @@ void Binding::Scroll(QScrollBar* bar, const int* value, RowCommand moved) {
   });
 }
 
-void Binding::Follow(Command refresh) { refreshers_.push_back(std::move(refresh)); }
+void Binding::Follow(Command refresh) { follows_->push_back(std::move(refresh)); }
 
 void Binding::Refresh() {
   for (const Command& refresh : refreshers_) refresh();

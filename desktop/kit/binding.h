@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -39,12 +40,16 @@ class Binding {
   using Condition = std::function<bool()>;
   using PlaceCommand = std::function<void(double x, double y)>;
   using ActionTold = std::function<void(const UserAction&)>;
+  using PanelTold = std::function<void(QWidget* panel)>;
 
   /// `afterCommand` makes all open windows show their records; `beforeCommand` is told of each
-  /// action of the user.
+  /// action of the user, `afterMaking` of each panel that was made late.
   explicit Binding(
-      Command afterCommand, ActionTold beforeCommand = [](const UserAction&) {})
-      : beforeCommand_(std::move(beforeCommand)), afterCommand_(std::move(afterCommand)) {}
+      Command afterCommand, ActionTold beforeCommand = [](const UserAction&) {},
+      PanelTold afterMaking = [](QWidget*) {})
+      : beforeCommand_(std::move(beforeCommand)),
+        afterCommand_(std::move(afterCommand)),
+        afterMaking_(std::move(afterMaking)) {}
 
   /// A number that the user types. `typed`, if any, runs after each change by the user. A text that
   /// is not wholly a number is marked, with the number that it is read as.
@@ -78,8 +83,11 @@ class Binding {
   void Check(QAbstractButton* button, bool* checked, Command changed = {});
   /// A part of the window that is shown or hidden. One that Escape can leave (`SetEscapeButton`, or
   /// `CloseOnEscape`) takes the focus when it opens and gives it back when it closes.
-  void Shown(QWidget* panel, const bool* shown);
-  void Shown(QWidget* panel, Condition shown);
+  ///
+  /// A panel that is closed at first may leave the making of all that stands in it to `make`, which
+  /// runs when it opens for the first time: so the window opens sooner.
+  void Shown(QWidget* panel, const bool* shown, Command make = {});
+  void Shown(QWidget* panel, Condition shown, Command make = {});
   /// What Escape does to a panel that has no button for it.
   void CloseOnEscape(QWidget* panel, Command close);
   void Enabled(QWidget* widget, Condition enabled);
@@ -105,13 +113,31 @@ class Binding {
   void Release() { released_ = true; }
   /// The panels of the window that are open.
   OpenPanels& panels() { return panels_; }
+  /// Makes what stands in all panels, also in those that have not been open yet.
+  void MakeAllPanels();
+  /// How many panels were made late up to now.
+  int lateMade() const { return lateMade_; }
 
  private:
+  /// A panel that is made when it opens, and what follows the record in it.
+  struct LatePanel {
+    QWidget* panel;
+    Command make;  ///< none once it is made
+    std::vector<Command> refreshers;
+  };
+
+  void Make(LatePanel& late);
+  void ShowLate(QWidget* panel, const Condition& shown, Command make);
+
   ActionTold beforeCommand_;
   Command afterCommand_;
+  PanelTold afterMaking_;
   OpenPanels panels_;
   bool released_ = false;
   std::vector<Command> refreshers_;
+  std::vector<Command>* follows_ = &refreshers_;  ///< to which `Follow` adds
+  std::vector<std::unique_ptr<LatePanel>> late_;
+  int lateMade_ = 0;
 };
 
 }  // namespace lignara

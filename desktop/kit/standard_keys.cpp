@@ -45,10 +45,14 @@ QKeySequence KeyOf(const Table& table, const QString& caption) {
   return {};
 }
 
+/// Panels that take each other's place may each have a button of the same key, which is that of the
+/// visible one: so the keys of buttons are not taken.
 QList<QKeySequence> KeysTaken(const QMainWindow* window) {
   QList<QKeySequence> taken;
   for (const QAction* action : window->findChildren<QAction*>()) taken << action->shortcuts();
-  for (const QShortcut* shortcut : window->findChildren<QShortcut*>()) taken << shortcut->key();
+  for (const QShortcut* shortcut : window->findChildren<QShortcut*>()) {
+    if (qobject_cast<QPushButton*>(shortcut->parent()) == nullptr) taken << shortcut->key();
+  }
   return taken;
 }
 
@@ -63,11 +67,17 @@ void SetMenuKeys(QMainWindow* window) {
   }
 }
 
-/// Panels that take each other's place may each have such a button: the key is that of the visible
-/// one.
-void SetButtonKeys(QMainWindow* window) {
+void SetCloseKey(QMainWindow* window) {
+  const QKeySequence close(Qt::CTRL | Qt::Key_W);
+  if (KeysTaken(window).contains(close)) return;
+  QObject::connect(new QShortcut(close, window), &QShortcut::activated, window, &QWidget::close);
+}
+
+}  // namespace
+
+void SetButtonKeys(QMainWindow* window, const QWidget* area) {
   const QList<QKeySequence> taken = KeysTaken(window);
-  for (QPushButton* button : window->findChildren<QPushButton*>()) {
+  for (QPushButton* button : area->findChildren<QPushButton*>()) {
     const QString caption = PlainCaption(button->text());
     const QKeySequence key = KeyOf(kButtonKeys, caption);
     if (key.isEmpty() || taken.contains(key)) continue;
@@ -78,17 +88,9 @@ void SetButtonKeys(QMainWindow* window) {
   }
 }
 
-void SetCloseKey(QMainWindow* window) {
-  const QKeySequence close(Qt::CTRL | Qt::Key_W);
-  if (KeysTaken(window).contains(close)) return;
-  QObject::connect(new QShortcut(close, window), &QShortcut::activated, window, &QWidget::close);
-}
-
-}  // namespace
-
 void SetStandardKeys(QMainWindow* window) {
   SetMenuKeys(window);
-  SetButtonKeys(window);
+  SetButtonKeys(window, window);
   SetCloseKey(window);
 }
 

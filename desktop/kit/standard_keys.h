@@ -1,6 +1,7 @@
 #pragma once
 
 class QMainWindow;
+class QWidget;
 
 namespace lignara {
 
@@ -10,6 +11,9 @@ class DesktopPlatform;
 /// F5 runs, Ctrl+P prints, Ctrl+S saves the report, Ctrl+W closes. A key that a window has given
 /// itself stays.
 void SetStandardKeys(QMainWindow* window);
+
+/// The same for the buttons of an area that came into the window later.
+void SetButtonKeys(QMainWindow* window, const QWidget* area);
 
 /// The keys of what the user can do with the session, where the window has no menu items for it.
 void SetSessionKeys(QMainWindow* window, const DesktopPlatform& platform);

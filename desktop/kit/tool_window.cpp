@@ -32,7 +32,8 @@ ToolWindow::ToolWindow(const char* name, WindowContext context)
             platform().RefreshWindows();
             platform().EndCommand();
           },
-          [this](const UserAction& action) { platform().BeginCommand(this, action); }) {
+          [this](const UserAction& action) { platform().BeginCommand(this, action); },
+          [this](QWidget* panel) { SetButtonKeys(this, panel); }) {
   setObjectName(name_);
 }
 

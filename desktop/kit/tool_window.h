@@ -30,6 +30,10 @@ class ToolWindow : public QMainWindow {
 
   /// Shows the record again.
   virtual void Refresh() { binding_.Refresh(); }
+  /// Makes all controls of the window, also those of panels that have not been open yet.
+  void MakeAllPanels() { binding_.MakeAllPanels(); }
+  /// Grows whenever controls were made that were not there before.
+  int panelsMade() const { return binding_.lateMade(); }
   /// Forgets what the user entered, where the window stays when a session begins anew.
   virtual void StartAgain() {}
   /// What the window's own close control does; plain closing unless a window says otherwise.

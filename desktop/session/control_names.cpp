@@ -1,7 +1,6 @@
 #include "desktop/session/control_names.h"
 
 #include <QAbstractButton>
-#include <QMainWindow>
 #include <algorithm>
 
 namespace lignara {
@@ -36,7 +35,7 @@ QString Said(const QWidget* widget) {
 
 QStringList ControlNames::ShortestName(QWidget* widget, const Kinds& kinds) {
   const auto isIt = [widget](const Entry& entry) { return entry.widget == widget; };
-  if (std::none_of(controls_.begin(), controls_.end(), isIt)) List();
+  if (IsOutOfDate() || std::none_of(controls_.begin(), controls_.end(), isIt)) List();
   const auto entry = std::find_if(controls_.begin(), controls_.end(), isIt);
   if (entry == controls_.end() || Caption(*entry).isEmpty()) return {};
   const std::vector<Candidate> rivals = Rivals(entry->caption, kinds);
@@ -49,7 +48,7 @@ QStringList ControlNames::ShortestName(QWidget* widget, const Kinds& kinds) {
 }
 
 QWidget* ControlNames::AnyButtonBut(const QWidget* other) {
-  if (controls_.empty()) List();
+  if (IsOutOfDate()) List();
   for (const Entry& entry : controls_) {
     const bool able = qobject_cast<QAbstractButton*>(entry.widget) != nullptr &&
                       entry.widget->isVisible() && entry.widget->isEnabled();
@@ -58,7 +57,12 @@ QWidget* ControlNames::AnyButtonBut(const QWidget* other) {
   return nullptr;
 }
 
+bool ControlNames::IsOutOfDate() const {
+  return controls_.empty() || panelsMade_ != window_->panelsMade();
+}
+
 void ControlNames::List() {
+  panelsMade_ = window_->panelsMade();
   controls_.clear();
   for (QWidget* widget : window_->findChildren<QWidget*>()) {
     if (!IsControl(widget) || widget->window() != window_) continue;

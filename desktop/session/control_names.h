@@ -3,15 +3,17 @@
 #include <QStringList>
 #include <vector>
 
+#include "desktop/kit/tool_window.h"
 #include "desktop/session/control_finder.h"
 
 namespace lignara {
 
-/// The controls of one window, to be named at each action of a user: the list of them is made once,
-/// and a caption is worked out anew only when its widget says another one.
+/// The controls of one window, to be named at each action of a user: the list of them is made once
+/// and when a panel was made since, and a caption is worked out anew only when its widget says
+/// another one.
 class ControlNames {
  public:
-  explicit ControlNames(QMainWindow* window) : window_(window) {}
+  explicit ControlNames(ToolWindow* window) : window_(window) {}
 
   /// The fewest captions by which `FindControl` finds a widget among the visible ones of these
   /// kinds. Empty where none do.
@@ -26,11 +28,13 @@ class ControlNames {
     QString caption;
   };
 
+  bool IsOutOfDate() const;
   void List();
   const QString& Caption(Entry& entry);
   std::vector<Candidate> Rivals(const QString& caption, const Kinds& kinds);
 
-  QMainWindow* window_;
+  ToolWindow* window_;
+  int panelsMade_ = 0;  ///< when the controls were listed
   std::vector<Entry> controls_;
 };
 

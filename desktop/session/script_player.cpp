@@ -283,6 +283,7 @@ void ScriptPlayer::State(const Words& words) {
     output_(QString("state visible %1").arg(item->isEnabled() ? "enabled" : "disabled"));
     return;
   }
+  Current()->MakeAllPanels();
   // Where a list and a field bear the same name, the chosen row is what one asks for.
   const Kinds controls = {IsList, IsControl};
   output_(StateOf(FindControl(Current(), path,

@@ -58,7 +58,8 @@ QString ContentOf(const QWidget* widget) {
 QStringList ScreenText(const DesktopPlatform& platform) {
   QStringList texts;
   for (const QString& name : platform.OpenWindows()) {
-    const ToolWindow* window = platform.FindWindow(name);
+    ToolWindow* window = platform.FindWindow(name);
+    window->MakeAllPanels();
     texts << "window " + name + " " + window->windowTitle();
     for (const QWidget* widget : window->findChildren<QWidget*>()) {
       if (widget->window() != window || FullPath(widget).isEmpty()) continue;

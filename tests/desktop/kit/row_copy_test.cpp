@@ -86,6 +86,7 @@ TEST(ListsOfWindows, CanAllBeCopied) {
   OpenDesktop desktop;
   desktop.OpenKingPost();
   desktop.Play({"enter \"Top Node Loads (lbs)\" 100", "press \"All\"", "press \"Run\""});
+  desktop.Window("TRUSS")->MakeAllPanels();
   for (QListWidget* list : desktop.Window("TRUSS")->findChildren<QListWidget*>()) {
     EXPECT_EQ(list->actions().size(), 2) << list->accessibleName().toStdString();
     if (list->accessibleName() != "Axial Load (lbs)") continue;
