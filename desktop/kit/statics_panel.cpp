@@ -161,16 +161,17 @@ QGroupBox* MakeStaticsPanel(const StaticsView& view, Binding& binding, const Ses
                             Platform& platform) {
   StaticsCheck* check = &view.check;
   QGroupBox* panel = MakePanel(kName);
-  auto* columns = new QHBoxLayout(panel);
-  auto* rows = new QVBoxLayout;
-  rows->addWidget(MakeDifferences(check, binding), 1);
-  auto* units = new WrappedLabel;
-  binding.Follow([units, check] { units->setText(ToQt(UnitsNote(*check))); });
-  rows->addWidget(units);
-  columns->addLayout(rows, 1);
-  columns->addLayout(MakeCommands(view, binding, session, platform));
   binding.CloseOnEscape(panel, [check] { check->open = false; });
-  binding.Shown(panel, &check->open);
+  binding.Shown(panel, &check->open, [panel, view, check, &binding, &session, &platform] {
+    auto* columns = new QHBoxLayout(panel);
+    auto* rows = new QVBoxLayout;
+    rows->addWidget(MakeDifferences(check, binding), 1);
+    auto* units = new WrappedLabel;
+    binding.Follow([units, check] { units->setText(ToQt(UnitsNote(*check))); });
+    rows->addWidget(units);
+    columns->addLayout(rows, 1);
+    columns->addLayout(MakeCommands(view, binding, session, platform));
+  });
   return panel;
 }
 

@@ -27,37 +27,40 @@ QGroupBox* OptionPair(Binding& binding, const QString& caption, const QString& f
 
 QGroupBox* MakeHeadingsPanel(TrussWindow& window, Binding& binding, SessionState& session) {
   QGroupBox* panel = MakePanel("Output Description");
-  auto* rows = new QVBoxLayout(panel);
-  auto* grid = new QGridLayout;
-  for (const auto& [caption, text] :
-       {std::pair{"Title", &window.titleText}, std::pair{"Description", &window.descriptionText}}) {
-    QLineEdit* field = AddField(grid, caption, 220);
-    field->setAlignment(Qt::AlignLeft);
-    binding.Words(field, text);
-  }
-  rows->addLayout(grid);
-  auto* ok = new QPushButton("OK");
-  binding.Press(ok, [&window, &session] { AcceptHeadings(window, session); });
-  rows->addWidget(ok, 0, Qt::AlignRight);
-  SetReturnButton(panel, ok);
   binding.CloseOnEscape(panel, [&window] { CloseHeadings(window); });
-  binding.Shown(panel, &window.headingsOpen);
+  binding.Shown(panel, &window.headingsOpen, [panel, &window, &binding, &session] {
+    auto* rows = new QVBoxLayout(panel);
+    auto* grid = new QGridLayout;
+    const auto add = [&](const char* caption, std::string* text) {
+      QLineEdit* field = AddField(grid, caption, 220);
+      field->setAlignment(Qt::AlignLeft);
+      binding.Words(field, text);
+    };
+    add("Title", &window.titleText);
+    add("Description", &window.descriptionText);
+    rows->addLayout(grid);
+    auto* ok = new QPushButton("OK");
+    binding.Press(ok, [&window, &session] { AcceptHeadings(window, session); });
+    rows->addWidget(ok, 0, Qt::AlignRight);
+    SetReturnButton(panel, ok);
+  });
   return panel;
 }
 
 QGroupBox* MakeFontsPanel(TrussWindow& window, Binding& binding, SessionState& session) {
   QGroupBox* panel = MakePanel("Fonts");
-  auto* rows = new QVBoxLayout(panel);
-  auto* pairs = new QHBoxLayout;
-  pairs->addWidget(OptionPair(binding, "Name", "Times New Roman", "Arial", &window.fontTimes));
-  pairs->addWidget(OptionPair(binding, "Size", "10", "8", &window.fontTen));
-  rows->addLayout(pairs);
-  auto* ok = new QPushButton("OK");
-  binding.Press(ok, [&window, &session] { AcceptFonts(window, session); });
-  rows->addWidget(ok, 0, Qt::AlignRight);
-  SetReturnButton(panel, ok);
   binding.CloseOnEscape(panel, [&window] { CloseFonts(window); });
-  binding.Shown(panel, &window.fontsOpen);
+  binding.Shown(panel, &window.fontsOpen, [panel, &window, &binding, &session] {
+    auto* rows = new QVBoxLayout(panel);
+    auto* pairs = new QHBoxLayout;
+    pairs->addWidget(OptionPair(binding, "Name", "Times New Roman", "Arial", &window.fontTimes));
+    pairs->addWidget(OptionPair(binding, "Size", "10", "8", &window.fontTen));
+    rows->addLayout(pairs);
+    auto* ok = new QPushButton("OK");
+    binding.Press(ok, [&window, &session] { AcceptFonts(window, session); });
+    rows->addWidget(ok, 0, Qt::AlignRight);
+    SetReturnButton(panel, ok);
+  });
   return panel;
 }
 

@@ -62,8 +62,11 @@ class TrussForm : public ToolWindow {
   QLayout* Forces();
   QGroupBox* LineLoadPanel();
   QGroupBox* AreaLoadPanel();
-  QGroupBox* ListPanel(QListWidget* list, const std::vector<std::string>* rows, const bool* shown,
-                       const QString& closing, Binding::Command close, int width);
+  QGroupBox* LengthsPanel();
+  QGroupBox* DeflectionsPanel();
+  QGroupBox* StressesPanel();
+  QListWidget* FillListPanel(QGroupBox* panel, const std::vector<std::string>* rows, int width,
+                             const QString& closing, Binding::Command close);
   QLayout* MemberHit();
   QPushButton* Button(const QString& caption, Binding::Command command);
   QLayout* ButtonPair(QGroupBox* panel, const QString& first, Binding::Command command,
@@ -160,43 +163,58 @@ QWidget* TrussForm::ResultArea() {
 
 QLayout* TrussForm::ResultPanels() {
   auto* row = new QHBoxLayout;
-  row->addWidget(ListPanel(
-                     MakeList("Member Lengths (ft)", 9), &record_.lengthRows, &record_.lengthsOpen,
-                     "Cancel", [this] { CloseMemberLengths(record_); }, 150),
-                 2);
-  QListWidget* deflections = MakeList("Deflections", 9);
-  row->addWidget(ListPanel(
-                     deflections, &record_.deflectionRows, &record_.deflectionsOpen, "Cancel",
-                     [this] { CloseDeflections(record_); }, 150),
-                 2);
-  binding().WhyEmpty(deflections, [this] { return record_.whyNoDeflections; });
-  binding().OutOfDate(deflections, [this] { return AreDeflectionsOlder(record_); });
-  QListWidget* stresses = MakeList("Actual and Allowable Axial Stresses", 9);
-  row->addWidget(ListPanel(
-                     stresses, &record_.stressRows, &record_.stressOpen, "OK",
-                     [this] { CloseStresses(record_); }, 300),
-                 5);
-  binding().Notes(stresses, &record_.stressNotes);
-  binding().WhyEmpty(stresses, [this] { return record_.whyNoStresses; });
-  binding().OutOfDate(stresses, [this] { return AreStressesOlder(record_); });
+  row->addWidget(LengthsPanel(), 2);
+  row->addWidget(DeflectionsPanel(), 2);
+  row->addWidget(StressesPanel(), 5);
   row->addWidget(MakeStaticsPanel(Statics(), binding(), session(), platform()));
   return row;
 }
 
-QGroupBox* TrussForm::ListPanel(QListWidget* list, const std::vector<std::string>* rows,
-                                const bool* shown, const QString& closing, Binding::Command close,
-                                int width) {
-  QGroupBox* panel = MakePanel(list->accessibleName());
+QGroupBox* TrussForm::LengthsPanel() {
+  QGroupBox* panel = MakePanel("Member Lengths (ft)");
+  binding().Shown(panel, &record_.lengthsOpen, [this, panel] {
+    FillListPanel(panel, &record_.lengthRows, 150, "Cancel",
+                  [this] { CloseMemberLengths(record_); });
+  });
+  return panel;
+}
+
+QGroupBox* TrussForm::DeflectionsPanel() {
+  QGroupBox* panel = MakePanel("Deflections");
+  binding().Shown(panel, &record_.deflectionsOpen, [this, panel] {
+    QListWidget* list = FillListPanel(panel, &record_.deflectionRows, 150, "Cancel",
+                                      [this] { CloseDeflections(record_); });
+    binding().WhyEmpty(list, [this] { return record_.whyNoDeflections; });
+    binding().OutOfDate(list, [this] { return AreDeflectionsOlder(record_); });
+  });
+  return panel;
+}
+
+QGroupBox* TrussForm::StressesPanel() {
+  QGroupBox* panel = MakePanel("Actual and Allowable Axial Stresses");
+  binding().Shown(panel, &record_.stressOpen, [this, panel] {
+    QListWidget* list =
+        FillListPanel(panel, &record_.stressRows, 300, "OK", [this] { CloseStresses(record_); });
+    binding().Notes(list, &record_.stressNotes);
+    binding().WhyEmpty(list, [this] { return record_.whyNoStresses; });
+    binding().OutOfDate(list, [this] { return AreStressesOlder(record_); });
+  });
+  return panel;
+}
+
+/// A list that is called as its panel, and below it the button that closes the panel.
+QListWidget* TrussForm::FillListPanel(QGroupBox* panel, const std::vector<std::string>* rows,
+                                      int width, const QString& closing, Binding::Command close) {
   auto* column = new QVBoxLayout(panel);
+  QListWidget* list = MakeList(panel->title(), 9);
   list->setMinimumWidth(InLetters(width));
   list->setMaximumHeight(240);
   binding().List(list, rows);
   column->addWidget(list);
   QPushButton* button = Button(closing, std::move(close));
   column->addWidget(button, 0, Qt::AlignRight);
-  binding().Shown(panel, shown);
   SetEscapeButton(panel, button);
-  return panel;
+  return list;
 }
 
 /// Commands, panels that are open, loads and results. It scrolls by itself, so that the drawing
@@ -338,26 +356,28 @@ QLayout* TrussForm::ButtonPair(QGroupBox* panel, const QString& first, Binding::
 
 QGroupBox* TrussForm::LineLoadPanel() {
   QGroupBox* panel = MakePanel("Uniform Load (Line Load)");
-  auto* grid = new QGridLayout(panel);
-  binding().Field(AddField(grid, "Load (lb / ft)"), &record_.lineLoad);
-  grid->addLayout(ButtonPair(
-                      panel, "Apply", [this] { ApplyLineLoad(record_, session(), platform()); },
-                      [this] { CancelDistributedLoad(record_); }),
-                  grid->rowCount(), 0, 1, 2);
-  binding().Shown(panel, &record_.lineLoadOpen);
+  binding().Shown(panel, &record_.lineLoadOpen, [this, panel] {
+    auto* grid = new QGridLayout(panel);
+    binding().Field(AddField(grid, "Load (lb / ft)"), &record_.lineLoad);
+    grid->addLayout(ButtonPair(
+                        panel, "Apply", [this] { ApplyLineLoad(record_, session(), platform()); },
+                        [this] { CancelDistributedLoad(record_); }),
+                    grid->rowCount(), 0, 1, 2);
+  });
   return panel;
 }
 
 QGroupBox* TrussForm::AreaLoadPanel() {
   QGroupBox* panel = MakePanel("Area Load ");
-  auto* grid = new QGridLayout(panel);
-  binding().Field(AddField(grid, "Truss Spacing (ft)"), &record_.trussSpacing);
-  binding().Field(AddField(grid, "Load (lb/sf)"), &record_.areaLoad);
-  grid->addLayout(ButtonPair(
-                      panel, "Apply", [this] { ApplyAreaLoad(record_, session(), platform()); },
-                      [this] { CancelDistributedLoad(record_); }),
-                  grid->rowCount(), 0, 1, 2);
-  binding().Shown(panel, &record_.areaLoadOpen);
+  binding().Shown(panel, &record_.areaLoadOpen, [this, panel] {
+    auto* grid = new QGridLayout(panel);
+    binding().Field(AddField(grid, "Truss Spacing (ft)"), &record_.trussSpacing);
+    binding().Field(AddField(grid, "Load (lb/sf)"), &record_.areaLoad);
+    grid->addLayout(ButtonPair(
+                        panel, "Apply", [this] { ApplyAreaLoad(record_, session(), platform()); },
+                        [this] { CancelDistributedLoad(record_); }),
+                    grid->rowCount(), 0, 1, 2);
+  });
   return panel;
 }
 

@@ -34,9 +34,8 @@ class TrussStaticsPanel : public testing::Test {
 
 TEST_F(TrussStaticsPanel, OpensAndClosesByItsKeys) {
   RunEnglish();
-  auto* table = Find<QTableWidget>("Differences");
-  EXPECT_FALSE(table->isVisible());
   desktop.PressKey("TRUSS", Qt::Key_T, Qt::AltModifier);
+  auto* table = Find<QTableWidget>("Differences");
   EXPECT_TRUE(table->isVisible());
   EXPECT_EQ(FromQt(desktop.FocusIn("TRUSS")), "Differences");
   desktop.PressKey("TRUSS", Qt::Key_Tab);
