@@ -40,6 +40,22 @@ QString PlaceText(double x, double y) {
          QString::number(y, 'g', QLocale::FloatingPointShortest);
 }
 
+/// What is typed into a field, in one line: what is pasted may have several, which neither a report
+/// nor a script has room for.
+QString InOneLine(QLineEdit* field, const QString& text) {
+  QString line = text;
+  for (QChar& sign : line) {
+    const bool breaks = sign == QChar::LineSeparator || sign == QChar::ParagraphSeparator ||
+                        (sign.category() == QChar::Other_Control && sign != '\t');
+    if (breaks) sign = ' ';
+  }
+  if (line == text) return text;
+  const int cursor = field->cursorPosition();
+  field->setText(line);
+  field->setCursorPosition(cursor);
+  return line;
+}
+
 /// Calls back after the left mouse button was released over a widget, wherever it was pressed.
 class ReleaseWatcher : public QObject {
  public:
@@ -99,7 +115,8 @@ void Binding::Field(QLineEdit* field, std::string* text, Command typed) {
 }
 
 void Binding::Words(QLineEdit* field, std::string* text, Command typed) {
-  QObject::connect(field, &QLineEdit::textEdited, [this, field, text, typed](const QString& now) {
+  QObject::connect(field, &QLineEdit::textEdited, [this, field, text, typed](const QString& said) {
+    const QString now = InOneLine(field, said);
     Act({Kind::Enter, field, nullptr, now}, [&] {
       *text = FromQt(now);
       if (typed) typed();

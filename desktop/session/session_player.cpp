@@ -20,7 +20,8 @@ namespace {
 
 /// More than a user does in a year; what is larger is no session.
 constexpr qint64 kLargestFile = 16 * 1024 * 1024;
-constexpr qsizetype kLongestLine = 4096;
+/// The longest text that a field holds, with a sign before each letter, fits.
+constexpr qsizetype kLongestLine = 128 * 1024;
 
 /// Takes the kept answers, hears what boxes say, and lets nothing leave the program.
 class QuietUser : public Respondent {

@@ -95,10 +95,11 @@ bool TakesClicks(const RecordedAction& action) {
 }
 
 /// True when only the later of two actions in a row matters. What the earlier one was told comes
-/// again only if it is done again.
+/// again only if it is done again; where the later one was told something, such as a number that is
+/// too large, what the earlier one left may have stayed.
 bool TakesThePlaceOf(const RecordedAction& later, const RecordedAction& earlier) {
   const bool same = !later.control.isNull() && later.control == earlier.control;
-  if (!same || !later.lead.isEmpty() || earlier.boxShown) return false;
+  if (!same || !later.lead.isEmpty() || earlier.boxShown || later.boxShown) return false;
   const bool entered =
       later.kind == Kind::Enter && (earlier.kind == Kind::Enter || earlier.kind == Kind::ComeInto);
   return entered || (later.kind == earlier.kind && later.lastCounts);

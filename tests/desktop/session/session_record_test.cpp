@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 
@@ -109,6 +110,23 @@ TEST_F(SessionRecordTest, AClickIntoASizeOfAGlulamMemberEmptiesIt) {
   auto* field = Find<QLineEdit>("GL", "d(in)", UserAction::Kind::Enter);
   QTest::mouseClick(field, Qt::LeftButton);
   EXPECT_EQ(Recorded(), "window GL\nenter \"d(in)\" \"\"");
+}
+
+TEST_F(SessionRecordTest, SeveralLinesAreEnteredAsOne) {
+  auto* field = Find<QLineEdit>("main", "Enter No. of Spans", UserAction::Kind::Enter);
+  field->setFocus();
+  QGuiApplication::clipboard()->setText("2\n3\r\n\t4");
+  desktop.PressKey("main", Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(FromQt(field->text()), "2 3  \t4");
+  EXPECT_EQ(Recorded(), "enter \"Enter No. of Spans\" \"2 3  \t4\"");
+}
+
+TEST_F(SessionRecordTest, ATextThatIsRefusedLeavesWhatWasEnteredBefore) {
+  desktop.Play({"press \"Single Span Beams\"", "window MLSP"});
+  record.Clear();
+  desktop.Play({"enter \"L(ft)\" 12", "enter \"L(ft)\" 14", "enter \"L(ft)\" 1e39"});
+  EXPECT_EQ(Recorded(), "window MLSP\nenter \"L(ft)\" 14\nenter \"L(ft)\" 1e39")
+      << "the length is 14 still";
 }
 
 TEST_F(SessionRecordTest, APausedRecordIsSilent) {
