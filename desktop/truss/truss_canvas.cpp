@@ -46,6 +46,10 @@ class TrussCanvas {
     grid->addWidget(Canvas(), 0, 0);
     auto* rise = Named("Rise", new QScrollBar(Qt::Vertical));
     rise->setRange(0, kPanSteps);
+    // It moves nothing; where it stands is the user's doing all the same.
+    QObject::connect(rise, &QScrollBar::valueChanged, [rise, &binding = binding_](int value) {
+      binding.Act({UserAction::Kind::Scroll, rise, nullptr, QString::number(value), true}, [] {});
+    });
     grid->addWidget(rise, 0, 1);
     auto* pan = Named("Pan", new QScrollBar(Qt::Horizontal));
     pan->setRange(-kPanSteps, kPanSteps);
