@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTest>
 #include <filesystem>
 
 #include "app/launcher.h"
@@ -28,6 +29,9 @@ const std::vector<QString> kTexts = {
     "30", "7.5",  "100", "-5",    "1e38",  "-1e39", "1e-40",  "abc",    "1,000", " 16 ",
     ".5", "0.01", "3.5", "99.99", "1e400", "5 ft",  "000",    "-0.001", "2.5e1", "+7",
     "24", "1.15", "--3", "1e",    ".",     "250",   "1600000"};
+
+/// A button under a mnemonic is seen going down before it acts, for so many milliseconds.
+constexpr int kButtonDown = 130;
 
 /// An item, which may stand in the menu bar itself, or all items of a menu. A monkey keeps away
 /// from the end of the program, and from sessions, which have tests of their own.
@@ -121,11 +125,14 @@ ToolWindow* Monkey::AnyWindow() {
 void Monkey::Act() {
   ToolWindow* window = AnyWindow();
   platform_.Activate(window);  // as each click into a window does
+  QApplication::processEvents();
   const int kind = Pick(40);
   if (kind == 0) {
     if (window->name() != "main") window->close();
   } else if (kind < 3) {
     UseMenu(window);
+  } else if (kind < 8) {
+    UseKey(window);
   } else {
     UseControl(window);
   }
@@ -137,6 +144,33 @@ void Monkey::UseMenu(ToolWindow* window) {
   if (items.empty()) return;
   PrepareAnswer();
   items[static_cast<std::size_t>(Pick(items.size()))]->trigger();
+}
+
+/// A key goes the way of the keyboard's, to whatever has the focus.
+void Monkey::UseKey(ToolWindow* window) {
+  static const std::vector<QKeyCombination> keys = {
+      Qt::Key_Tab,  Qt::Key_Tab,   Qt::Key_Backtab,      Qt::Key_Return,       Qt::Key_Escape,
+      Qt::Key_Down, Qt::Key_Up,    Qt::Key_Left,         Qt::Key_Right,        Qt::Key_Space,
+      Qt::Key_F5,   Qt::Key_F5,    Qt::CTRL | Qt::Key_P, Qt::CTRL | Qt::Key_S, Qt::Key_1,
+      Qt::Key_4,    Qt::Key_Minus, Qt::Key_Backspace,    Qt::CTRL | Qt::Key_A, Qt::Key_F1,
+      Qt::Key_Home, Qt::Key_End,   Qt::CTRL | Qt::Key_C, Qt::CTRL | Qt::Key_V, Qt::Key_Delete};
+  PrepareAnswer();
+  if (Pick(10) == 0) return UseMnemonic(window);
+  const QKeyCombination key = keys[static_cast<std::size_t>(Pick(keys.size()))];
+  QTest::keyClick(window->windowHandle(), key.key(), key.keyboardModifiers());
+}
+
+/// Presses a button by the letter that is underlined in its caption.
+void Monkey::UseMnemonic(ToolWindow* window) {
+  std::vector<QKeyCombination> keys;
+  for (const QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+    const bool able = button->isVisible() && button->isEnabled() && button->window() == window;
+    if (able && !button->shortcut().isEmpty()) keys.push_back(button->shortcut()[0]);
+  }
+  if (keys.empty()) return;
+  const QKeyCombination key = keys[static_cast<std::size_t>(Pick(keys.size()))];
+  QTest::keyClick(window->windowHandle(), key.key(), key.keyboardModifiers());
+  QTest::qWait(kButtonDown);
 }
 
 void Monkey::UseControl(ToolWindow* window) {

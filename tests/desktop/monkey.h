@@ -33,6 +33,8 @@ class Monkey {
   ToolWindow* AnyWindow();
   void Act();
   void UseMenu(ToolWindow* window);
+  void UseKey(ToolWindow* window);
+  void UseMnemonic(ToolWindow* window);
   void UseControl(ToolWindow* window);
   void Use(QWidget* widget);
   void Heard(const QString& line);
