@@ -187,6 +187,8 @@ void DesktopPlatform::HideWindow(const std::string& name) {
 }
 
 void DesktopPlatform::Activate(ToolWindow* window) {
+  // The lines of a session name a window often: the desktop would be busy with it for long.
+  if (played_ && lastActive_ == window) return;
   window->raise();
   window->activateWindow();
   NoteActive(window);

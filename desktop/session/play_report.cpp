@@ -34,7 +34,7 @@ QListWidget* ListOf(const SessionPlay& play) {
   list->setSelectionMode(QAbstractItemView::ExtendedSelection);
   list->setWordWrap(true);
   list->setLayoutMode(QListView::Batched);  // there may be thousands
-  list->setMinimumWidth(InLetters(480));
+  list->setMinimumWidth(InLetters(600));
   AddGroup(list, "Said", play.said);
   AddGroup(list, "Left out", play.leftOut);
   MakeCopyable(list);
