@@ -1,26 +1,17 @@
 // What a user does by keys alone is recorded so that it can be played: no key leads the focus to
 // the button that it presses.
 
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
 
-#include "desktop/kit/text.h"
-#include "desktop/session/script_error.h"
-#include "desktop/session/session_record.h"
-#include "tests/desktop/open_desktop.h"
-#include "tests/desktop/screen_text.h"
+#include "tests/desktop/session/recorded_user.h"
 
 namespace lignara {
 namespace {
 
-class KeyboardSessionTest : public testing::Test {
+class KeyboardSessionTest : public RecordedUser {
  protected:
-  KeyboardSessionTest() { user.platform.SetListener(&record); }
-  ~KeyboardSessionTest() override { user.platform.SetListener(nullptr); }
-
   /// A beam whose length has the focus, with a load ready to be added. To come back into the length
   /// once there is a load asks whether all loads may go.
   void OpenBeam() {
@@ -29,34 +20,11 @@ class KeyboardSessionTest : public testing::Test {
                "enter \"P(lbs)\" 1000", "enter \"L(ft)\" 12"});
   }
 
-  std::string Recorded() const { return FromQt(record.Lines().join('\n')); }
-
-  void ExpectPlayedTheSame() {
-    OpenDesktop other;
-    SessionRecord again;
-    other.platform.SetListener(&again);
-    for (const QString& line : record.Lines()) {
-      try {
-        other.Play({FromQt(line).c_str()});
-      } catch (const ScriptError& error) {
-        FAIL() << FromQt(line + ": " + error.reason) << " in\n" << Recorded();
-      }
-    }
-    other.platform.SetListener(nullptr);
-    EXPECT_EQ(FromQt(ScreenText(other.platform).join('\n')),
-              FromQt(ScreenText(user.platform).join('\n')))
-        << Recorded();
-    EXPECT_EQ(FromQt(again.Lines().join('\n')), Recorded());
-  }
-
   std::string Text(const char* window, const char* caption) {
     return FromQt(static_cast<QLineEdit*>(
                       FindControl(user.Window(window), {caption}, {AllVisible({IsTypedInto})}))
                       ->text());
   }
-
-  OpenDesktop user;
-  SessionRecord record;
 };
 
 TEST_F(KeyboardSessionTest, AMnemonicLeavesTheFocusInTheField) {

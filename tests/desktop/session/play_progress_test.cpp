@@ -131,6 +131,12 @@ TEST_F(PlayedForAUserTest, TheBarComesOnlyWhenAPlayTakesLong) {
   EXPECT_FALSE(seen);
 }
 
+TEST_F(PlayedForAUserTest, TheWindowOfTheLastLineIsInFront) {
+  ASSERT_TRUE(Play({"press \"Ply Wood\"", "press \"Glu-Lam Data Base\"", "window ply"}, [] {}));
+  QApplication::processEvents();
+  EXPECT_EQ(QApplication::activeWindow(), program.Window("ply"));
+}
+
 TEST_F(PlayedForAUserTest, TheListTellsAllLines) {
   QStringList lines = {"# mine", ""};
   for (int i = 0; i < 30; ++i) lines << "press \"Multi-Span Beam\"";
