@@ -153,8 +153,8 @@ SessionPlay Sessions::Replay(const QStringList& lines, const QString& name, cons
   const SessionPlay play =
       PlaySession(lines, name, platform_, [&bar](int done) { return !bar || bar->Step(done); });
   bar.reset();
-  if (ToolWindow* front = platform_.Front()) platform_.Activate(front);
   platform_.SetPlayed(false);
+  if (ToolWindow* front = platform_.Front()) platform_.Activate(front);
   playing_ = replaying_ = false;
   replaced_();
   return play;
