@@ -24,6 +24,7 @@ inline constexpr const char* kGlulam = "GL";
 inline constexpr const char* kBolts = "bolts";
 inline constexpr const char* kFasteners = "FASTENER";
 inline constexpr const char* kPlywood = "ply";
+inline constexpr const char* kRepeat = "REPEAT";
 }  // namespace window_name
 
 inline constexpr std::array kWindowNames = {window_name::kLauncher,
@@ -41,7 +42,8 @@ inline constexpr std::array kWindowNames = {window_name::kLauncher,
                                             window_name::kGlulam,
                                             window_name::kBolts,
                                             window_name::kFasteners,
-                                            window_name::kPlywood};
+                                            window_name::kPlywood,
+                                            window_name::kRepeat};
 
 /// False for a name that no window of the program bears: a slip of the pen, not a window to come.
 constexpr bool IsWindowName(std::string_view name) {

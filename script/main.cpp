@@ -12,15 +12,12 @@
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_player.h"
 #include "desktop/session/sessions.h"
-#include "desktop/session/variants.h"
+#include "script/exit_status.h"
 #include "script/script_platform.h"
+#include "script/variants_out_of_sight.h"
 
 namespace lignara {
 namespace {
-
-constexpr int kDone = 0;
-constexpr int kStopped = 1;
-constexpr int kWrongUsage = 2;
 
 void Print(const QString& line) { std::cout << FromQt(line) << std::endl; }
 
@@ -35,7 +32,8 @@ struct Options {
   QString data;
   bool show = false;
   QString repeat;  ///< LINE=VALUES; empty: played once
-  QString file;    ///< empty: standard input
+  bool variants = false;
+  QString file;  ///< empty: standard input
 };
 
 /// Reads the command line; an exit status where the program has to end at once.
@@ -47,7 +45,8 @@ std::optional<int> ReadOptions(const QStringList& arguments, Options& options) {
   const QCommandLineOption show("show", "Show the windows on the screen.");
   const QCommandLineOption repeat("repeat", "Play FILE for each of several values of one line.",
                                   "LINE=VALUES");
-  parser.addOptions({data, show, repeat});
+  const QCommandLineOption variants("variants", "Play what Lignara asks for on standard input.");
+  parser.addOptions({data, show, repeat, variants});
   parser.addPositionalArgument("FILE", "The script; standard input without it.", "[FILE]");
   if (!parser.parse(arguments) || parser.positionalArguments().size() > 1) {
     const QString reason = parser.errorText();
@@ -61,6 +60,7 @@ std::optional<int> ReadOptions(const QStringList& arguments, Options& options) {
   options.data = parser.value(data);
   options.show = parser.isSet(show);
   options.repeat = parser.value(repeat);
+  options.variants = parser.isSet(variants);
   options.file = parser.positionalArguments().value(0);
   if (parser.isSet(repeat) && options.file.isEmpty()) {
     std::cerr << "--repeat needs a file\n";
@@ -84,23 +84,6 @@ int PlayScript(std::istream& lines, const QString& name, ScriptPlayer& player) {
   return kDone;
 }
 
-/// Prints a table of CSV: a row for each value. Returns the exit status.
-int PlayVariants(const Variants& variants, SessionState& session, ScriptPlatform& platform) {
-  Print(CsvLine(VariantHeads(variants)));
-  int status = kDone;
-  for (const QString& value : variants.values) {
-    QString refusal;
-    const QStringList row = PlayVariant(variants, value, session, platform, refusal);
-    if (row.isEmpty()) {
-      std::cerr << FromQt(refusal) << std::endl;
-      status = kStopped;
-    } else {
-      Print(CsvLine(row));
-    }
-  }
-  return status;
-}
-
 /// The variants that the command line asks for; nothing, with a word on standard error, where it
 /// asks for none that can be.
 std::optional<Variants> ReadVariants(const Options& options) {
@@ -113,16 +96,6 @@ std::optional<Variants> ReadVariants(const Options& options) {
   if (refusal.isEmpty()) return variants;
   std::cerr << FromQt(refusal) << "\n";
   return std::nullopt;
-}
-
-int Repeat(const Variants& variants) {
-  SessionState session;
-  ScriptPlatform platform(session, Print);
-  const FaultScope faults(platform);
-  platform.PaintNothing();
-  StartSession(session, FromQt(QDir::currentPath()));
-  platform.OpenWindow(window_name::kLauncher);
-  return PlayVariants(variants, session, platform);
 }
 
 int Run(std::istream& lines, const QString& name, bool show) {
@@ -165,7 +138,8 @@ int Main(int argc, char* argv[]) {
     std::cerr << "there is no directory " << FromQt(options.data) << "\n";
     return kWrongUsage;
   }
-  if (variants) return Repeat(*variants);
+  if (variants) return PrintVariants(*variants);
+  if (options.variants) return AnswerVariants(std::cin, std::cout);
   return options.file.isEmpty() ? Run(std::cin, "-", options.show)
                                 : Run(file, options.file, options.show);
 }

@@ -114,6 +114,35 @@ QWidget* FindControl(QMainWindow* window, const QStringList& path,
   throw ScriptError{"no control is named" + shown};
 }
 
+std::vector<QStringList> PathsTo(const QStringList& fullPath) {
+  std::vector<QStringList> paths;
+  const qsizetype panels = fullPath.size() - 1;
+  for (unsigned mask = 0; mask < (1U << panels); ++mask) {
+    QStringList path;
+    for (qsizetype i = 0; i < panels; ++i) {
+      if ((mask >> i & 1U) != 0) path << fullPath[i];
+    }
+    paths.push_back(path << fullPath.last());
+  }
+  std::stable_sort(paths.begin(), paths.end(),
+                   [](const QStringList& a, const QStringList& b) { return a.size() < b.size(); });
+  return paths;
+}
+
+QStringList FewestCaptions(QMainWindow* window, const QWidget* widget,
+                           const std::vector<Kinds>& stages) {
+  const QStringList fullPath = FullPath(widget);
+  if (fullPath.isEmpty()) return {};
+  for (const QStringList& path : PathsTo(fullPath)) {
+    try {
+      if (FindControl(window, path, stages) == widget) return path;
+    } catch (const ScriptError&) {
+      continue;  // it names several
+    }
+  }
+  return {};
+}
+
 QAction* FindMenuItem(QMainWindow* window, const QStringList& path) {
   QList<QAction*> actions = window->menuBar()->actions();
   QAction* item = nullptr;

@@ -38,6 +38,14 @@ QWidget* Decide(const QStringList& path, const std::vector<Candidate>& candidate
 QWidget* FindControl(QMainWindow* window, const QStringList& path,
                      const std::vector<Kinds>& stages);
 
+/// The captions of panels that may stand before a control's own, the fewest first: none, one of
+/// them, two of them, and so on, each with its own.
+std::vector<QStringList> PathsTo(const QStringList& fullPath);
+
+/// The fewest captions by which `FindControl` finds a widget; empty where none do.
+QStringList FewestCaptions(QMainWindow* window, const QWidget* widget,
+                           const std::vector<Kinds>& stages);
+
 /// The menu item that a path of captions names, from the menu bar on. Null when there is none.
 QAction* FindMenuItem(QMainWindow* window, const QStringList& path);
 

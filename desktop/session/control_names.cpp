@@ -6,23 +6,6 @@
 namespace lignara {
 namespace {
 
-/// The captions of panels that may stand before a control's own, the fewest first: none, one of
-/// them, two of them, and so on.
-std::vector<QStringList> Choices(const QStringList& fullPath) {
-  std::vector<QStringList> choices;
-  const qsizetype panels = fullPath.size() - 1;
-  for (unsigned mask = 0; mask < (1U << panels); ++mask) {
-    QStringList path;
-    for (qsizetype i = 0; i < panels; ++i) {
-      if ((mask >> i & 1U) != 0) path << fullPath[i];
-    }
-    choices.push_back(path << fullPath.last());
-  }
-  std::stable_sort(choices.begin(), choices.end(),
-                   [](const QStringList& a, const QStringList& b) { return a.size() < b.size(); });
-  return choices;
-}
-
 /// What the caption of a widget is worked out from, where that can change.
 QString Said(const QWidget* widget) {
   const QString name = widget->accessibleName();
@@ -40,7 +23,7 @@ QStringList ControlNames::ShortestName(QWidget* widget, const Kinds& kinds) {
   if (entry == controls_.end() || Caption(*entry).isEmpty()) return {};
   const std::vector<Candidate> rivals = Rivals(entry->caption, kinds);
   if (rivals.size() == 1) return {entry->caption};
-  for (const QStringList& path : Choices(FullPath(widget))) {
+  for (const QStringList& path : PathsTo(FullPath(widget))) {
     bool several = false;
     if (Decide(path, rivals, several) == widget) return path;
   }

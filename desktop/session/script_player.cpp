@@ -11,7 +11,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <algorithm>
 
 #include "desktop/kit/binding.h"
@@ -22,6 +21,7 @@
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
+#include "desktop/session/control_reading.h"
 #include "desktop/session/kept_answers.h"
 #include "desktop/session/row_finder.h"
 #include "desktop/session/script_error.h"
@@ -35,9 +35,6 @@ using Verb = UserAction::Kind;
 bool IsPicture(const QWidget* widget) { return IsAny<Picture, PictureButton>(widget); }
 bool IsPanel(const QWidget* widget) { return IsAny<QGroupBox>(widget); }
 bool IsLabel(const QWidget* widget) { return IsAny<QLabel>(widget); }
-bool IsNamedLabel(const QWidget* widget) {
-  return IsLabel(widget) && !widget->accessibleName().isEmpty();
-}
 
 QStringList PathOf(const std::vector<ScriptWord>& words, std::size_t count) {
   QStringList path;
@@ -53,24 +50,6 @@ bool Send(QEvent::Type type, QKeyCombination key, const QString& text,
   event.ignore();
   QApplication::sendEvent(to, &event);
   return event.isAccepted();
-}
-
-void PrintTableRows(const QTableWidget* table, const ScriptOutput& output) {
-  for (int row = 0; row < table->rowCount(); ++row) {
-    QString line = QString("row %1").arg(row);
-    for (int column = 0; column < table->columnCount(); ++column) {
-      const QTableWidgetItem* item = table->item(row, column);
-      line += " " + Quoted(item == nullptr ? QString() : item->text());
-    }
-    output(line);
-  }
-}
-
-/// What is read in a field or a label. The `&` before the key of the field beside it is not seen.
-QString TextOf(const QWidget* widget) {
-  if (const auto* field = qobject_cast<const QLineEdit*>(widget)) return field->text();
-  const auto* label = static_cast<const QLabel*>(widget);
-  return label->buddy() != nullptr ? WithoutKeyMarks(label->text()) : label->text();
 }
 
 QString StateOf(const QWidget* widget) {
@@ -254,26 +233,15 @@ void ScriptPlayer::Answer(const Words& words) {
 }
 
 void ScriptPlayer::Read(const Words& words) {
-  ToolWindow* window = Current();
-  if (words.size() == 1 && words[0].text == "title") {
-    output_("value " + Quoted(window->windowTitle()));
-    return;
-  }
-  const QWidget* control =
-      FindControl(window, PathOf(words, words.size()),
-                  {{Visible(IsAny<QLineEdit>)}, {Visible(IsNamedLabel)}, {Visible(IsLabel)}});
-  output_("value " + Quoted(TextOf(control)));
+  output_("value " + Quoted(ReadText(Current(), PathOf(words, words.size()))));
 }
 
 void ScriptPlayer::Rows(const Words& words) {
-  const QWidget* control = Control(words, words.size(), {IsList});
-  if (const auto* table = qobject_cast<const QTableWidget*>(control)) {
-    PrintTableRows(table, output_);
-    return;
-  }
-  const auto* list = static_cast<const QListWidget*>(control);
-  for (int row = 0; row < list->count(); ++row) {
-    output_(QString("row %1 %2").arg(row).arg(Quoted(list->item(row)->text())));
+  int row = 0;
+  for (const QStringList& texts : ReadRows(Current(), PathOf(words, words.size()))) {
+    QString line = QString("row %1").arg(row++);
+    for (const QString& text : texts) line += " " + Quoted(text);
+    output_(line);
   }
 }
 

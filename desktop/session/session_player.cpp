@@ -104,7 +104,9 @@ QString TextsOf(const QStringList& printed) {
 
 void StartProgramAgain(SessionState& session, DesktopPlatform& platform) {
   for (const char* name : kWindowNames) {
-    if (std::string(name) != window_name::kLauncher) platform.CloseWindow(name);
+    const bool stays = std::string(name) == window_name::kLauncher ||
+                       std::string(name) == window_name::kRepeat;  // it is no part of a session
+    if (!stays) platform.CloseWindow(name);
   }
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   const std::string folder = session.DataDirectory;
@@ -117,7 +119,7 @@ void StartProgramAgain(SessionState& session, DesktopPlatform& platform) {
 }
 
 SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPlatform& platform,
-                        const SessionProgress& progress, Reading reading) {
+                        const SessionProgress& progress, ReadLines reading) {
   SessionPlay play;
   QuietUser user(play);
   const Played played(platform, user);
@@ -129,13 +131,15 @@ SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPl
     if (play.cancelled) break;
     try {
       const Meaning meaning = MeaningOf(line);
-      const bool kept = meaning == Meaning::Read && reading == Reading::Kept;
+      const bool kept = meaning == Meaning::Read && reading == ReadLines::Kept;
       if (meaning == Meaning::Act || kept) player.Play(line);
       if (kept) play.read << TextsOf(std::exchange(told, {}));
       if (meaning == Meaning::Picture) play.leftOut << line;
       if (meaning != Meaning::Nothing) ++play.done;
     } catch (const ScriptError& error) {
       play.stop = QString("%1:%2: %3").arg(name).arg(number).arg(error.reason);
+      play.stopLine = number;
+      play.reason = error.reason;
       break;
     }
   }

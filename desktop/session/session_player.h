@@ -17,6 +17,8 @@ struct SessionPlay {
   QStringList read;     ///< what `read` and `rows` lines told, a text each, where that is kept
   int done = 0;         ///< lines carried out, comments and empty ones not counted
   QString stop;         ///< "FILE:LINE: reason" where a line could not be carried out
+  int stopLine = 0;     ///< the number of that line, from 1
+  QString reason;       ///< why
   bool cancelled = false;
 };
 
@@ -24,13 +26,13 @@ struct SessionPlay {
 using SessionProgress = std::function<bool(int done)>;
 
 /// What becomes of lines that only read.
-enum class Reading { PassedOver, Kept };
+enum class ReadLines { PassedOver, Kept };
 
 /// Plays the lines of a session on the windows as they stand, with no box on the way. It prints
 /// nothing, writes no file and takes no picture, and does not end the program. `name` is the file
 /// of the lines.
 SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPlatform& platform,
-                        const SessionProgress& progress, Reading reading = Reading::PassedOver);
+                        const SessionProgress& progress, ReadLines reading = ReadLines::PassedOver);
 
 /// Brings the program to where it stands after its start: the launcher alone, nothing entered.
 void StartProgramAgain(SessionState& session, DesktopPlatform& platform);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/window_names.h"
 #include "desktop/kit/text.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_line.h"
@@ -64,6 +65,18 @@ QString WithValue(const QString& line, const QString& value) {
   return changed + " " + Quoted(value);
 }
 
+void ReadAtTheEnd(const std::vector<Reading>& readings, const DesktopPlatform& platform,
+                  VariantOutcome& outcome) {
+  for (const Reading& reading : readings) {
+    outcome.readings.emplace_back();
+    try {
+      outcome.readings.back() = Read(reading, platform);
+    } catch (const ScriptError& error) {
+      outcome.reason = error.reason;
+    }
+  }
+}
+
 }  // namespace
 
 QStringList ParseValues(const QString& text, QString& refusal) {
@@ -88,6 +101,18 @@ QString WhyNoVariants(const QStringList& lines, int enterLine) {
   return enters ? QString() : QString("line %1 enters no value").arg(enterLine + 1);
 }
 
+std::vector<EnterLine> EnterLines(const QStringList& lines) {
+  std::vector<EnterLine> entered;
+  QString window = window_name::kLauncher;
+  for (int i = 0; i < lines.size(); ++i) {
+    const std::vector<ScriptWord> words = WordsOf(lines[i]);
+    if (words.size() == 2 && words[0].text == "window") window = words[1].text;
+    if (!WhyNoVariants(lines, i).isEmpty()) continue;
+    entered.push_back({i, window, Captions(words, 1), words.back().text});
+  }
+  return entered;
+}
+
 QStringList VariantHeads(const Variants& variants) {
   QStringList heads(Captions(WordsOf(variants.lines[variants.enterLine]), 1));
   for (const QString& line : variants.lines) {
@@ -97,19 +122,20 @@ QStringList VariantHeads(const Variants& variants) {
   return heads;
 }
 
-QStringList PlayVariant(const Variants& variants, const QString& value, SessionState& session,
-                        DesktopPlatform& platform, QString& refusal) {
+VariantOutcome PlayVariant(const Variants& variants, const QString& value, SessionState& session,
+                           DesktopPlatform& platform) {
   QStringList lines = variants.lines;
   lines[variants.enterLine] = WithValue(lines[variants.enterLine], value);
   StartProgramAgain(session, platform);
   const SessionPlay play = PlaySession(
-      lines, value, platform, [](int) { return true; }, Reading::Kept);
-  refusal = play.stop;
-  return refusal.isEmpty() ? QStringList(value) + play.read : QStringList();
+      lines, value, platform, [](int) { return true; }, ReadLines::Kept);
+  VariantOutcome outcome{play.read, {}, play.said, play.stop, play.stopLine, play.reason};
+  if (play.stop.isEmpty()) ReadAtTheEnd(variants.readings, platform, outcome);
+  return outcome;
 }
 
 QString CsvLine(const QStringList& cells) {
-  static const QRegularExpression special("[\",\\n]");
+  static const QRegularExpression special("[\",\\r\\n]");
   QStringList written;
   for (QString cell : cells) {
     const bool quoted = cell.contains(special);

@@ -2,10 +2,10 @@
 
 #include <QString>
 #include <QStringList>
-#include <functional>
 #include <vector>
 
 #include "app/session_state.h"
+#include "desktop/session/control_reading.h"
 
 namespace lignara {
 
@@ -21,19 +21,41 @@ struct Variants {
   QStringList lines;  ///< of the session, with `read` and `rows` lines for what is to be told
   int enterLine = 0;  ///< the index of the `enter` line whose text is the value
   QStringList values;
+  std::vector<Reading> readings;  ///< besides, of the windows as they stand at the end
+
+  bool operator==(const Variants&) const = default;
+};
+
+/// What came of one value.
+struct VariantOutcome {
+  QStringList read;                ///< a text for each `read` or `rows` line
+  std::vector<RowTexts> readings;  ///< nothing where a line could not be carried out
+  QStringList said;                ///< what boxes would have said
+  QString stop;                    ///< "VALUE:LINE: reason" where a line could not be carried out
+  int stopLine = 0;                ///< the number of that line, from 1
+  QString reason;                  ///< why it could not; or why something could not be read
 };
 
 /// Why a line of a session cannot take values; empty where it can.
 QString WhyNoVariants(const QStringList& lines, int enterLine);
 
+/// A line of a session that enters a text into a field.
+struct EnterLine {
+  int index = 0;   ///< in the session
+  QString window;  ///< in which it does
+  QString field;   ///< the captions that name it
+  QString text;
+};
+
+/// The lines of a session that can take values.
+std::vector<EnterLine> EnterLines(const QStringList& lines);
+
 /// The heads of the table: the field, then what each `read` or `rows` line names.
 QStringList VariantHeads(const Variants& variants);
 
-/// Plays a variant in the program as it stands after its start. Gives the row of the table: the
-/// value, then a text for each `read` or `rows` line. Empty, with the reason in `refusal`, where a
-/// line cannot be carried out.
-QStringList PlayVariant(const Variants& variants, const QString& value, SessionState& session,
-                        DesktopPlatform& platform, QString& refusal);
+/// Plays a variant in the program as it stands after its start.
+VariantOutcome PlayVariant(const Variants& variants, const QString& value, SessionState& session,
+                           DesktopPlatform& platform);
 
 /// A row of a table as a line of a CSV file.
 QString CsvLine(const QStringList& cells);

@@ -51,16 +51,13 @@ TEST(Variants, ATrussOfSeveralLengthsGivesARowEach) {
   variants.enterLine = 6;
   EXPECT_EQ(FromQt(VariantHeads(variants).join('/')),
             "Top Node Loads (lbs)/Left Side/Top Node Loads (lbs)");
-  QString refusal;
-  const QStringList first =
-      PlayVariant(variants, "1000", desktop.session, desktop.platform, refusal);
-  const QStringList other =
-      PlayVariant(variants, "2000", desktop.session, desktop.platform, refusal);
-  ASSERT_EQ(first.size(), 3) << FromQt(refusal);
-  ASSERT_EQ(other.size(), 3) << FromQt(refusal);
+  const VariantOutcome first = PlayVariant(variants, "1000", desktop.session, desktop.platform);
+  const VariantOutcome other = PlayVariant(variants, "2000", desktop.session, desktop.platform);
+  ASSERT_EQ(first.read.size(), 2) << FromQt(first.stop);
+  ASSERT_EQ(other.read.size(), 2) << FromQt(other.stop);
   // All loads twice as large: so is the reaction.
-  EXPECT_DOUBLE_EQ(other[1].toDouble(), 2 * first[1].toDouble());
-  EXPECT_GT(first[1].toDouble(), 0);
+  EXPECT_DOUBLE_EQ(other.read[0].toDouble(), 2 * first.read[0].toDouble());
+  EXPECT_GT(first.read[0].toDouble(), 0);
 }
 
 TEST(Variants, AValueThatCannotBePlayedSaysWhy) {
@@ -68,9 +65,11 @@ TEST(Variants, AValueThatCannotBePlayedSaysWhy) {
   Variants variants;
   variants.lines =
       QStringList{"enter \"Enter No. of Spans\" 2", "press \"Multi-Span Beam\"", "window MS"};
-  QString refusal;
-  EXPECT_TRUE(PlayVariant(variants, "1", desktop.session, desktop.platform, refusal).isEmpty());
-  EXPECT_EQ(FromQt(refusal), "1:3: the window MS is not open");
+  const VariantOutcome outcome = PlayVariant(variants, "1", desktop.session, desktop.platform);
+  EXPECT_EQ(FromQt(outcome.stop), "1:3: the window MS is not open");
+  EXPECT_EQ(outcome.stopLine, 3);
+  EXPECT_EQ(FromQt(outcome.reason), "the window MS is not open");
+  EXPECT_EQ(FromQt(outcome.said.join('/')), "You must enter at least 2 spans");
 }
 
 TEST(Variants, OnlyALineThatEntersCanTakeValues) {

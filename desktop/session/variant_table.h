@@ -1,0 +1,24 @@
+#pragma once
+
+#include "desktop/session/variants.h"
+
+namespace lignara {
+
+/// Values and what came of them, as a user reads them: heads, and a row a value.
+struct VariantTable {
+  QStringList heads;
+  QList<QStringList> rows;
+
+  bool operator==(const VariantTable&) const = default;
+};
+
+/// The table of the outcomes so far, which are those of the first values. A list whose rows bear
+/// the same names in all of them, such as "TL = ", has a column for each row; any other stands in
+/// one column, its rows joined. What boxes said and what could not be done has a column where there
+/// is any.
+VariantTable TableOf(const Variants& variants, const std::vector<VariantOutcome>& outcomes);
+
+/// The table as a CSV file.
+QString CsvOf(const VariantTable& table);
+
+}  // namespace lignara
