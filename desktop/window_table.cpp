@@ -25,6 +25,7 @@ constexpr std::array kWindows = {
     WindowKind{window_name::kMultiSpan, false, MakeMultiSpanWindow},
     WindowKind{window_name::kMultiSpanResults, false, MakeMultiSpanResultsWindow},
     WindowKind{window_name::kIntegrations, false, MakeIntegrationsWindow},
+    WindowKind{window_name::kRepeat, false, MakeRepeatWindow, true},
 };
 
 }  // namespace

@@ -21,5 +21,6 @@ ToolWindow* MakeGlulamWindow(WindowContext context);
 ToolWindow* MakeMultiSpanWindow(WindowContext context);
 ToolWindow* MakeMultiSpanResultsWindow(WindowContext context);
 ToolWindow* MakeIntegrationsWindow(WindowContext context);
+ToolWindow* MakeRepeatWindow(WindowContext context);
 
 }  // namespace lignara

@@ -33,8 +33,15 @@ ToolWindow* FindIn(const std::vector<ToolWindow*>& windows, const QString& name)
   return found == windows.end() ? nullptr : *found;
 }
 
+bool IsAside(const ToolWindow* window) {
+  const WindowKind* kind = FindWindowKind(FromQt(window->name()));
+  return kind != nullptr && kind->aside;
+}
+
 /// Reading the help is no work elsewhere: who comes back from it finds all that was typed.
-bool IsHelp(const ToolWindow* window) { return window->name() == window_name::kHelp; }
+bool IsNoWork(const ToolWindow* window) {
+  return window->name() == window_name::kHelp || IsAside(window);
+}
 
 }  // namespace
 
@@ -56,7 +63,8 @@ DesktopPlatform::~DesktopPlatform() {
 }
 
 void DesktopPlatform::BeginCommand(ToolWindow* window, const UserAction& action) {
-  if (listener_ != nullptr && !repeated_.InCommand()) listener_->Begin(window, action);
+  const bool told = listener_ != nullptr && !repeated_.InCommand() && !IsAside(window);
+  if (told) listener_->Begin(window, action);
   repeated_.BeginCommand();
   if (!commandWindow_) commandWindow_ = window;
 }
@@ -169,7 +177,7 @@ ToolWindow* DesktopPlatform::MakeWindow(const std::string& name) {
   if (kind->modal) window->setWindowModality(Qt::ApplicationModal);
   window->Furnish(Screen(*window).size());
   Place(window);
-  if (!IsHelp(window)) lastActive_ = window;  // opening it is no coming back
+  if (!IsNoWork(window)) lastActive_ = window;  // opening it is no coming back
   return window;
 }
 
@@ -196,7 +204,7 @@ void DesktopPlatform::Activate(ToolWindow* window) {
 
 void DesktopPlatform::NoteActive(ToolWindow* window) {
   if (lastActive_ == window || FindIn(windows_, window->name()) != window) return;
-  if (IsHelp(window)) return;
+  if (IsNoWork(window)) return;
   lastActive_ = window;
   window->CameBack();
 }

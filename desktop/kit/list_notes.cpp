@@ -16,6 +16,17 @@ constexpr int kNoteRole = Qt::UserRole + 1;
 constexpr int kWarnedRole = Qt::UserRole + 2;
 constexpr int kNoteMargin = 6;
 
+/// Where a row can be marked, the style draws the rim of the mark darker than the window: on a dark
+/// ground nobody would see it.
+QStyleOptionViewItem WithSeenMark(const QStyleOptionViewItem& option, const QModelIndex& index) {
+  QStyleOptionViewItem seen = option;
+  const bool dark = option.palette.color(QPalette::Base).lightness() < 128;
+  if (dark && index.data(Qt::CheckStateRole).isValid()) {
+    seen.palette.setColor(QPalette::Window, option.palette.color(QPalette::Text));
+  }
+  return seen;
+}
+
 /// Paints a row with its tint below and its note at its right end.
 class NoteDelegate : public RowDelegate {
  public:
@@ -27,7 +38,7 @@ class NoteDelegate : public RowDelegate {
     if (index.data(kWarnedRole).toBool() && !selected) {
       painter->fillRect(option.rect, Tint(AlarmColour(option.palette), option.palette));
     }
-    QStyledItemDelegate::paint(painter, option, index);
+    QStyledItemDelegate::paint(painter, WithSeenMark(option, index), index);
     const QString note = index.data(kNoteRole).toString();
     if (note.isEmpty()) return;
     painter->save();
@@ -62,7 +73,7 @@ bool IsEmptyList(const QListWidget* list) {
   return true;
 }
 
-QLabel* AddReasonLabel(QListWidget* list) {
+QLabel* AddReasonLabel(QAbstractScrollArea* list) {
   auto* words = new QLabel;
   words->setWordWrap(true);
   words->setAlignment(Qt::AlignCenter);

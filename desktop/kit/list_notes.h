@@ -2,6 +2,7 @@
 
 #include "app/list_rows.h"
 
+class QAbstractScrollArea;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
@@ -14,7 +15,7 @@ void SetRowNote(QListWidgetItem* row, const RowNote& note);
 
 /// True where a list has no row with a text.
 bool IsEmptyList(const QListWidget* list);
-/// A label in the room of a list, for the reason why it is empty.
-QLabel* AddReasonLabel(QListWidget* list);
+/// A label in the room of a list or table, for the reason why it is empty.
+QLabel* AddReasonLabel(QAbstractScrollArea* list);
 
 }  // namespace lignara

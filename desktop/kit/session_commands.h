@@ -11,6 +11,8 @@ class SessionCommands {
   virtual void Open() = 0;
   virtual void Undo() = 0;
   virtual void Redo() = 0;
+  /// Opens the window in which the session is played with other values. Closes none.
+  virtual void Repeat() = 0;
   virtual bool CanUndo() const = 0;
   virtual bool CanRedo() const = 0;
 };

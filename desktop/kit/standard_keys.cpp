@@ -34,6 +34,7 @@ const StandardKey kButtonKeys[] = {
     {"RUN", QKeySequence(Qt::Key_F5)},
     {"Print", QKeySequence(Qt::CTRL | Qt::Key_P)},
     {"Save Output to Text File", QKeySequence(Qt::CTRL | Qt::Key_S)},
+    {"Save as CSV...", QKeySequence(Qt::CTRL | Qt::Key_S)},
     {"Compute", QKeySequence(Qt::Key_F5)},
 };
 

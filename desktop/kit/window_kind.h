@@ -11,6 +11,8 @@ struct WindowKind {
   std::string_view name;
   bool modal;
   ToolWindow* (*make)(WindowContext context);
+  /// What is done in it is no action of the session, and coming back from it is no coming back.
+  bool aside = false;
 };
 
 /// The kind of window of a name; null for a window that this version does not have. The table

@@ -47,6 +47,7 @@ class LauncherForm : public ToolWindow {
 
   void CloseControl() override {
     if (platform().IsPlayed()) return;  // a session that is opened does not end the program
+    platform().CloseWindow(window_name::kRepeat);
     CloseAllWindows(platform());
     platform().CloseWindow(window_name::kHelp);
     platform().CloseWindow(window_name::kLauncher);
@@ -77,7 +78,8 @@ class LauncherForm : public ToolWindow {
          &SessionCommands::Save},
         {"&Open Session...", QKeySequence(Qt::CTRL | Qt::Key_O), &SessionCommands::Open},
         {"&Undo", QKeySequence(Qt::CTRL | Qt::Key_Z), &SessionCommands::Undo},
-        {"&Redo", QKeySequence(Qt::CTRL | Qt::Key_Y), &SessionCommands::Redo}};
+        {"&Redo", QKeySequence(Qt::CTRL | Qt::Key_Y), &SessionCommands::Redo},
+        {"Re&peat With...", QKeySequence(), &SessionCommands::Repeat}};
     for (const Item& item : items) {
       QAction* action = menu->addAction(item.caption);
       action->setShortcut(item.key);

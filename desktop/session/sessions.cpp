@@ -17,6 +17,7 @@
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/play_progress.h"
 #include "desktop/session/play_report.h"
+#include "desktop/session/repeat_window.h"
 #include "desktop/session/script_line.h"
 #include "desktop/session/user_place.h"
 
@@ -174,6 +175,12 @@ bool Sessions::eventFilter(QObject* watched, QEvent* event) {
                            (key->matches(QKeySequence::Redo) && !field->isRedoAvailable()));
   if (none) event->ignore();
   return none;
+}
+
+void Sessions::Repeat() {
+  if (playing_) return;
+  platform_.OpenWindow(window_name::kRepeat);
+  RepeatSession(platform_.FindWindow(window_name::kRepeat), record_.Lines());
 }
 
 bool Sessions::CanUndo() const { return record_.LastDone() > 0; }

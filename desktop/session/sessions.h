@@ -24,6 +24,7 @@ class Sessions : public QObject, public SessionCommands {
   void Open() override { Later(&Sessions::OpenNow); }
   void Undo() override { Later(&Sessions::UndoNow); }
   void Redo() override { Later(&Sessions::RedoNow); }
+  void Repeat() override;
   bool CanUndo() const override;
   /// Leaves the keys of undo and redo to the session where a field has nothing to take back.
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -255,6 +255,11 @@ TEST_F(MnemonicTest, AreDistinctInTheSmallWindows) {
   ExpectDistinct("ABOUT");
 }
 
+TEST_F(MnemonicTest, AreDistinctInRepeatWith) {
+  desktop.platform.OpenWindow("REPEAT");
+  ExpectDistinct("REPEAT");
+}
+
 TEST_F(MnemonicTest, AreDistinctInEachPlywoodPanel) {
   desktop.Play({"press \"Ply Wood\"", "window ply"});
   for (const char* panel : {"Standard Live Loads", "Glued Floors", "Sub Floors", "Heavy Duty",

@@ -11,6 +11,7 @@
 
 #include "desktop/kit/scroll_page.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/sessions.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {
@@ -110,6 +111,21 @@ TEST_P(SmallScreens, HoldTheLauncherAndItsSmallWindows) {
   for (const char* name : {"main", "QUESTION", "HELP"}) Look(name);
   desktop().Play({"menu \"Help\" \"About...\""});
   Look("ABOUT");
+}
+
+TEST_P(SmallScreens, HoldASessionWithItsVariants) {
+  const Sessions sessions(desktop().session, desktop().platform);
+  desktop().Play({"press \"FINK\"", "window TR_INPUT", "enter \"Number of Spans\" 8",
+                  "enter \"Total Length (ft)\" 40", "enter \"H (ft)\" 10", "press \"OK\"",
+                  "window TRUSS", "enter \"Top Node Loads (lbs)\" 500", "press \"All\"",
+                  "press \"Run\"", "window main", "menu \"Files\" \"Repeat With...\"",
+                  "window REPEAT"});
+  Look("REPEAT", "0");
+  desktop().Play({"select \"Entered in the Session\" 2", "select \"Read at the End\" 1",
+                  "key \"Read at the End\" Space", "enter \"Values\" \"8..12 step 0.5\"",
+                  "press \"Run\""});
+  Look("REPEAT");
+  ExpectToScrollOneWay("REPEAT");
 }
 
 TEST_P(SmallScreens, HoldTheInputWithItsSlopeCalculator) {
