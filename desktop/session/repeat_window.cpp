@@ -130,12 +130,13 @@ class RepeatForm : public ToolWindow {
 
   QLayout* Commands(QWidget* area) {
     auto* row = new QHBoxLayout;
-    auto* run = new QPushButton("&Run");
-    binding().Press(run, [this] { Run(); });
-    binding().Enabled(run, [this] { return !record_.running; });
-    auto* cancel = new QPushButton("&Cancel");
-    binding().Press(cancel, [this] { run_.Cancel(); });
-    binding().Enabled(cancel, [this] { return record_.running; });
+    start_ = new QPushButton("&Run");
+    binding().Press(start_, [this] { Run(); });
+    cancel_ = new QPushButton("&Cancel");
+    binding().Press(cancel_, [this] { run_.Cancel(); });
+    // In this order: who has pressed "Run" is led on to "Cancel".
+    binding().Enabled(cancel_, [this] { return record_.running; });
+    binding().Enabled(start_, [this] { return !record_.running; });
     auto* progress = Named("Progress", new QProgressBar);
     progress->setFormat("%v of %m");
     KeepRoom(progress);
@@ -144,11 +145,11 @@ class RepeatForm : public ToolWindow {
       progress->setValue(static_cast<int>(record_.outcomes.size()));
       progress->setVisible(record_.running);
     });
-    row->addWidget(run);
-    row->addWidget(cancel);
+    row->addWidget(start_);
+    row->addWidget(cancel_);
     row->addWidget(progress, 1);
-    SetReturnButton(area, run);
-    SetEscapeButton(area, cancel);
+    SetReturnButton(area, start_);
+    SetEscapeButton(area, cancel_);
     return row;
   }
 
@@ -232,6 +233,14 @@ class RepeatForm : public ToolWindow {
     if (platform().respondent() != nullptr) run_.WaitForEnd();
   }
 
+  void Ended(VariantRun::End end) {
+    slow_.stop();
+    EndRun(record_, HowEnded(end));
+    const bool waited = focusWidget() == cancel_;
+    Refresh();
+    if (waited) start_->setFocus();
+  }
+
   void ShowProgress() {
     ShowOutcomes(record_);
     Refresh();
@@ -242,17 +251,15 @@ class RepeatForm : public ToolWindow {
 
   RepeatWindow record_;
   QListWidget* entered_ = nullptr;
+  QPushButton* start_ = nullptr;
+  QPushButton* cancel_ = nullptr;
   QTableWidget* table_ = nullptr;
   QTimer slow_;
   VariantRun run_{[this](const VariantOutcome& outcome) {
                     record_.outcomes.push_back(outcome);
                     if (!slow_.isActive()) slow_.start();
                   },
-                  [this](VariantRun::End end) {
-                    slow_.stop();
-                    EndRun(record_, HowEnded(end));
-                    Refresh();
-                  }};
+                  [this](VariantRun::End end) { Ended(end); }};
 };
 
 }  // namespace

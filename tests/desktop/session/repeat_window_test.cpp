@@ -112,9 +112,11 @@ TEST_F(RepeatTest, CancelKeepsTheRowsSoFar) {
   LookOn();
   desktop.Play({"press \"Run\""});
   EXPECT_TRUE(CanCancel());
+  EXPECT_EQ(desktop.FocusIn("REPEAT"), "Cancel");
   WaitForRows(3);
   desktop.PressKey("REPEAT", Qt::Key_Escape);
   ASSERT_TRUE(QTest::qWaitFor([this] { return !CanCancel(); }, 30000));
+  EXPECT_EQ(desktop.FocusIn("REPEAT"), "Run");
   const qsizetype rows = Table().size();
   EXPECT_GE(rows, 3);
   EXPECT_LT(rows, 9001);
