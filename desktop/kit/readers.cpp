@@ -29,7 +29,11 @@ void SetSpokenName(QWidget* widget, const QString& scriptName, const QString& sp
   widget->setAccessibleName(spoken);
 }
 
-QString ScriptNameOf(const QWidget* widget) { return widget->property(kScriptName).toString(); }
+QString ScriptNameOf(const QWidget* widget) {
+  // Hardly a widget has any, and all its class has would be searched first.
+  const bool mayHave = !widget->dynamicPropertyNames().isEmpty();
+  return mayHave ? widget->property(kScriptName).toString() : QString();
+}
 
 void Describe(QWidget* widget, const QString& words) {
   if (widget->accessibleDescription() != words) widget->setAccessibleDescription(words);

@@ -75,6 +75,12 @@ class TrussInputForm : public ToolWindow {
 
   QGroupBox* SlopePanel() {
     QGroupBox* panel = MakePanel("Slope Calculator");
+    ReturnFocusTo(panel, height_);
+    binding().Shown(panel, &record_.slopeOpen, [this, panel] { FillSlopePanel(panel); });
+    return panel;
+  }
+
+  void FillSlopePanel(QGroupBox* panel) {
     auto* rows = new QVBoxLayout(panel);
     auto* triangle = Named("Slope", new Picture);
     triangle->setFixedHeight(InLetters(100));
@@ -92,11 +98,8 @@ class TrussInputForm : public ToolWindow {
     pair->addWidget(ok);
     pair->addWidget(cancel);
     rows->addLayout(pair);
-    binding().Shown(panel, &record_.slopeOpen);
     SetReturnButton(panel, ok);
     SetEscapeButton(panel, cancel);
-    ReturnFocusTo(panel, height_);
-    return panel;
   }
 
   QLayout* Sketch() {
