@@ -3,7 +3,7 @@
 #include "app/launcher.h"
 #include "bench/silent_platform.h"
 #include "connections/bolt_window.h"
-#include "connections/fastener_data_base.h"
+#include "connections/fastener_window.h"
 
 namespace lignara {
 namespace {

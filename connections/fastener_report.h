@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/report.h"
-#include "connections/fastener_data_base.h"
+#include "connections/fastener_window.h"
 
 namespace lignara {
 

@@ -1,3 +1,5 @@
+#include "connections/fastener_window.h"
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -11,7 +13,6 @@
 #include <vector>
 
 #include "app/window_names.h"
-#include "connections/fastener_data_base.h"
 #include "desktop/kit/choice_button.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"

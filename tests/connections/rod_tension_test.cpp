@@ -1,6 +1,7 @@
+#include "connections/rod_tension.h"
+
 #include <gtest/gtest.h>
 
-#include "connections/rod_tension.h"
 #include "tests/connections/opened_bolts.h"
 
 namespace lignara {

@@ -1,4 +1,4 @@
-#include "connections/fastener_data_base.h"
+#include "connections/fastener_window.h"
 
 #include <gtest/gtest.h>
 
