@@ -2,41 +2,13 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
-#include "app/number_reader.h"
 #include "app/window_names.h"
 #include "beam/diagrams.h"
 #include "beam/load_picture.h"
+#include "beam/support_class.h"
 
 namespace lignara {
 namespace {
-
-/// A prompt for one of the two accuracies.
-struct AccuracyPrompt {
-  Float32 SingleSpanBeam::*value;
-  const char* usual;
-  const char* text;
-};
-
-constexpr const char* kAccuracyTitle = "Accuracy";
-
-constexpr AccuracyPrompt kGeneral = {
-    &SingleSpanBeam::accuracySteps, "500",
-    "Enter accuracy iterations. This value determines the number of cycles the program uses to "
-    "obtain shears, moments and deflections. The larger the number the more accurate the answer. "
-    "Caution, a large value will slow your machine down."};
-
-constexpr AccuracyPrompt kUniformConversion = {
-    &SingleSpanBeam::equivalentLoads, "100",
-    "Enter accuracy iterations. This value determines the number of equivalent point loads that "
-    "the program uses to convert uniform loads to iterative point loads. The larger the number the "
-    "more accurate the answer. Caution, a large value will slow your machine down."};
-
-void Ask(SingleSpanBeam& beam, const AccuracyPrompt& prompt, Platform& platform) {
-  const std::string answer =
-      platform.PromptText(kAccuracyTitle, prompt.text, prompt.usual).value_or("");
-  const Number number = ReadNumber(answer);
-  beam.*prompt.value = number > 0 ? number : ReadNumber(prompt.usual);
-}
 
 /// What the data bases start from.
 void HandOverUnbracedLength(BeamWindow& window, SessionState& session) {
@@ -57,15 +29,10 @@ void OpenBeam(BeamWindow& window, SessionState& session, Platform& platform) {
   FollowAccuracy(window);
 }
 
-void AskAccuracy(BeamWindow& window, Platform& platform) {
-  const FaultScope faults(platform);
-  Ask(window.beam, kGeneral, platform);
-  FollowAccuracy(window);
-}
-
-void AskUniformConversion(BeamWindow& window, Platform& platform) {
-  const FaultScope faults(platform);
-  Ask(window.beam, kUniformConversion, platform);
+void SetSupport(BeamWindow& window, SessionState& session, BeamEnd side, SupportType type) {
+  (side == BeamEnd::Left ? window.beam.leftSupport : window.beam.rightSupport) = type;
+  ClassifySupports(window.beam, session);
+  ShowLoadPicture(window);
 }
 
 void VisitMemberDataBase(BeamWindow& window, SessionState& session, Platform& platform) {

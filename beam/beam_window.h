@@ -109,26 +109,27 @@ struct BeamWindow {
 
 /// The window as it opens: 10 ft, two pins, no loads, filled from the chosen member.
 void OpenBeam(BeamWindow& window, SessionState& session, Platform& platform);
-/// "Options", "Accuracy": "General..." asks for the stations, "Uniform Conversion..." for the point
-/// loads of a distributed load. 0 or less, or a cancelled prompt, takes 500 or 100.
-void AskAccuracy(BeamWindow& window, Platform& platform);
-void AskUniformConversion(BeamWindow& window, Platform& platform);
 /// "Data Bases": "Member Data Base..." and "Glu-Lam Data Base...". The unbraced length goes along.
 void VisitMemberDataBase(BeamWindow& window, SessionState& session, Platform& platform);
 void VisitGlulamDataBase(BeamWindow& window, SessionState& session, Platform& platform);
 
-// Constants and supports (constants.cpp).
+/// An option of "Left Support" or "Right Support".
+void SetSupport(BeamWindow& window, SessionState& session, BeamEnd side, SupportType type);
+
+// "Options", "Accuracy" (accuracy.cpp).
+
+/// "General..." asks for the stations, "Uniform Conversion..." for the point loads of a distributed
+/// load. 0 or less, or a cancelled prompt, takes 500 or 100.
+void AskAccuracy(BeamWindow& window, Platform& platform);
+void AskUniformConversion(BeamWindow& window, Platform& platform);
+
+// The lengths (length_entry.cpp).
 
 /// The focus comes into "L(ft)". With loads in the list the user is asked first; true where the
 /// field may be typed into.
 bool EnterLength(BeamWindow& window, Platform& platform);
 /// The text of "L(ft)" was changed.
 void EditLength(BeamWindow& window);
-/// An option of "Left Support" or "Right Support".
-void SetSupport(BeamWindow& window, SessionState& session, BeamEnd side, SupportType type);
-/// Reads L, E, I and the unbraced length as a run needs them. The user is told where L, E or I is 0
-/// or less.
-void ReadConstants(BeamWindow& window, SessionState& session, Platform& platform);
 /// The field "Unbraced Length (ft)", or L where it is blank, 0 or less.
 Number UnbracedLength(const BeamWindow& window);
 
@@ -169,6 +170,9 @@ void RemoveAllLoads(BeamWindow& window);
 
 // The run (run.cpp).
 
+/// Reads L, E, I and the unbraced length as a run needs them. The user is told where L, E or I is 0
+/// or less.
+void ReadConstants(BeamWindow& window, SessionState& session, Platform& platform);
 /// The axial load of the list, lbs: the last one stands, 0 without any.
 Float32 AxialLoadOf(const SingleSpanBeam& beam);
 /// The results shown are older than an input.

@@ -2,9 +2,9 @@
 #include "app/number_pattern.h"
 #include "beam/actual_stresses.h"
 #include "beam/stress_check.h"
-#include "glulam/glulam_columns.h"
 #include "glulam/load_durations.h"
 #include "glulam/moisture_and_load_types.h"
+#include "glulam/values_and_wet_factors.h"
 
 namespace lignara {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "beam/point_moment.h"
+
 namespace lignara {
 namespace {
 
@@ -11,14 +13,6 @@ using Beam = SingleSpanBeam;
 
 void KeepRightLength(Beam& beam, int load) {
   beam.loadB[load] = beam.spanLength - beam.loadA[load];
-}
-
-/// A moment acts as a couple, which needs room on both sides.
-void PullMomentFromEnds(Beam& beam, int load) {
-  const Number room = 4 * beam.spanLength / beam.accuracySteps;
-  const Number lastPlace = (beam.accuracySteps - 4) / beam.accuracySteps * beam.spanLength;
-  if (room > beam.loadA[load]) beam.loadA[load] = room;
-  if (lastPlace < beam.loadA[load]) beam.loadA[load] = beam.spanLength - room;
 }
 
 const std::vector<LoadValue> kPointValues = {{LoadField::A, &Beam::loadA},

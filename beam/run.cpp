@@ -52,6 +52,18 @@ void TakeAxialLoad(BeamWindow& window) {
 
 }  // namespace
 
+void ReadConstants(BeamWindow& window, SessionState& session, Platform& platform) {
+  SingleSpanBeam& beam = window.beam;
+  beam.spanLength = ReadNumber(window.length);
+  youngsModulus(session) = ReadNumber(window.modulus.text);
+  beam.momentOfInertia = ReadNumber(window.inertia.text);
+  if (beam.spanLength > 0 && youngsModulus(session) > 0 && beam.momentOfInertia > 0) {
+    beam.unbracedLength = UnbracedLength(window);
+  } else {
+    platform.ShowMessage({"YOU NEED A CONSTANT VALUE FOR L,E OR I !"});
+  }
+}
+
 Float32 AxialLoadOf(const SingleSpanBeam& beam) {
   Float32 axial;
   for (int load = 1; load <= beam.loadCount.value(); ++load) {

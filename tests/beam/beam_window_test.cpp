@@ -90,5 +90,15 @@ TEST(OpenedBeamOfASession, TakesTheMemberAtHand) {
   EXPECT_EQ(window.inertia.text, "98.93");
 }
 
+TEST(BeamSupports, AreClassifiedWithEachClick) {
+  using enum SupportType;
+  TestBeam beam;
+  SetSupport(beam.window, beam.session, BeamEnd::Left, Fixed);
+  EXPECT_EQ(beam.window.beam.supportClass, SupportClass::ProppedFixedLeft);
+  SetSupport(beam.window, beam.session, BeamEnd::Right, Fixed);
+  EXPECT_EQ(beam.window.beam.supportClass, SupportClass::FixedBothEnds);
+  EXPECT_EQ(beam.session.EndFixity.value(), 0.85f);
+}
+
 }  // namespace
 }  // namespace lignara

@@ -192,5 +192,24 @@ TEST_F(BeamRun, IsOutOfDateOnceAnInputChanges) {
   EXPECT_TRUE(IsOutOfDate(beam.window));
 }
 
+TEST(BeamConstants, LeaveTheUnbracedLengthWhereOneIsMissing) {
+  TestBeam beam;
+  beam.window.unbraced = "4";
+  beam.Run();
+  beam.window.unbraced = "5";
+  beam.Constants("1000000", "0");
+  beam.Run();
+  EXPECT_EQ(beam.window.beam.unbracedLength.value(), 4.0f);
+  EXPECT_EQ(beam.session.Member.ModulusE.value(), 1000000.0f) << "the others are read all the same";
+}
+
+TEST(BeamConstants, OfMoreThan32BitsKeepTheValueBefore) {
+  TestBeam beam;
+  beam.window.length = "1e39";
+  beam.Run();
+  EXPECT_EQ(beam.window.beam.spanLength.value(), 10.0f);
+  EXPECT_EQ(beam.Boxes(), Texts({std::string(FaultText(Fault::Overflow))}));
+}
+
 }  // namespace
 }  // namespace lignara

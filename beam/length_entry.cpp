@@ -1,9 +1,7 @@
-#include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
 #include "beam/beam_window.h"
 #include "beam/load_picture.h"
-#include "beam/support_class.h"
 
 namespace lignara {
 namespace {
@@ -34,24 +32,6 @@ bool EnterLength(BeamWindow& window, Platform& platform) {
 void EditLength(BeamWindow& window) {
   window.beam.spanLength = ReadNumber(window.length);
   ShowLoadPicture(window);
-}
-
-void SetSupport(BeamWindow& window, SessionState& session, BeamEnd side, SupportType type) {
-  (side == BeamEnd::Left ? window.beam.leftSupport : window.beam.rightSupport) = type;
-  ClassifySupports(window.beam, session);
-  ShowLoadPicture(window);
-}
-
-void ReadConstants(BeamWindow& window, SessionState& session, Platform& platform) {
-  SingleSpanBeam& beam = window.beam;
-  beam.spanLength = ReadNumber(window.length);
-  youngsModulus(session) = ReadNumber(window.modulus.text);
-  beam.momentOfInertia = ReadNumber(window.inertia.text);
-  if (beam.spanLength > 0 && youngsModulus(session) > 0 && beam.momentOfInertia > 0) {
-    beam.unbracedLength = UnbracedLength(window);
-  } else {
-    platform.ShowMessage({"YOU NEED A CONSTANT VALUE FOR L,E OR I !"});
-  }
 }
 
 Number UnbracedLength(const BeamWindow& window) {

@@ -5,8 +5,6 @@
 namespace lignara {
 namespace {
 
-using enum SupportType;
-
 class LengthField : public testing::Test {
  protected:
   TestBeam beam;
@@ -64,34 +62,6 @@ TEST_F(LengthField, GoesOnAsItIsShownAfterNo) {
   EnterLength(beam.window, beam.platform);
   EXPECT_EQ(beam.window.length, "12.35");
   EXPECT_EQ(beam.window.beam.spanLength.value(), 12.35f);
-}
-
-TEST(BeamSupports, AreClassifiedWithEachClick) {
-  TestBeam beam;
-  SetSupport(beam.window, beam.session, BeamEnd::Left, Fixed);
-  EXPECT_EQ(beam.window.beam.supportClass, SupportClass::ProppedFixedLeft);
-  SetSupport(beam.window, beam.session, BeamEnd::Right, Fixed);
-  EXPECT_EQ(beam.window.beam.supportClass, SupportClass::FixedBothEnds);
-  EXPECT_EQ(beam.session.EndFixity.value(), 0.85f);
-}
-
-TEST(BeamConstants, LeaveTheUnbracedLengthWhereOneIsMissing) {
-  TestBeam beam;
-  beam.window.unbraced = "4";
-  beam.Run();
-  beam.window.unbraced = "5";
-  beam.Constants("1000000", "0");
-  beam.Run();
-  EXPECT_EQ(beam.window.beam.unbracedLength.value(), 4.0f);
-  EXPECT_EQ(beam.session.Member.ModulusE.value(), 1000000.0f) << "the others are read all the same";
-}
-
-TEST(BeamConstants, OfMoreThan32BitsKeepTheValueBefore) {
-  TestBeam beam;
-  beam.window.length = "1e39";
-  beam.Run();
-  EXPECT_EQ(beam.window.beam.spanLength.value(), 10.0f);
-  EXPECT_EQ(beam.Boxes(), Texts({std::string(FaultText(Fault::Overflow))}));
 }
 
 }  // namespace
