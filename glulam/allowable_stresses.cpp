@@ -9,11 +9,11 @@
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
 #include "glulam/combination_files.h"
-#include "glulam/glulam_columns.h"
 #include "glulam/glulam_window.h"
 #include "glulam/load_durations.h"
 #include "glulam/size_and_stability.h"
 #include "glulam/use_codes.h"
+#include "glulam/values_and_wet_factors.h"
 
 namespace lignara {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "app/report_file.h"
 #include "glulam/combination_files.h"
-#include "glulam/glulam_columns.h"
 #include "glulam/load_durations.h"
 #include "glulam/moisture_and_load_types.h"
+#include "glulam/values_and_wet_factors.h"
 
 namespace lignara {
 namespace {

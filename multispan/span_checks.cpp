@@ -2,9 +2,9 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
-#include "glulam/glulam_columns.h"
 #include "glulam/load_durations.h"
 #include "glulam/moisture_and_load_types.h"
+#include "glulam/values_and_wet_factors.h"
 #include "multispan/results_window.h"
 
 namespace lignara {
