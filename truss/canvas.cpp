@@ -1,9 +1,9 @@
 #include "truss/canvas.h"
 
 #include "app/fault.h"
-#include "truss/canvas_painter.h"
-#include "truss/canvas_scene.h"
+#include "truss/canvas_shapes.h"
 #include "truss/geometry_drawn.h"
+#include "truss/truss_picture.h"
 #include "truss/truss_types.h"
 
 namespace lignara {

@@ -1,4 +1,4 @@
-#include "truss/canvas_names.h"
+#include "truss/canvas_shape_names.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "truss/canvas_painter.h"
+#include "truss/canvas_shapes.h"
 
 #include <cstdint>
 #include <limits>

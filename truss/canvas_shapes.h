@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "truss/canvas_names.h"
+#include "truss/canvas_shape_names.h"
 #include "truss/member_layout.h"
 #include "truss/truss_window.h"
 

@@ -1,11 +1,11 @@
-#include "truss/canvas_scene.h"
+#include "truss/truss_picture.h"
 
 #include <algorithm>
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "truss/canvas.h"
-#include "truss/canvas_painter.h"
+#include "truss/canvas_shapes.h"
 #include "truss/top_nodes.h"
 #include "truss/truss_types.h"
 #include "truss/window_marks.h"

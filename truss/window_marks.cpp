@@ -5,10 +5,10 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
-#include "truss/canvas_scene.h"
 #include "truss/force_sense.h"
 #include "truss/overstress.h"
 #include "truss/run_inputs.h"
+#include "truss/truss_picture.h"
 #include "truss/truss_types.h"
 
 namespace lignara {

@@ -1,6 +1,6 @@
 // What the window and the page show in the place of the canvas's bare shapes.
 
-#include "truss/canvas_scene.h"
+#include "truss/truss_picture.h"
 
 #include <gtest/gtest.h>
 

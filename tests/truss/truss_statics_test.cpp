@@ -9,7 +9,7 @@
 
 #include "tests/support/opened_truss.h"
 #include "tests/support/plane_truss.h"
-#include "truss/canvas_scene.h"
+#include "truss/truss_picture.h"
 #include "truss/window_marks.h"
 
 namespace lignara {
