@@ -21,7 +21,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
 #include "glulam/combination_files.h"
-#include "glulam/glulam_columns.h"
+#include "glulam/values_and_wet_factors.h"
 #include "glulam/load_durations.h"
 #include "glulam/moisture_and_load_types.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/kit/picture_view.h"
+#include "desktop/kit/view_transform.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 // A picture on the screen: which place of the drawing the mouse means, and the picture as a file.
 
 #include "desktop/kit/picture.h"
-#include "desktop/kit/save_picture.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +9,8 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <cstdlib>
+
+#include "desktop/kit/save_picture.h"
 
 namespace lignara {
 namespace {
