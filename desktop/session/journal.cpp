@@ -10,20 +10,25 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 namespace lignara {
 namespace {
 
 constexpr const char* kEnding = ".journal";
+/// What shall stand in the place of a journal is written beside it.
+constexpr const char* kBeside = ".new";
 constexpr mode_t kForUserOnly = S_IRUSR | S_IWUSR;
 
 /// Another program may be about to take the file away: what is locked has to be what stands there.
+/// In a folder that several users write, what another one left is none of this user's sessions.
 bool Holds(int descriptor, const QByteArray& path) {
   struct stat held;
   struct stat there;
   return flock(descriptor, LOCK_EX | LOCK_NB) == 0 && fstat(descriptor, &held) == 0 &&
-         stat(path.constData(), &there) == 0 && held.st_ino == there.st_ino;
+         stat(path.constData(), &there) == 0 && held.st_ino == there.st_ino &&
+         held.st_uid == geteuid();
 }
 
 int OpenLocked(const QString& path, int flags) {
@@ -37,6 +42,22 @@ int OpenLocked(const QString& path, int flags) {
 
 QByteArray Bytes(const QStringList& lines) {
   return lines.isEmpty() ? QByteArray() : (lines.join('\n') + "\n").toUtf8();
+}
+
+bool MakeFolder(const QString& folder) {
+  const QFileInfo info(folder);
+  if (info.isDir()) return true;
+  return QDir().mkpath(info.path()) &&
+         mkdir(QFile::encodeName(folder).constData(), kForUserOnly | S_IXUSR) == 0;
+}
+
+/// Puts the names of a folder on the disk, without which a file is not found after a power cut.
+void FlushFolderOf(const QString& path) {
+  const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
+  const int descriptor = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  fsync(descriptor);
+  close(descriptor);
 }
 
 /// The whole lines of a journal: its writer may have been stopped within the last one.
@@ -70,7 +91,8 @@ bool LockedFile::Append(const QByteArray& bytes) {
   while (done < bytes.size()) {
     const ssize_t count =
         write(descriptor_, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
-    if (count < 0) return false;
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return false;
     done += count;
   }
   return fdatasync(descriptor_) == 0;
@@ -84,10 +106,10 @@ QByteArray LockedFile::ReadAll() const {
 }
 
 Journal::Journal(const QString& folder) {
-  if (!QDir().mkpath(folder)) return;
+  if (!MakeFolder(folder)) return;
   const QString moment = QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss-zzz");
   constexpr int kTries = 100;
-  for (int i = 0; i < kTries && !IsOpen(); ++i) {
+  for (int i = 0; i < kTries && !file_.IsOpen(); ++i) {
     path_ = QString("%1/%2-%3-%4%5")
                 .arg(folder, moment)
                 .arg(QCoreApplication::applicationPid())
@@ -95,24 +117,31 @@ Journal::Journal(const QString& folder) {
                 .arg(kEnding);
     file_ = LockedFile::Make(path_);
   }
+  written_ = file_.IsOpen();
+  if (written_) FlushFolderOf(path_);
 }
 
 Journal::~Journal() {
-  if (IsOpen()) QFile::remove(path_);
+  if (file_.IsOpen()) QFile::remove(path_);
 }
 
 void Journal::Append(const QStringList& lines) {
-  if (IsOpen() && !file_.Append(Bytes(lines))) file_ = LockedFile();
+  written_ = written_ && file_.Append(Bytes(lines));
 }
 
 void Journal::Replace(const QStringList& lines) {
-  if (!IsOpen()) return;
-  const QString beside = path_ + ".new";
+  if (!file_.IsOpen()) return;
+  const QString beside = path_ + kBeside;
   LockedFile file = LockedFile::Make(beside);
-  const bool written =
+  written_ =
       file.IsOpen() && file.Append(Bytes(lines)) &&
       rename(QFile::encodeName(beside).constData(), QFile::encodeName(path_).constData()) == 0;
-  if (written) file_ = std::move(file);
+  if (written_) {
+    file_ = std::move(file);
+    FlushFolderOf(path_);
+  } else if (file.IsOpen()) {
+    QFile::remove(beside);
+  }
 }
 
 QString JournalFolder() {
@@ -121,11 +150,37 @@ QString JournalFolder() {
   return (usable ? state : QDir::homePath() + "/.local/state") + "/lignara";
 }
 
+namespace {
+
+QFileInfoList FilesEnding(const QString& folder, const QString& ending) {
+  return QDir(folder).entryInfoList({"*" + ending}, QDir::Files);
+}
+
+/// What was to replace a journal that is there no more belongs to nobody.
+void TakeAwayOrphans(const QString& folder) {
+  for (const QFileInfo& info : FilesEnding(folder, QString(kEnding) + kBeside)) {
+    const QString path = info.filePath();
+    const bool orphan = !QFileInfo::exists(path.chopped(QString(kBeside).size()));
+    if (orphan && LockedFile::Take(path).IsOpen()) QFile::remove(path);
+  }
+}
+
+/// What was written beside a journal whose writer is gone. Asks for the lock as well: it might be a
+/// link, or another user's.
+void TakeAwayBeside(const QString& journal) {
+  const QString path = journal + kBeside;
+  if (LockedFile::Take(path).IsOpen()) QFile::remove(path);
+}
+
+}  // namespace
+
 std::vector<LeftJournal> LeftJournals(const QString& folder) {
+  TakeAwayOrphans(folder);
   std::vector<LeftJournal> left;
-  for (const QFileInfo& info : QDir(folder).entryInfoList({QString("*") + kEnding}, QDir::Files)) {
+  for (const QFileInfo& info : FilesEnding(folder, kEnding)) {
     LockedFile lock = LockedFile::Take(info.filePath());
     if (!lock.IsOpen()) continue;
+    TakeAwayBeside(info.filePath());
     const QStringList lines = WholeLines(lock.ReadAll());
     if (lines.isEmpty()) {
       QFile::remove(info.filePath());

@@ -13,7 +13,7 @@ class LockedFile {
   LockedFile() = default;
   /// Makes a file that only the user can read.
   static LockedFile Make(const QString& path);
-  /// Opens a file that no other program holds.
+  /// Opens a file of this user that no other program holds.
   static LockedFile Take(const QString& path);
   LockedFile(LockedFile&& other) noexcept : descriptor_(other.Release()) {}
   LockedFile& operator=(LockedFile&& other) noexcept;
@@ -35,21 +35,23 @@ class LockedFile {
 /// loses none of it. One file a program; a program that ends by itself takes it away.
 class Journal {
  public:
-  /// Begins a journal in a folder, which is made where it is missing.
+  /// Begins a journal in a folder, which is made, for the user alone, where it is missing.
   explicit Journal(const QString& folder);
   ~Journal();
   Journal(const Journal&) = delete;
   Journal& operator=(const Journal&) = delete;
 
-  /// False where the folder cannot be written, or a line could not.
-  bool IsOpen() const { return file_.IsOpen(); }
+  /// False where the folder cannot be written, or lines could not. Until they can be replaced
+  /// nothing more is written then: a journal with a gap would restore what never was.
+  bool IsWritten() const { return written_; }
   void Append(const QStringList& lines);
   /// Puts other lines in the place of all; at each moment one or the other is on the disk.
   void Replace(const QStringList& lines);
 
  private:
   QString path_;
-  LockedFile file_;
+  LockedFile file_;  ///< stays locked as long as the program runs, written or not
+  bool written_ = false;
 };
 
 /// The journal of a program that was ended before it could take it away. Nobody else gets it while
@@ -65,7 +67,7 @@ struct LeftJournal {
 QString JournalFolder();
 
 /// The journals in a folder that no running program holds, the newest first. Those without a line
-/// are taken away.
+/// are taken away, and so is what a program left that was ended while it replaced its journal.
 std::vector<LeftJournal> LeftJournals(const QString& folder);
 
 /// Keeps a journal as a session file beside it; its path, empty where that fails.

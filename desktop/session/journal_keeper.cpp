@@ -12,7 +12,10 @@ namespace lignara {
 JournalKeeper::JournalKeeper(Sessions& sessions, DesktopPlatform& platform, const QString& folder)
     : sessions_(sessions), platform_(platform), folder_(folder), journal_(folder) {
   sessions_.OnAppend([this](const QStringList& lines) { Append(lines); });
-  sessions_.OnReplaced([this] { journal_.Replace(sessions_.record().Lines()); });
+  sessions_.OnReplaced([this] {
+    journal_.Replace(sessions_.record().Lines());
+    NoteMissing();
+  });
   NoteMissing();
 }
 
@@ -22,7 +25,7 @@ void JournalKeeper::Append(const QStringList& lines) {
 }
 
 void JournalKeeper::NoteMissing() {
-  if (journal_.IsOpen() || noted_) return;
+  if (journal_.IsWritten() || noted_) return;
   noted_ = true;
   platform_.ShowNote("No journal is kept: " + FromQt(folder_) + " cannot be written");
 }
@@ -40,7 +43,9 @@ void JournalKeeper::OfferLeft() {
 }
 
 void JournalKeeper::Restore(LeftJournal& journal) {
-  if (sessions_.PlayAndTell(journal.lines, journal.path, "Restore Session")) {
+  const bool whole = sessions_.PlayAndTell(journal.lines, journal.path, "Restore Session");
+  // What this program's own journal could not take over stays where it is.
+  if (whole && journal_.IsWritten()) {
     QFile::remove(journal.path);
   } else {
     Keep(journal);

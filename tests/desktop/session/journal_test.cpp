@@ -3,11 +3,15 @@
 #include "desktop/session/journal.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include "desktop/kit/text.h"
 #include "desktop/session/journal_keeper.h"
@@ -50,6 +54,13 @@ TEST_F(JournalTest, OnlyTheUserCanReadIt) {
             QFile::Permissions());
 }
 
+TEST_F(JournalTest, OnlyTheUserCanLookIntoItsFolder) {
+  const Journal journal(Folder());
+  struct stat folder;
+  ASSERT_EQ(stat(FromQt(Folder()).c_str(), &folder), 0);
+  EXPECT_EQ(folder.st_mode & 0777, 0700U);
+}
+
 TEST_F(JournalTest, ThatOfARunningProgramIsNotLeft) {
   Journal journal(Folder());
   journal.Append({"press \"KINGPOST\""});
@@ -67,6 +78,103 @@ TEST_F(JournalTest, OneWithoutAWholeLineGoes) {
   Leave("press \"KING");
   EXPECT_TRUE(LeftJournals(Folder()).empty());
   EXPECT_TRUE(Files().isEmpty());
+}
+
+TEST_F(JournalTest, ALinkIsNoJournal) {
+  Leave("press \"KINGPOST\"\n", "notes.txt");
+  ASSERT_TRUE(QFile::link(Folder() + "/notes.txt", Folder() + "/1-1.journal"));
+  EXPECT_TRUE(LeftJournals(Folder()).empty());
+  EXPECT_EQ(Files(), (QStringList{"1-1.journal", "notes.txt"}));
+}
+
+TEST_F(JournalTest, WhatAnotherUserLeftIsNoJournal) {
+  if (geteuid() != 0) GTEST_SKIP() << "only the superuser can give a file away";
+  Leave("press \"KINGPOST\"\n");
+  constexpr uid_t kSomebody = 12345;
+  ASSERT_EQ(chown(FromQt(Folder() + "/1-1.journal").c_str(), kSomebody, kSomebody), 0);
+  EXPECT_TRUE(LeftJournals(Folder()).empty());
+  EXPECT_EQ(Files(), QStringList("1-1.journal"));
+}
+
+TEST_F(JournalTest, AHalfReplacementGoesWithTheProgramThatWroteIt) {
+  Leave("press \"KINGPOST\"\n", "1-1.journal");
+  Leave("press \"KING", "1-1.journal.new");
+  Leave("press \"FINK\"\n", "2-2.journal.new");
+  EXPECT_EQ(LeftJournals(Folder()).size(), 1U);
+  EXPECT_EQ(Files(), QStringList("1-1.journal")) << "the second had no journal any more";
+}
+
+TEST_F(JournalTest, AReplacementOfARunningProgramStays) {
+  const Journal journal(Folder());
+  const QString beside = Files().value(0) + ".new";
+  Leave("press \"KING", FromQt(beside).c_str());
+  EXPECT_TRUE(LeftJournals(Folder()).empty());
+  EXPECT_TRUE(Files().contains(beside));
+}
+
+TEST_F(JournalTest, OtherFilesOfTheFolderStay) {
+  const QStringList names = {"1-1.lig", "journal", "journal.new", "notes.new", "x.journal.bak"};
+  for (const QString& name : names) Leave("", FromQt(name).c_str());
+  ASSERT_TRUE(QDir(Folder()).mkdir("a.journal.new"));
+  EXPECT_TRUE(LeftJournals(Folder()).empty());
+  EXPECT_EQ(Files(), names);
+  EXPECT_TRUE(QDir(Folder() + "/a.journal.new").exists());
+}
+
+/// No file can be written beyond so many bytes while this stands, as on a disk that is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, signal_);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*signal_)(int);
+};
+
+TEST_F(JournalTest, OnAFullDiskItEndsAtTheLastWholeLineAndStaysWithItsProgram) {
+  {
+    Journal journal(Folder());
+    journal.Append({"press \"KINGPOST\""});
+    {
+      const FullDisk full(20);
+      journal.Append({"window TR_INPUT"});
+      EXPECT_FALSE(journal.IsWritten());
+    }
+    journal.Append({"press \"OK\""});
+    EXPECT_FALSE(journal.IsWritten()) << "a line is missing before this one";
+    EXPECT_TRUE(LeftJournals(Folder()).empty()) << "its program runs";
+    QFile file(Folder() + "/" + Files().value(0));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().toStdString(), "press \"KINGPOST\"\nwin");
+  }
+  EXPECT_TRUE(Files().isEmpty());
+}
+
+TEST_F(JournalTest, AReplacementForWhichThereIsNoRoomLeavesTheLinesAsTheyWere) {
+  Journal journal(Folder());
+  journal.Append({"press \"KINGPOST\""});
+  {
+    const FullDisk full(20);
+    journal.Replace({"press \"FINK\"", "window TR_INPUT"});
+  }
+  EXPECT_FALSE(journal.IsWritten());
+  ASSERT_EQ(Files().size(), 1) << "the half replacement is gone";
+  journal.Append({"press \"OK\""});
+  const QString path = Folder() + "/" + Files().value(0);
+  EXPECT_EQ(QFileInfo(path).size(), 17) << "what follows belongs to the lines that are missing";
+  journal.Replace({"press \"FINK\""});
+  EXPECT_TRUE(journal.IsWritten());
+  EXPECT_EQ(QFileInfo(path).size(), 13);
 }
 
 TEST_F(JournalTest, TwoProgramsDoNotTakeTheSame) {
@@ -120,6 +228,23 @@ TEST_F(JournalTest, YesRestoresAndTakesTheOldOneAway) {
   QFile file(Folder() + "/" + Files().value(0));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll().toStdString(), "press \"KINGPOST\"\n");
+}
+
+TEST_F(JournalTest, WhatTheOwnJournalCannotTakeOverStays) {
+  Leave("press \"KINGPOST\"\n");
+  OpenDesktop desktop;
+  Sessions sessions(desktop.session, desktop.platform);
+  JournalKeeper keeper(sessions, desktop.platform, Folder());
+  desktop.Play({"answer yes"});
+  {
+    const FullDisk full(5);
+    keeper.OfferLeft();
+  }
+  EXPECT_EQ(desktop.session.TrussType, "KINGPOST");
+  QFile kept(Folder() + "/1-1.lig");
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+  EXPECT_EQ(kept.readAll().toStdString(), "press \"KINGPOST\"\n");
+  EXPECT_TRUE(desktop.printed.last().startsWith("message \"Lignara\" \"The session is kept as "));
 }
 
 TEST_F(JournalTest, NoKeepsItAsASessionAndSaysWhere) {
