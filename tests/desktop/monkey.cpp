@@ -46,6 +46,11 @@ void AddItem(QAction* item, std::vector<QAction*>& items) {
   }
 }
 
+/// What a menu bar without room shows in the place of its items: it opens a menu that waits.
+bool IsPartOfAMenuBar(const QWidget* widget) {
+  return qobject_cast<const QMenuBar*>(widget->parentWidget()) != nullptr;
+}
+
 void CheckText(const QString& text) {
   static const QRegularExpression internal(
       "\\b(nan|inf|null|nullptr|std|exception|assert|lignara::)\\b",
@@ -180,7 +185,7 @@ void Monkey::UseControl(ToolWindow* window) {
         widget->isVisible() && widget->isEnabled() && !widget->accessibleName().isEmpty();
     const bool button = qobject_cast<QAbstractButton*>(widget) != nullptr;
     if ((used || (button && widget->isEnabled() && widget->isVisible())) &&
-        widget->window() == window) {
+        widget->window() == window && !IsPartOfAMenuBar(widget)) {
       controls.push_back(widget);
     }
   }

@@ -53,6 +53,11 @@ QString ContentOf(const QWidget* widget) {
   return shapes;
 }
 
+/// Hidden by the program: a widget that was made a moment ago comes up with the next events.
+bool IsHidden(const QWidget* widget) {
+  return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
 }  // namespace
 
 QStringList ScreenText(const DesktopPlatform& platform) {
@@ -66,7 +71,7 @@ QStringList ScreenText(const DesktopPlatform& platform) {
       const QString content = ContentOf(widget);
       if (content.isEmpty()) continue;
       texts << name + " " + FullPath(widget).join('/') +
-                   (widget->isHidden() ? " hidden " : " shown ") +
+                   (IsHidden(widget) ? " hidden " : " shown ") +
                    (widget->isEnabled() ? "" : "disabled ") + content;
     }
   }
