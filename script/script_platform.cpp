@@ -30,6 +30,9 @@ std::optional<std::string> FromQt(const std::optional<QString>& text) {
   return text ? std::optional(lignara::FromQt(*text)) : std::nullopt;
 }
 
+/// Marks a window at which nobody has looked.
+constexpr const char* kUnseen = "unseen";
+
 /// What an action opened or closed moves the rest of its window area by area, from inside out, one
 /// in each round of events.
 void Settle() {
@@ -49,12 +52,14 @@ void ScriptPlatform::Place(ToolWindow* window) {
     DesktopPlatform::Place(window);
     return;
   }
+  window->setProperty(kUnseen, true);
   window->setUpdatesEnabled(false);
   for (QLayout* layout : window->findChildren<QLayout*>()) layout->setEnabled(false);
 }
 
 void ScriptPlatform::LetBeSeen(ToolWindow* window) {
-  if (window->updatesEnabled()) return Settle();
+  if (!window->property(kUnseen).toBool()) return Settle();
+  window->setProperty(kUnseen, false);
   const QList<QLayout*> layouts = window->findChildren<QLayout*>();
   for (QLayout* layout : layouts) {
     layout->setEnabled(true);

@@ -14,6 +14,7 @@
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_line.h"
 #include "desktop/session/script_player.h"
+#include "desktop/session/still_windows.h"
 
 namespace lignara {
 namespace {
@@ -55,11 +56,15 @@ class QuietUser : public Respondent {
   SessionPlay& play_;
 };
 
-/// Puts a quiet user in the place of the one before, and keeps the desktop from choosing windows.
+/// Puts a quiet user in the place of the one before, keeps the desktop from choosing windows, and
+/// the windows from painting.
 class Played {
  public:
   Played(DesktopPlatform& platform, Respondent& user)
-      : platform_(platform), before_(platform.respondent()), was_(platform.IsPlayed()) {
+      : platform_(platform),
+        before_(platform.respondent()),
+        was_(platform.IsPlayed()),
+        still_(platform) {
     platform_.SetRespondent(&user);
     platform_.SetPlayed(true);
   }
@@ -74,6 +79,7 @@ class Played {
   DesktopPlatform& platform_;
   Respondent* before_;
   bool was_;
+  const StillWindows still_;
 };
 
 enum class Meaning { Nothing, Act, Read, Look, Picture };
