@@ -73,10 +73,12 @@ QString PlayAsText(const SessionPlay& play) {
 }
 
 QString HowItEnded(const SessionPlay& play, const QString& name) {
-  const QString file = QFileInfo(name).fileName();
+  QString file = QFileInfo(name).fileName();
   if (!play.stop.isEmpty()) {
     return QString("Stopped at %1.\n%2").arg(file + play.stop.mid(name.size()), kWhatStands);
   }
+  // The user knows nothing of the name of a journal.
+  if (file.endsWith(".journal")) file = "the session";
   const QString lines = QString(play.done == 1 ? "%1 line" : "%1 lines").arg(play.done);
   if (play.cancelled) {
     return QString("Cancelled after %1 of %2.\n%3").arg(lines, file, kWhatStands);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <utility>
@@ -14,9 +15,6 @@ namespace lignara {
 namespace {
 
 using Kind = UserAction::Kind;
-
-/// A key that does nothing but bring the focus along.
-constexpr const char* kIdleKey = "F24";
 
 /// What playing a line takes besides its command, in microseconds.
 constexpr int kPlayCost = 500;
@@ -90,6 +88,11 @@ QString TextOf(const UserAction& action) {
   }
 }
 
+QString TextIn(const QWidget* control) {
+  const auto* field = qobject_cast<const QLineEdit*>(control);
+  return field == nullptr ? QString() : field->text();
+}
+
 bool TakesClicks(const RecordedAction& action) {
   return action.kind == Kind::Click && (action.control->focusPolicy() & Qt::ClickFocus) != 0;
 }
@@ -111,12 +114,15 @@ void SessionRecord::Begin(ToolWindow* window, const UserAction& action) {
   if (paused_ || window == nullptr) return;
   focusBefore_ = window->focusWidget();
   pendingWindow_ = window;
+  textBefore_ = TextIn(action.control);
   pending_ = Describe(window, action);
   began_.start();
 }
 
 void SessionRecord::Answered(const QString& answer) {
-  if (pending_) pending_->lead << "answer " + answer;
+  if (!pending_) return;
+  pending_->lead << "answer " + answer;
+  ++pending_->answers;
 }
 
 void SessionRecord::BoxShown() {
@@ -126,10 +132,17 @@ void SessionRecord::BoxShown() {
 void SessionRecord::End() {
   if (!pending_) return;
   FollowFocus();
+  pending_->look = OnlyLooked();
   // A user who reads a box or answers a dialog takes time that a play does not.
   const bool asked = pending_->boxShown || !pending_->lead.isEmpty();
   pending_->cost = kPlayCost + (asked ? 0 : static_cast<int>(began_.nsecsElapsed() / 1000));
   Append(*std::exchange(pending_, std::nullopt));
+}
+
+bool SessionRecord::OnlyLooked() const {
+  if (pending_->kind == Kind::Window) return true;
+  return pending_->kind == Kind::ComeInto && !pending_->boxShown && pending_->answers == 0 &&
+         TextIn(pending_->control) == textBefore_;
 }
 
 void SessionRecord::Clear() {
@@ -244,7 +257,7 @@ void SessionRecord::Tell(const RecordedAction& action) {
 
 std::size_t SessionRecord::LastDone() const {
   std::size_t count = actions_.size();
-  while (count > 0 && actions_[count - 1].kind == Kind::Window) --count;
+  while (count > 0 && actions_[count - 1].look) --count;
   return count;
 }
 

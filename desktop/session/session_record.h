@@ -16,6 +16,9 @@
 
 namespace lignara {
 
+/// A key that does nothing but bring the focus along.
+inline constexpr const char* kIdleKey = "F24";
+
 /// One action of the user as script lines.
 struct RecordedAction {
   QString window;
@@ -26,6 +29,8 @@ struct RecordedAction {
   bool lastCounts = false;
   bool boxShown = false;
   bool keepsFocus = false;  ///< a press by a key that does not lead the focus to the button
+  int answers = 0;          ///< that its dialogs got
+  bool look = false;        ///< the user came to a window, or into a field that stays as it is
   int cost = 0;             ///< microseconds that it takes to play
 };
 
@@ -50,7 +55,7 @@ class SessionRecord : public ActionListener {
   QStringList Lines() const { return LinesOfFirst(actions_.size()); }
   /// The script of the first actions.
   QStringList LinesOfFirst(std::size_t count) const;
-  /// The number of actions up to the last that is more than a look at a window; 0 where none is.
+  /// The number of actions up to the last that is more than a look; 0 where none is.
   std::size_t LastDone() const;
   /// What it takes to play the first actions, in microseconds.
   int CostOfFirst(std::size_t count) const;
@@ -77,12 +82,14 @@ class SessionRecord : public ActionListener {
   void Append(RecordedAction action);
   void Tell(const RecordedAction& action);
   void FollowFocus();
+  bool OnlyLooked() const;
 
   bool paused_ = false;
   std::vector<RecordedAction> actions_;
   std::optional<RecordedAction> pending_;
   QPointer<ToolWindow> pendingWindow_;
   QPointer<QWidget> focusBefore_;
+  QString textBefore_;  ///< of the field that the user comes into
   QElapsedTimer began_;
   QString toldWindow_ = window_name::kLauncher;
   std::function<void(const QStringList&)> told_;

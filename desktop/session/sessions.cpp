@@ -29,9 +29,10 @@ constexpr int kLongestUndo = 1'000'000;  // microseconds
 /// A line for the eye: without the quotes of its words, and no longer than a status line is.
 QString InWords(const QString& line) {
   constexpr qsizetype kMost = 80;
-  QString words;
-  for (const ScriptWord& word : SplitScriptLine(line)) words += " " + word.text;
-  words = words.simplified();
+  QStringList texts;
+  for (const ScriptWord& word : SplitScriptLine(line)) texts << word.text;
+  if (texts.last() == kIdleKey) texts = QStringList("coming into") + texts.mid(1, texts.size() - 2);
+  const QString words = texts.join(' ').simplified();
   return words.size() > kMost ? words.left(kMost) + "..." : words;
 }
 

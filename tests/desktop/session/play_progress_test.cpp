@@ -169,6 +169,7 @@ TEST(PlayReportTest, TellsHowAPlayEnded) {
   EXPECT_EQ(FromQt(HowItEnded(play, "/a/roof.lig")), "Played 1 line of roof.lig");
   play.done = 143;
   EXPECT_EQ(FromQt(HowItEnded(play, "/a/roof.lig")), "Played 143 lines of roof.lig");
+  EXPECT_EQ(FromQt(HowItEnded(play, "/a/1-2.journal")), "Played 143 lines of the session");
   play.stop = "/a/roof.lig:57: the list has no row 9";
   EXPECT_EQ(FromQt(HowItEnded(play, "/a/roof.lig")),
             "Stopped at roof.lig:57: the list has no row 9.\n"

@@ -291,6 +291,18 @@ TEST_F(SessionsTest, UndoKeepsOutOfAFieldThatActsOnEntry) {
   EXPECT_EQ(FromQt(program.sessions.record().Lines().last()), "key \"L(ft)\" Alt+N");
 }
 
+TEST_F(SessionsTest, ComingIntoAnEmptyFieldIsNothingToTakeBack) {
+  program.Play({"press \"Single Span Beams\"", "window MLSP", "enter \"A(ft)\" 5"});
+  program.Play({"key \"P(lbs)\" F24"});
+  program.sessions.Undo();
+  QApplication::processEvents();
+  EXPECT_EQ(program.Note("MLSP"), "Undone: enter A(ft) 5");
+  program.Play({"enter \"A(ft)\" 5", "enter \"P(lbs)\" 3", "key \"A(ft)\" F24"});
+  program.sessions.Undo();
+  QApplication::processEvents();
+  EXPECT_EQ(program.Note("MLSP"), "Undone: coming into A(ft)") << "which it emptied";
+}
+
 TEST_F(SessionsTest, NothingToTakeBackIsSaid) {
   program.Play({"menu \"Files\" \"Undo\""});
   EXPECT_EQ(program.Note("main"), "There is nothing to undo");
