@@ -85,7 +85,7 @@ TEST_F(PlayedForAUserTest, CancelIsReachedAboveAModalWindow) {
   ASSERT_FALSE(Play(LongSession(), [this] {
     if (program.platform.FindWindow("TR_INPUT") == nullptr) return;
     auto* bar = TopLevel<PlayProgress>();
-    EXPECT_EQ(QApplication::activeModalWidget(), bar);
+    if (QApplication::activeModalWidget() != bar) return;  // it comes up with one of the next lines
     auto* cancel = bar->findChild<QPushButton*>();
     QTest::mouseClick(bar->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                       cancel->mapTo(bar, cancel->rect().center()));
@@ -100,7 +100,8 @@ TEST_F(PlayedForAUserTest, EscapeCancelsWhereverTheFocusIs) {
   leave = Qt::Key_Escape;
   ASSERT_FALSE(Play(LongSession(), [this] {
     if (program.platform.FindWindow("TR_INPUT") == nullptr) return;
-    EXPECT_EQ(QGuiApplication::focusWindow(), TopLevel<PlayProgress>()->windowHandle());
+    // It comes up with one of the next lines.
+    if (QGuiApplication::focusWindow() != TopLevel<PlayProgress>()->windowHandle()) return;
     QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Escape);
   }));
   EXPECT_TRUE(head.startsWith("Cancelled after ")) << FromQt(head);
