@@ -35,8 +35,9 @@ class HelpDocument : public testing::Test {
 
 TEST_F(HelpDocument, HasASectionForEveryWindowOfTheProgram) {
   int sections = 0;
-  for (const char* window : {"main", "QUESTION", "ABOUT", "TR_INPUT", "TRUSS", "WTYPETR", "wdb",
-                             "MLSP", "MS", "MDOUTPUT", "GL", "bolts", "FASTENER", "ply", "REPEAT"}) {
+  for (const char* window :
+       {"main", "QUESTION", "ABOUT", "TR_INPUT", "TRUSS", "WTYPETR", "wdb", "MLSP", "MS",
+        "MDOUTPUT", "GL", "bolts", "FASTENER", "ply", "REPEAT"}) {
     if (FindWindowKind(window) == nullptr) continue;
     ++sections;
     EXPECT_TRUE(anchors_.contains(window)) << window;
