@@ -17,7 +17,7 @@
 #include "desktop/kit/statics_panel.h"
 #include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
-#include "desktop/truss/truss_canvas.h"
+#include "desktop/truss/drawing_and_zoom.h"
 #include "desktop/truss/truss_report_panels.h"
 #include "desktop/windows.h"
 #include "truss/report.h"

@@ -1,4 +1,4 @@
-#include "desktop/truss/truss_canvas.h"
+#include "desktop/truss/drawing_and_zoom.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -15,8 +15,8 @@
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
-#include "truss/truss_picture.h"
 #include "truss/description.h"
+#include "truss/truss_picture.h"
 
 namespace lignara {
 namespace {
