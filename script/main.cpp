@@ -11,6 +11,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_player.h"
+#include "desktop/session/session_file.h"
 #include "desktop/session/sessions.h"
 #include "script/exit_status.h"
 #include "script/script_platform.h"

@@ -1,8 +1,6 @@
 #include "desktop/session/session_player.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QFileInfo>
 
 #include "app/launcher.h"
 #include "app/window_names.h"
@@ -19,8 +17,6 @@
 namespace lignara {
 namespace {
 
-/// More than a user does in a year; what is larger is no session.
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
 /// The longest text that a field holds, with a sign before each letter, fits.
 constexpr qsizetype kLongestLine = 128 * 1024;
 
@@ -150,21 +146,6 @@ SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPl
     }
   }
   return play;
-}
-
-QStringList ReadSessionFile(const QString& path, QString& refusal) {
-  QFile file(path);
-  if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-    refusal = "Cannot read " + path;
-    return {};
-  }
-  // Read no more than that also where the file is a device without an end.
-  const QByteArray bytes = file.read(kLargestFile + 1);
-  if (bytes.size() > kLargestFile) {
-    refusal = path + " is too large for a session";
-    return {};
-  }
-  return QString::fromUtf8(bytes).remove('\r').split('\n');
 }
 
 }  // namespace lignara

@@ -37,8 +37,4 @@ SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPl
 /// Brings the program to where it stands after its start: the launcher alone, nothing entered.
 void StartProgramAgain(SessionState& session, DesktopPlatform& platform);
 
-/// The lines of a session file, read with bounds on its size. Empty, with the reason in `refusal`,
-/// where it cannot be read.
-QStringList ReadSessionFile(const QString& path, QString& refusal);
-
 }  // namespace lignara

@@ -1,7 +1,6 @@
 #include "desktop/session/sessions.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -10,7 +9,6 @@
 #include <memory>
 
 #include "app/launcher.h"
-#include "app/replace_file.h"
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
@@ -19,6 +17,7 @@
 #include "desktop/session/play_report.h"
 #include "desktop/session/repeat_window.h"
 #include "desktop/session/script_line.h"
+#include "desktop/session/session_file.h"
 #include "desktop/session/user_place.h"
 
 namespace lignara {
@@ -64,21 +63,11 @@ void Sessions::Later(void (Sessions::*command)()) {
       this, [this, command] { (this->*command)(); }, Qt::QueuedConnection);
 }
 
-QStringList Sessions::Header(const QString& path) const {
-  QString title = ToQt(session_.ReportTitle);
-  if (title.isEmpty()) title = ToQt(session_.Header.Title);
-  if (title.isEmpty()) title = QFileInfo(path).completeBaseName();
-  return {"# A session, to be opened again or run by lignara-script",
-          QString("# program: %1 %2").arg(kProgramName, ProgramVersion()),
-          "# date: " + QDateTime::currentDateTime().toString("yyyy-MM-dd hh:mm"),
-          "# title: " + title.simplified()};
-}
-
 bool Sessions::SaveToFile() {
   const auto path = platform_.ChooseSaveFile(kSessionFilter);
   if (!path) return false;
   const QStringList lines = record_.Lines();
-  if (!ReplaceFile(*path, FromQt((Header(ToQt(*path)) + lines).join('\n') + "\n"))) {
+  if (!WriteSessionFile(ToQt(*path), session_, lines)) {
     platform_.ShowMessage({"Cannot write " + *path});
     return false;
   }

@@ -44,8 +44,6 @@ class Sessions : public QObject, public SessionCommands {
   void OnAppend(std::function<void(const QStringList&)> told) { appended_ = std::move(told); }
 
  private:
-  /// A session in words of a script that heads it: program, date, title.
-  QStringList Header(const QString& path) const;
   void Later(void (Sessions::*command)());
   void SaveNow() { SaveToFile(); }
   /// False where it is not saved: the user cancels, or the file cannot be written.

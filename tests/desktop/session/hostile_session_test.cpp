@@ -14,6 +14,7 @@
 
 #include "desktop/kit/text.h"
 #include "desktop/session/journal_keeper.h"
+#include "desktop/session/session_file.h"
 #include "desktop/session/sessions.h"
 #include "script/script_platform.h"
 #include "tests/desktop/open_desktop.h"
