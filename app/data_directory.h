@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace lignara {
@@ -12,5 +13,8 @@ std::string FolderOf(const std::string& dataDirectory);
 
 /// The path of a file in the data directory, in the form of the platform at hand.
 std::string DataPath(const std::string& dataDirectory, const std::string& fileName);
+
+/// The bytes of a file; nothing where it cannot be read. A directory is no file.
+std::optional<std::string> FileText(const std::string& path);
 
 }  // namespace lignara

@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <limits>
-#include <sstream>
 #include <utility>
 
 #include "app/data_directory.h"
@@ -30,17 +27,6 @@ bool StartsWithNumber(std::string_view text) {
   skip("+-");
   skip(".");
   return !text.empty() && text.front() >= '0' && text.front() <= '9';
-}
-
-/// The bytes of a file; nothing where it cannot be read. A directory is no file.
-std::optional<std::string> FileText(const std::string& path) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  std::ostringstream text;
-  text << file.rdbuf();
-  return text.str();
 }
 
 }  // namespace
@@ -99,6 +85,11 @@ FieldFile::FieldFile(const std::string& dataDirectory, const std::string& fileNa
   } else {
     fields_ = FieldStream(std::move(*text));
   }
+}
+
+FieldFile FieldFile::InsteadOf(const std::string& fileName, const std::string& text,
+                               Platform& platform) {
+  return FieldFile(platform, fileName, text);
 }
 
 std::string FieldFile::ReadText() { return Next().value_or(""); }

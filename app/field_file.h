@@ -44,6 +44,9 @@ class FieldStream {
 class FieldFile {
  public:
   FieldFile(const std::string& dataDirectory, const std::string& fileName, Platform& platform);
+  /// The same for a text that stands in the place of the file.
+  static FieldFile InsteadOf(const std::string& fileName, const std::string& text,
+                             Platform& platform);
 
   /// The next field as text.
   std::string ReadText();
@@ -62,6 +65,8 @@ class FieldFile {
   bool AtEnd() { return fields_.AtEnd(); }
 
  private:
+  FieldFile(Platform& platform, const std::string& fileName, const std::string& text)
+      : platform_(platform), fileName_(fileName), fields_(text) {}
   std::optional<std::string> Next();
   double ValueOf(const std::string& field);
   int CountOf(double value);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/glulam_combination_table.h"
@@ -53,6 +54,12 @@ struct SessionState {
   Float32 EndFixity = 1.0;  ///< 0.85 where the single-span beam has both ends fixed; none reads it
 
   MemberSelection Member;
+  /// The text of the user's file of own glulam factors as it was before this program first replaced
+  /// it; nothing as long as it has not.
+  std::optional<std::string> FactorsAtStart;
+  /// What is read in the place of that file while the session goes on from an earlier state.
+  std::optional<std::string> FactorsInstead;
+
   GlulamTransfer Glulam;                      ///< as handed over last
   GlulamCombinationTable GlulamCombinations;  ///< as loaded last
 

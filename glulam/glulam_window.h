@@ -77,8 +77,11 @@ void EmptySize(GlulamWindow& window, const SessionState& session, Platform& plat
 void RecomputeAllowables(GlulamWindow& window, const SessionState& session, Platform& platform);
 
 /// "Set user adjustment as default" (user_factors.cpp). Where the file cannot be written it stays
-/// as it was, and nothing is said.
-void SaveUserFactors(const GlulamWindow& window, const SessionState& session, Platform& platform);
+/// as it was, and nothing is said. The session keeps what the file held when the program started,
+/// for those who go back to that state.
+void SaveUserFactors(const GlulamWindow& window, SessionState& session, Platform& platform);
+/// The same for this session alone: the file stays as it is.
+void HoldUserFactors(const GlulamWindow& window, SessionState& session, Platform& platform);
 
 /// "Done / Transfer": hands section and allowables to the analyses and hides the window
 /// (transfer.cpp).

@@ -26,12 +26,29 @@ std::string FactorLine(const Float32& factor) {
   return (factor < 0 ? "" : " ") + PlainNumber(factor) + "\n";
 }
 
+FieldFile FactorFile(const SessionState& session, Platform& platform) {
+  return session.FactorsInstead
+             ? FieldFile::InsteadOf(kFactorFile, *session.FactorsInstead, platform)
+             : FieldFile(session.DataDirectory, kFactorFile, platform);
+}
+
+/// The factors of the window as lines of their file; nothing where one is too large, which is told.
+std::optional<std::string> FactorLines(const GlulamWindow& window) {
+  std::string lines;
+  for (const std::string& text : window.factors) {
+    const std::optional<Float32> factor = FieldNumber(ReadNumber(text));
+    if (!factor) return std::nullopt;
+    lines += FactorLine(*factor);
+  }
+  return lines;
+}
+
 }  // namespace
 
 void ShowDefaultFactors(GlulamWindow& window, const SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   window.factors.fill(FormatNumber(1.0, kTwoDecimals));
-  FieldFile file(session.DataDirectory, kFactorFile, platform);
+  FieldFile file = FactorFile(session, platform);
   for (std::string& factor : window.factors) {
     const std::optional<Float32> number = ReadFactor(file);
     if (!number) return;
@@ -39,15 +56,20 @@ void ShowDefaultFactors(GlulamWindow& window, const SessionState& session, Platf
   }
 }
 
-void SaveUserFactors(const GlulamWindow& window, const SessionState& session, Platform& platform) {
+void SaveUserFactors(const GlulamWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
-  std::string lines;
-  for (const std::string& text : window.factors) {
-    const std::optional<Float32> factor = FieldNumber(ReadNumber(text));
-    if (!factor) return;
-    lines += FactorLine(*factor);
-  }
-  ReplaceFile(DataPath(session.DataDirectory, kFactorFile), lines);
+  const std::optional<std::string> lines = FactorLines(window);
+  if (!lines) return;
+  const std::string path = DataPath(session.DataDirectory, kFactorFile);
+  const std::optional<std::string> before = FileText(path);
+  if (!ReplaceFile(path, *lines)) return;
+  if (!session.FactorsAtStart) session.FactorsAtStart = before.value_or("");
+  session.FactorsInstead.reset();
+}
+
+void HoldUserFactors(const GlulamWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  if (const auto lines = FactorLines(window)) session.FactorsInstead = lines;
 }
 
 }  // namespace lignara

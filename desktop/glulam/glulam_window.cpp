@@ -21,9 +21,9 @@
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
 #include "glulam/combination_files.h"
-#include "glulam/values_and_wet_factors.h"
 #include "glulam/load_durations.h"
 #include "glulam/moisture_and_load_types.h"
+#include "glulam/values_and_wet_factors.h"
 
 namespace lignara {
 namespace {
@@ -238,7 +238,11 @@ class GlulamForm : public ToolWindow {
     rows->addWidget(Note(kGlulamFactorNote));
     auto* keep = new QPushButton("Set user &adjustment as default");
     binding().Press(keep, [this] {
-      if (platform().MayWriteFiles()) SaveUserFactors(record_, session(), platform());
+      if (platform().MayWriteFiles()) {
+        SaveUserFactors(record_, session(), platform());
+      } else {
+        HoldUserFactors(record_, session(), platform());
+      }
     });
     rows->addWidget(keep, 0, Qt::AlignRight);
     return rows;
