@@ -63,6 +63,10 @@ std::optional<int> ReadOptions(const QStringList& arguments, Options& options) {
   options.repeat = parser.value(repeat);
   options.variants = parser.isSet(variants);
   options.file = parser.positionalArguments().value(0);
+  if (parser.isSet(repeat) && options.repeat.isEmpty()) {
+    std::cerr << "--repeat needs LINE=VALUES\n";
+    return kWrongUsage;
+  }
   if (parser.isSet(repeat) && options.file.isEmpty()) {
     std::cerr << "--repeat needs a file\n";
     return kWrongUsage;

@@ -44,6 +44,9 @@ int PrintVariants(const Variants& variants) {
   int status = kDone;
   for (const QString& value : variants.values) {
     const VariantOutcome outcome = program.Play(variants, value);
+    for (const QString& said : outcome.said) {
+      std::cerr << FromQt(value + ": " + said.simplified()) << std::endl;
+    }
     if (outcome.stop.isEmpty()) {
       PrintRow(QStringList(value) + outcome.read);
     } else {

@@ -5,6 +5,7 @@
 
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/session_file.h"
 #include "desktop/session/sessions.h"
 
 namespace lignara {
@@ -13,14 +14,18 @@ JournalKeeper::JournalKeeper(Sessions& sessions, DesktopPlatform& platform, cons
     : sessions_(sessions), platform_(platform), folder_(folder), journal_(folder) {
   sessions_.OnAppend([this](const QStringList& lines) { Append(lines); });
   sessions_.OnReplaced([this] {
-    journal_.Replace(sessions_.record().Lines());
+    const QStringList lines = sessions_.record().Lines();
+    toldStart_ = lines.isEmpty() ? QStringList() : StartLines(sessions_.state());
+    journal_.Replace(toldStart_ + lines);
     NoteMissing();
   });
   NoteMissing();
 }
 
 void JournalKeeper::Append(const QStringList& lines) {
-  journal_.Append(lines);
+  const QStringList start = StartLines(sessions_.state());
+  journal_.Append(start == toldStart_ ? lines : start + lines);
+  toldStart_ = start;
   NoteMissing();
 }
 

@@ -30,6 +30,7 @@ class JournalKeeper {
   QString folder_;
   Journal journal_;
   bool noted_ = false;
+  QStringList toldStart_;  ///< the comment on the start of the session that stands in the journal
 };
 
 }  // namespace lignara

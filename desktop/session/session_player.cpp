@@ -85,6 +85,9 @@ Meaning MeaningOf(const QString& line) {
   const std::vector<ScriptWord> words = SplitScriptLine(line);
   if (words.empty()) return Meaning::Nothing;
   const QString& verb = words.front().text;
+  if (verb == "window" && words.size() > 1 && words[1].text == window_name::kRepeat) {
+    throw ScriptError{"the window REPEAT is no part of a session"};
+  }
   if (verb == "picture" || verb == "screenshot") return Meaning::Picture;
   if (verb == "read" || verb == "rows") return Meaning::Read;
   static const QStringList look = {"state", "shapes", "windows"};
@@ -111,10 +114,11 @@ void StartProgramAgain(SessionState& session, DesktopPlatform& platform) {
     if (!stays) platform.CloseWindow(name);
   }
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  const std::string folder = session.DataDirectory;
+  const SessionState before = std::move(session);
   session = SessionState();
   StartSession(session, "");
-  session.DataDirectory = folder;
+  session.DataDirectory = before.DataDirectory;
+  session.FactorsAtStart = session.FactorsInstead = before.FactorsAtStart;
   platform.OpenWindow(window_name::kLauncher);
   platform.FindWindow(window_name::kLauncher)->StartAgain();
   platform.RefreshWindows();

@@ -289,4 +289,17 @@ QStringList SessionRecord::LinesOfFirst(std::size_t count) const {
   return lines;
 }
 
+std::vector<qsizetype> SessionRecord::LineCounts() const {
+  std::vector<qsizetype> counts;
+  qsizetype count = 0;
+  QString window = window_name::kLauncher;
+  for (const RecordedAction& action : actions_) {
+    const bool named = action.window != window && action.kind != Kind::Window;
+    count += action.lead.size() + (named ? 2 : 1);
+    window = action.window;
+    counts.push_back(count);
+  }
+  return counts;
+}
+
 }  // namespace lignara

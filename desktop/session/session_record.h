@@ -55,6 +55,8 @@ class SessionRecord : public ActionListener {
   QStringList Lines() const { return LinesOfFirst(actions_.size()); }
   /// The script of the first actions.
   QStringList LinesOfFirst(std::size_t count) const;
+  /// How many lines the script of the first 1, 2, ... actions has.
+  std::vector<qsizetype> LineCounts() const;
   /// The number of actions up to the last that is more than a look; 0 where none is.
   std::size_t LastDone() const;
   /// What it takes to play the first actions, in microseconds.

@@ -116,7 +116,15 @@ void Sessions::OpenNow() {
 
 bool Sessions::PlayAndTell(const QStringList& lines, const QString& name, const QString& title) {
   undone_.clear();
-  const SessionPlay play = Replay(lines, name, "Playing " + QFileInfo(name).fileName());
+  session_.FactorsAtStart = StartFactorsIn(lines);
+  std::unique_ptr<PlayProgress> bar;
+  // Where a script stands in the user's place, nobody looks.
+  if (platform_.respondent() == nullptr) {
+    bar = std::make_unique<PlayProgress>("Playing " + QFileInfo(name).fileName(),
+                                         static_cast<int>(lines.size()), progressAfter_);
+  }
+  const SessionPlay play = Replay(lines, name, bar.get());
+  bar.reset();
   Tell(play, name, title);
   return play.stop.isEmpty() && !play.cancelled;
 }
@@ -132,18 +140,12 @@ void Sessions::Tell(const SessionPlay& play, const QString& name, const QString&
   }
 }
 
-SessionPlay Sessions::Replay(const QStringList& lines, const QString& name, const QString& what) {
+SessionPlay Sessions::Replay(const QStringList& lines, const QString& name, PlayProgress* bar) {
   playing_ = replaying_ = true;
   platform_.SetPlayed(true);
-  // Where a script stands in the user's place, nobody looks.
-  std::unique_ptr<PlayProgress> bar;
-  if (platform_.respondent() == nullptr) {
-    bar = std::make_unique<PlayProgress>(what, static_cast<int>(lines.size()), progressAfter_);
-  }
   StartAgain();
-  const SessionPlay play =
-      PlaySession(lines, name, platform_, [&bar](int done) { return !bar || bar->Step(done); });
-  bar.reset();
+  const SessionPlay play = PlaySession(
+      lines, name, platform_, [bar](int done) { return bar == nullptr || bar->Step(done); });
   platform_.SetPlayed(false);
   if (ToolWindow* front = platform_.Front()) platform_.Activate(front);
   playing_ = replaying_ = false;
@@ -170,7 +172,7 @@ bool Sessions::eventFilter(QObject* watched, QEvent* event) {
 void Sessions::Repeat() {
   if (playing_) return;
   platform_.OpenWindow(window_name::kRepeat);
-  RepeatSession(platform_.FindWindow(window_name::kRepeat), record_.Lines());
+  RepeatSession(platform_.FindWindow(window_name::kRepeat), StartLines(session_) + record_.Lines());
 }
 
 bool Sessions::CanUndo() const { return record_.LastDone() > 0; }
@@ -183,18 +185,27 @@ void Sessions::UndoNow() {
     return;
   }
   const UserPlace place = PlaceOfUser(platform_);
-  const QStringList taken = record_.LinesOf(last - 1);
-  const SessionPlay play = Replay(record_.LinesOfFirst(last - 1), "Undo", "Undoing");
-  undone_.push_back(taken);
+  std::vector<QStringList> actions;
+  for (std::size_t i = 0; i < last; ++i) actions.push_back(record_.LinesOf(i));
+  const std::vector<qsizetype> lineCounts = record_.LineCounts();
+  const SessionPlay play = Replay(record_.LinesOfFirst(last - 1), "Undo", nullptr);
+  std::size_t done = last - 1;
+  if (!play.stop.isEmpty()) {
+    while (done > 0 && lineCounts[done - 1] >= play.stopLine) --done;
+  }
+  KeepForRedo({actions.begin() + static_cast<std::ptrdiff_t>(done), actions.end()});
   LeadBack(place, platform_);
-  if (!play.stop.isEmpty() || play.cancelled) return Tell(play, "Undo", "Undo");
-  platform_.ShowNote(FromQt("Undone: " + InWords(taken.last())));
+  if (!play.stop.isEmpty()) return Tell(play, "Undo", "Undo");
+  platform_.ShowNote(FromQt("Undone: " + InWords(actions.back().last())));
+}
+
+void Sessions::KeepForRedo(const std::vector<QStringList>& actions) {
+  undone_.insert(undone_.end(), actions.rbegin(), actions.rend());
 }
 
 void Sessions::RedoNow() {
   if (undone_.empty()) return platform_.ShowNote("There is nothing to redo");
   const QStringList lines = undone_.back();
-  undone_.pop_back();
   const UserPlace place = PlaceOfUser(platform_);
   const QStringList open = platform_.OpenWindows();
   playing_ = true;
@@ -202,7 +213,9 @@ void Sessions::RedoNow() {
   playing_ = false;
   // A window that comes up is where the user goes on.
   if (platform_.OpenWindows() == open) LeadBack(place, platform_);
+  // What could not be done waits for another try: the later ones stand on it.
   if (!play.stop.isEmpty()) return Tell(play, "Redo", "Redo");
+  undone_.pop_back();
   platform_.ShowNote(FromQt("Redone: " + InWords(lines.last())));
 }
 

@@ -13,6 +13,7 @@
 namespace lignara {
 
 class DesktopPlatform;
+class PlayProgress;
 
 /// The session of a running program: what was done in it is recorded, saved, opened, taken back.
 class Sessions : public QObject, public SessionCommands {
@@ -36,6 +37,7 @@ class Sessions : public QObject, public SessionCommands {
   bool PlayAndTell(const QStringList& lines, const QString& name, const QString& title);
 
   SessionRecord& record() { return record_; }
+  const SessionState& state() const { return session_; }
   /// Is told when the record is another one: lines were taken back, or a session was opened.
   void OnReplaced(std::function<void()> told) { replaced_ = std::move(told); }
   /// The milliseconds from which on a play shows a bar with "Cancel".
@@ -57,7 +59,9 @@ class Sessions : public QObject, public SessionCommands {
   void Tell(const SessionPlay& play, const QString& name, const QString& title);
   /// The program as it stands after its start.
   void StartAgain();
-  SessionPlay Replay(const QStringList& lines, const QString& name, const QString& what);
+  SessionPlay Replay(const QStringList& lines, const QString& name, PlayProgress* bar);
+  /// What an undo that stopped at a line has not done again comes back by redo.
+  void KeepForRedo(const std::vector<QStringList>& actions);
   void Appended(const QStringList& lines);
 
   SessionState& session_;

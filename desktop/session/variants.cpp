@@ -8,12 +8,14 @@
 #include "desktop/kit/text.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_line.h"
+#include "desktop/session/session_file.h"
 #include "desktop/session/session_player.h"
 
 namespace lignara {
 namespace {
 
 constexpr int kMostValues = 10000;
+constexpr const char* kTooMany = "there are more than 10000 values";
 
 int Decimals(const QString& number) {
   const qsizetype point = number.indexOf('.');
@@ -27,14 +29,21 @@ QStringList RangeValues(const QRegularExpressionMatch& range, QString& refusal) 
   const double step = by.toDouble();
   // As many steps as fit; what is missing to a whole one by rounding counts as whole.
   const double steps = step == 0 ? -1 : std::floor((last - first) / step + 1e-6);
-  if (!(steps >= 0 && steps < kMostValues)) {
-    refusal = "the range has no values, or more than 10000";
+  if (!(steps >= 0)) {
+    refusal = "the range has no values: its step does not lead to its end";
+    return {};
+  }
+  if (steps >= kMostValues) {
+    refusal = kTooMany;
     return {};
   }
   const int decimals = std::max(Decimals(range.captured(1)), Decimals(by));
   QStringList values;
   for (int i = 0; i <= static_cast<int>(steps); ++i) {
-    values << QString::number(first + i * step, 'f', decimals);
+    // What is 0 but for rounding is shown without a sign.
+    const double value = first + i * step;
+    const double smallest = 0.5 * std::pow(10, -decimals);
+    values << QString::number(std::fabs(value) < smallest ? 0 : value, 'f', decimals);
   }
   return values;
 }
@@ -72,7 +81,7 @@ void ReadAtTheEnd(const std::vector<Reading>& readings, const DesktopPlatform& p
     try {
       outcome.readings.back() = Read(reading, platform);
     } catch (const ScriptError& error) {
-      outcome.reason = error.reason;
+      outcome.reason += (outcome.reason.isEmpty() ? "" : "; ") + error.reason;
     }
   }
 }
@@ -80,15 +89,19 @@ void ReadAtTheEnd(const std::vector<Reading>& readings, const DesktopPlatform& p
 }  // namespace
 
 QStringList ParseValues(const QString& text, QString& refusal) {
-  static const QString number = "([-+]?(?:\\d+\\.?\\d*|\\.\\d+))";
-  static const QRegularExpression range("^\\s*" + number + "\\s*\\.\\.\\s*" + number +
-                                        "(?:\\s+step\\s+" + number + ")?\\s*$");
+  static const QString number = "([-+]?(?:\\d+(?:\\.\\d+)?|\\.\\d+))";
+  static const QRegularExpression range(
+      "^\\s*" + number + "\\s*\\.\\.\\s*" + number + "(?:\\s*step\\s*" + number + ")?\\s*$",
+      QRegularExpression::CaseInsensitiveOption);
   if (const auto match = range.match(text); match.hasMatch()) return RangeValues(match, refusal);
   QStringList values;
   for (const QString& value : text.split(',', Qt::SkipEmptyParts)) values << value.trimmed();
   values.removeAll(QString());
+  // A slip in a range would play as its first number.
+  static const QRegularExpression dots("\\.\\.|\u2026");
+  if (!values.filter(dots).isEmpty()) refusal = "a range is written 20..40 step 2";
   if (values.isEmpty()) refusal = "there are no values";
-  if (values.size() > kMostValues) refusal = "there are more than 10000 values";
+  if (values.size() > kMostValues) refusal = kTooMany;
   return refusal.isEmpty() ? values : QStringList();
 }
 
@@ -126,6 +139,7 @@ VariantOutcome PlayVariant(const Variants& variants, const QString& value, Sessi
                            DesktopPlatform& platform) {
   QStringList lines = variants.lines;
   lines[variants.enterLine] = WithValue(lines[variants.enterLine], value);
+  session.FactorsAtStart = StartFactorsIn(lines);
   StartProgramAgain(session, platform);
   const SessionPlay play = PlaySession(
       lines, value, platform, [](int) { return true; }, ReadLines::Kept);

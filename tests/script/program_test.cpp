@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -79,6 +80,101 @@ TEST(ScriptProgram, WrongUsageEndsWithTwo) {
     EXPECT_NE(outcome.error, "") << FromQt(arguments.join(' '));
     EXPECT_EQ(outcome.output, "");
   }
+}
+
+/// The reactions of a truss of 30 ft under 100 lb per foot, as "Save Session..." writes it, with
+/// what is to be read at its end.
+const QByteArray kTruss =
+    "# A session, to be opened again or run by lignara-script\n"
+    "press \"PRATT1\"\n"
+    "window TR_INPUT\n"
+    "enter \"Number of Spans\" 6\n"
+    "enter \"Total Length (ft)\" 30\n"  // line 5
+    "enter \"H (ft)\" 7.5\n"
+    "press \"OK\"\n"
+    "window TRUSS\n"
+    "press \"Unif. Load (lb/ft)\"\n"
+    "enter \"Load (lb / ft)\" 100\n"
+    "press \"Apply\"\n"
+    "press \"Run\"\n"
+    "window main\n"
+    "window TRUSS\n"
+    "read \"Left Side\"\n";
+
+Outcome Repeat(const QString& lineAndValues, const QByteArray& script) {
+  QTemporaryDir directory;
+  QFile file(directory.filePath("a.lig"));
+  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(script);
+  file.close();
+  return RunProgram({"--data", LIGNARA_DATA_DIRECTORY, "--repeat", lineAndValues, file.fileName()});
+}
+
+TEST(ScriptProgram, RepeatPrintsARowForEachValue) {
+  const Outcome outcome = Repeat("5=20..40 step 10", kTruss);
+  EXPECT_EQ(outcome.status, 0);
+  // Half of 100 lb/ft over the length.
+  EXPECT_EQ(outcome.output, "Total Length (ft),Left Side\n20,1000.00\n30,1500.00\n40,2000.00\n");
+}
+
+TEST(ScriptProgram, RepeatHasNoRowForAValueThatCannotBePlayed) {
+  const Outcome outcome = Repeat("5=20, 0, 40", kTruss);
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, "Total Length (ft),Left Side\n20,1000.00\n40,2000.00\n")
+      << "the values after it are played";
+  EXPECT_NE(outcome.error.find("0:8: the window TRUSS is not open\n"), std::string::npos)
+      << outcome.error;
+}
+
+TEST(ScriptProgram, RepeatTellsWhatBoxesSaidUnderTheirValue) {
+  // No sizes and no wood are chosen: the run says so. Without a length there is none.
+  EXPECT_EQ(Repeat("5=20, 0", kTruss).error,
+            "20: AREA OR MOD. PROP. NOT SELECTED, NO DEF. WILL BE CALCULATED\n"
+            "20: NO STRESS WILL BE CALCULATED, NEED WOOD TYPE & SIZE\n"
+            "0: ERROR!: You must enter a total length.\n"
+            "0:8: the window TRUSS is not open\n");
+}
+
+TEST(ScriptProgram, RepeatOfWhatCannotBeRepeatedEndsWithTwo) {
+  for (const char* asked : {"", "5", "5=", "=20", "1=20", "4711=20", "7=20", "5=1..0"}) {
+    const Outcome outcome = Repeat(asked, kTruss);
+    EXPECT_EQ(outcome.status, 2) << asked;
+    EXPECT_NE(outcome.error, "") << asked;
+    EXPECT_EQ(outcome.output, "") << asked;
+  }
+}
+
+/// Where a program keeps its journals, for as long as this lives.
+class StateFolder {
+ public:
+  StateFolder() { qputenv(kVariable, directory_.path().toLocal8Bit()); }
+  ~StateFolder() { before_.isNull() ? qunsetenv(kVariable) : qputenv(kVariable, before_); }
+
+  bool IsEmpty() const { return QDir(directory_.path()).isEmpty(); }
+
+ private:
+  static constexpr const char* kVariable = "XDG_STATE_HOME";
+  const QByteArray before_ = qgetenv(kVariable);
+  const QTemporaryDir directory_;
+};
+
+TEST(ScriptProgram, KeepsNoJournalWhileItRuns) {
+  const StateFolder state;
+  QProcess program;
+  program.start(LIGNARA_SCRIPT_PROGRAM, {"--data", LIGNARA_DATA_DIRECTORY});
+  program.write("press \"PRATT1\"\nwindows\n");
+  ASSERT_TRUE(program.waitForReadyRead(kTimeout));
+  EXPECT_TRUE(state.IsEmpty()) << "after an action";
+  program.kill();
+  EXPECT_TRUE(program.waitForFinished(kTimeout));
+  EXPECT_TRUE(state.IsEmpty()) << "after a crash";
+}
+
+TEST(ScriptProgram, LeavesNoFileBehind) {
+  const StateFolder state;
+  EXPECT_EQ(Play(kTruss).status, 0);
+  EXPECT_EQ(Repeat("5=20, 0", kTruss).status, 1);
+  EXPECT_TRUE(state.IsEmpty());
 }
 
 struct Refusal {
