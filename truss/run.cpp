@@ -1,7 +1,7 @@
 #include "truss/canvas.h"
 #include "truss/member_signs.h"
-#include "truss/results.h"
 #include "truss/run_inputs.h"
+#include "truss/shown_forces.h"
 #include "truss/stress_check.h"
 #include "truss/truss_statics.h"
 #include "truss/truss_types.h"

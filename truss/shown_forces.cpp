@@ -1,4 +1,4 @@
-#include "truss/results.h"
+#include "truss/shown_forces.h"
 
 #include "app/list_rows.h"
 #include "app/number_pattern.h"

@@ -1,4 +1,4 @@
-#include "truss/results.h"
+#include "truss/shown_forces.h"
 
 #include <gtest/gtest.h>
 
