@@ -16,6 +16,7 @@
 #include "desktop/kit/help_window.h"
 #include "desktop/kit/message_box.h"
 #include "desktop/kit/program_icon.h"
+#include "desktop/kit/proposed_file_name.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/report_printer.h"
 #include "desktop/kit/respondent.h"

@@ -30,15 +30,6 @@ QString QtFilter(const QString& filter) {
   return names.join(";;");
 }
 
-QString FileNameOf(const QString& title) {
-  constexpr int kLongest = 80;
-  static const QRegularExpression barred("[\\x00-\\x1f/\\\\:*?\"<>|]");
-  QString name = title;
-  name = name.replace(barred, " ").simplified().left(kLongest);
-  while (name.startsWith('.')) name.remove(0, 1);  // else the file would be a hidden one
-  return name.simplified();
-}
-
 FileDialogs::FileDialogs()
     : folder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
   if (!QFileInfo(folder_).isDir()) folder_ = QDir::homePath();

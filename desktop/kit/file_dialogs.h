@@ -8,9 +8,6 @@ namespace lignara {
 /// A filter such as "Text(*.txt)|*.txt|All(*.*)|*.*|" as Qt writes it: "Text (*.txt);;All (*)".
 QString QtFilter(const QString& filter);
 
-/// A title as the name of a file: without the signs that a file's name cannot have.
-QString FileNameOf(const QString& title);
-
 /// What a save dialog proposes.
 struct SaveProposal {
   QString caption;  ///< of the dialog

@@ -19,13 +19,6 @@
 namespace lignara {
 namespace {
 
-TEST(FileNameOf, KeepsATitleAndLeavesOutWhatAFileNameCannotHave) {
-  EXPECT_EQ(FileNameOf("Barn, north bay"), "Barn, north bay");
-  EXPECT_EQ(FileNameOf("12/24 span: \"A\"?"), "12 24 span A");
-  EXPECT_EQ(FileNameOf("..hidden"), "hidden");
-  EXPECT_EQ(FileNameOf(QString(200, 'x')).size(), 80);
-}
-
 TEST(QtFilter, WritesTheKindsAsTheDialogWantsThem) {
   EXPECT_EQ(QtFilter("Text(*.txt)|*.txt|All(*.*)|*.*|"), "Text (*.txt);;All (*)");
 }
