@@ -18,6 +18,8 @@ class FileSizeLimit {
     setrlimit(RLIMIT_FSIZE, &before_);
     std::signal(SIGXFSZ, signal_);
   }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
 
  private:
   void (*signal_)(int);

@@ -3,7 +3,6 @@
 #include "desktop/session/journal.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,12 +10,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "desktop/kit/text.h"
 #include "desktop/session/journal_keeper.h"
 #include "desktop/session/sessions.h"
 #include "tests/desktop/open_desktop.h"
+#include "tests/support/file_size_limit.h"
 
 namespace lignara {
 namespace {
@@ -121,32 +120,12 @@ TEST_F(JournalTest, OtherFilesOfTheFolderStay) {
   EXPECT_TRUE(QDir(Folder() + "/a.journal.new").exists());
 }
 
-/// No file can be written beyond so many bytes while this stands, as on a disk that is full.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, signal_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-  void (*signal_)(int);
-};
-
 TEST_F(JournalTest, OnAFullDiskItEndsAtTheLastWholeLineAndStaysWithItsProgram) {
   {
     Journal journal(Folder());
     journal.Append({"press \"KINGPOST\""});
     {
-      const FullDisk full(20);
+      const FileSizeLimit full(20);
       journal.Append({"window TR_INPUT"});
       EXPECT_FALSE(journal.IsWritten());
     }
@@ -164,7 +143,7 @@ TEST_F(JournalTest, AReplacementForWhichThereIsNoRoomLeavesTheLinesAsTheyWere) {
   Journal journal(Folder());
   journal.Append({"press \"KINGPOST\""});
   {
-    const FullDisk full(20);
+    const FileSizeLimit full(20);
     journal.Replace({"press \"FINK\"", "window TR_INPUT"});
   }
   EXPECT_FALSE(journal.IsWritten());
@@ -237,7 +216,7 @@ TEST_F(JournalTest, WhatTheOwnJournalCannotTakeOverStays) {
   JournalKeeper keeper(sessions, desktop.platform, Folder());
   desktop.Play({"answer yes"});
   {
-    const FullDisk full(5);
+    const FileSizeLimit full(5);
     keeper.OfferLeft();
   }
   EXPECT_EQ(desktop.session.TrussType, "KINGPOST");
