@@ -303,6 +303,21 @@ TEST_F(SessionsTest, ComingIntoAnEmptyFieldIsNothingToTakeBack) {
   EXPECT_EQ(program.Note("MLSP"), "Undone: coming into A(ft)") << "which it emptied";
 }
 
+TEST_F(SessionsTest, AnUndoThatWouldTakeMoreThanASecondIsRefused) {
+  program.Play({"press \"KINGPOST\"", "window TR_INPUT"});
+  // An action counts half a millisecond or more: 2002 before the last one are over a second.
+  for (int i = 0; i <= 1000; ++i) {
+    program.Play({"enter \"H (ft)\" 5", "enter \"Total Length (ft)\" 24"});
+  }
+  const std::size_t actions = program.sessions.record().actions().size();
+  ASSERT_GT(actions, 2002U);
+  program.sessions.Undo();
+  QApplication::processEvents();
+  EXPECT_EQ(program.Note("TR_INPUT"),
+            "No undo: to do all again but the last action takes more than a second");
+  EXPECT_EQ(program.sessions.record().actions().size(), actions) << "nothing is lost";
+}
+
 TEST_F(SessionsTest, NothingToTakeBackIsSaid) {
   program.Play({"menu \"Files\" \"Undo\""});
   EXPECT_EQ(program.Note("main"), "There is nothing to undo");
