@@ -16,29 +16,18 @@
 #include "desktop/session/play_progress.h"
 #include "desktop/session/play_report.h"
 #include "desktop/session/repeat_window.h"
-#include "desktop/session/script_line.h"
 #include "desktop/session/session_file.h"
-#include "desktop/session/user_place.h"
 
 namespace lignara {
-namespace {
-
-constexpr int kLongestUndo = 1'000'000;  // microseconds
-
-/// A line for the eye: without the quotes of its words, and no longer than a status line is.
-QString InWords(const QString& line) {
-  constexpr qsizetype kMost = 80;
-  QStringList texts;
-  for (const ScriptWord& word : SplitScriptLine(line)) texts << word.text;
-  if (texts.last() == kIdleKey) texts = QStringList("coming into") + texts.mid(1, texts.size() - 2);
-  const QString words = texts.join(' ').simplified();
-  return words.size() > kMost ? words.left(kMost) + "..." : words;
-}
-
-}  // namespace
-
 Sessions::Sessions(SessionState& session, DesktopPlatform& platform)
-    : session_(session), platform_(platform) {
+    : session_(session),
+      platform_(platform),
+      undo_(
+          record_, platform_,
+          [this](const QStringList& lines, const QString& name) {
+            return Replay(lines, name, nullptr);
+          },
+          [this](const QStringList& lines, const QString& name) { return PlayOn(lines, name); }) {
   platform_.SetListener(&record_);
   platform_.SetSessions(this);
   qApp->installEventFilter(this);
@@ -52,7 +41,7 @@ Sessions::~Sessions() {
 
 void Sessions::Appended(const QStringList& lines) {
   const bool onlyLooks = lines.size() == 1 && lines.first().startsWith("window ");
-  if (!playing_ && !onlyLooks) undone_.clear();
+  if (!playing_ && !onlyLooks) undo_.Forget();
   if (!replaying_) appended_(lines);
 }
 
@@ -115,7 +104,7 @@ void Sessions::OpenNow() {
 }
 
 bool Sessions::PlayAndTell(const QStringList& lines, const QString& name, const QString& title) {
-  undone_.clear();
+  undo_.Forget();
   session_.FactorsAtStart = StartFactorsIn(lines);
   std::unique_ptr<PlayProgress> bar;
   // Where a script stands in the user's place, nobody looks.
@@ -175,48 +164,19 @@ void Sessions::Repeat() {
   RepeatSession(platform_.FindWindow(window_name::kRepeat), StartLines(session_) + record_.Lines());
 }
 
-bool Sessions::CanUndo() const { return record_.LastDone() > 0; }
-
-void Sessions::UndoNow() {
-  const std::size_t last = record_.LastDone();
-  if (last == 0) return platform_.ShowNote("There is nothing to undo");
-  if (record_.CostOfFirst(last - 1) > kLongestUndo) {
-    platform_.ShowNote("No undo: to do all again but the last action takes more than a second");
-    return;
-  }
-  const UserPlace place = PlaceOfUser(platform_);
-  std::vector<QStringList> actions;
-  for (std::size_t i = 0; i < last; ++i) actions.push_back(record_.LinesOf(i));
-  const std::vector<qsizetype> lineCounts = record_.LineCounts();
-  const SessionPlay play = Replay(record_.LinesOfFirst(last - 1), "Undo", nullptr);
-  std::size_t done = last - 1;
-  if (!play.stop.isEmpty()) {
-    while (done > 0 && lineCounts[done - 1] >= play.stopLine) --done;
-  }
-  KeepForRedo({actions.begin() + static_cast<std::ptrdiff_t>(done), actions.end()});
-  LeadBack(place, platform_);
-  if (!play.stop.isEmpty()) return Tell(play, "Undo", "Undo");
-  platform_.ShowNote(FromQt("Undone: " + InWords(actions.back().last())));
+SessionPlay Sessions::PlayOn(const QStringList& lines, const QString& name) {
+  playing_ = true;
+  SessionPlay play = PlaySession(lines, name, platform_, [](int) { return true; });
+  playing_ = false;
+  return play;
 }
 
-void Sessions::KeepForRedo(const std::vector<QStringList>& actions) {
-  undone_.insert(undone_.end(), actions.rbegin(), actions.rend());
+void Sessions::UndoNow() {
+  if (const auto stopped = undo_.TakeBack()) Tell(*stopped, "Undo", "Undo");
 }
 
 void Sessions::RedoNow() {
-  if (undone_.empty()) return platform_.ShowNote("There is nothing to redo");
-  const QStringList lines = undone_.back();
-  const UserPlace place = PlaceOfUser(platform_);
-  const QStringList open = platform_.OpenWindows();
-  playing_ = true;
-  const SessionPlay play = PlaySession(lines, "Redo", platform_, [](int) { return true; });
-  playing_ = false;
-  // A window that comes up is where the user goes on.
-  if (platform_.OpenWindows() == open) LeadBack(place, platform_);
-  // What could not be done waits for another try: the later ones stand on it.
-  if (!play.stop.isEmpty()) return Tell(play, "Redo", "Redo");
-  undone_.pop_back();
-  platform_.ShowNote(FromQt("Redone: " + InWords(lines.last())));
+  if (const auto stopped = undo_.DoAgain()) Tell(*stopped, "Redo", "Redo");
 }
 
 }  // namespace lignara

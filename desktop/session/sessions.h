@@ -3,12 +3,12 @@
 #include <QObject>
 #include <QStringList>
 #include <functional>
-#include <vector>
 
 #include "app/session_state.h"
 #include "desktop/kit/session_commands.h"
 #include "desktop/session/session_player.h"
 #include "desktop/session/session_record.h"
+#include "desktop/session/undo_redo.h"
 
 namespace lignara {
 
@@ -26,14 +26,13 @@ class Sessions : public QObject, public SessionCommands {
   void Undo() override { Later(&Sessions::UndoNow); }
   void Redo() override { Later(&Sessions::RedoNow); }
   void Repeat() override;
-  bool CanUndo() const override;
+  bool CanUndo() const override { return undo_.CanTakeBack(); }
+  bool CanRedo() const override { return undo_.CanDoAgain(); }
   /// Leaves the keys of undo and redo to the session where a field has nothing to take back.
   bool eventFilter(QObject* watched, QEvent* event) override;
-  bool CanRedo() const override { return !undone_.empty(); }
 
   /// Plays lines in the program as it stands after its start, and tells of what is to be told under
-  /// a title. `name` is the file of the lines. False where
-  /// they were not played whole.
+  /// a title. `name` is the file of the lines. False where they were not played whole.
   bool PlayAndTell(const QStringList& lines, const QString& name, const QString& title);
 
   SessionRecord& record() { return record_; }
@@ -60,14 +59,13 @@ class Sessions : public QObject, public SessionCommands {
   /// The program as it stands after its start.
   void StartAgain();
   SessionPlay Replay(const QStringList& lines, const QString& name, PlayProgress* bar);
-  /// What an undo that stopped at a line has not done again comes back by redo.
-  void KeepForRedo(const std::vector<QStringList>& actions);
+  SessionPlay PlayOn(const QStringList& lines, const QString& name);
   void Appended(const QStringList& lines);
 
   SessionState& session_;
   DesktopPlatform& platform_;
   SessionRecord record_;
-  std::vector<QStringList> undone_;
+  UndoRedo undo_;
   QStringList saved_;  ///< the lines that a file holds
   int progressAfter_ = 500;
   bool playing_ = false;
