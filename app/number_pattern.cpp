@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "app/rounding.h"
-
 namespace lignara {
 namespace {
 
@@ -14,8 +12,6 @@ char DigitAt(const Decimal& d, int power) {
   const bool has = index >= 0 && index < static_cast<int>(d.digits.size());
   return has ? d.digits[static_cast<std::size_t>(index)] : '0';
 }
-
-bool IsZero(const Decimal& d) { return d.digits.find_first_not_of('0') == std::string::npos; }
 
 /// The parts of a pattern.
 struct Pattern {
@@ -75,7 +71,9 @@ std::string ExponentText(int exponent, const Pattern& p) {
   return p.exponentMark + ((exponent < 0 ? "-" : "+") + text);
 }
 
-std::string Format(Decimal d, std::string_view pattern) {
+}  // namespace
+
+std::string FormatDecimal(Decimal d, std::string_view pattern) {
   const Pattern p = ReadPattern(pattern);
   int exponent = 0;
   if (p.exponentDigits > 0) {
@@ -94,32 +92,15 @@ std::string Format(Decimal d, std::string_view pattern) {
   return d.negative && !IsZero(d) ? "-" + text : text;
 }
 
-constexpr int kDigits32 = 7;
-constexpr int kDigits64 = 15;
-
-std::string PlainDecimal(Decimal d, int significant) {
-  if (IsZero(d)) return "0";
-  while (d.digits.back() == '0') d.digits.pop_back();
-  const bool fixed = d.point > -4 && d.point <= significant;
-  const int decimals =
-      fixed ? static_cast<int>(d.digits.size()) - d.point : static_cast<int>(d.digits.size()) - 1;
-  std::string pattern = "0";
-  if (decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(decimals), '0');
-  if (!fixed) pattern += "E+00";
-  return Format(d, pattern);
-}
-
-}  // namespace
-
 std::string FormatNumber(double number, std::string_view pattern) {
-  return Format(ToDecimal(number, kDigits64), pattern);
+  return FormatDecimal(ToDecimal(number, kDigits64), pattern);
 }
 
 std::string FormatNumber(float number, std::string_view pattern) {
   const Decimal d = ToDecimal(static_cast<double>(number), kDigits32);
   // Cents of 123456.79 lie behind the seventh digit, but are in the number all the same.
   const bool all = DigitsShown(d, ReadPattern(pattern)) >= kDigits32;
-  return Format(all ? ShortestDecimal(number) : d, pattern);
+  return FormatDecimal(all ? ShortestDecimal(number) : d, pattern);
 }
 
 std::string FormatNumber(const Float32& number, std::string_view pattern) {
@@ -128,14 +109,6 @@ std::string FormatNumber(const Float32& number, std::string_view pattern) {
 
 std::string FormatNumber(const Float64& number, std::string_view pattern) {
   return FormatNumber(number.value(), pattern);
-}
-
-std::string PlainNumber(const Float32& number) {
-  return PlainDecimal(ToDecimal(static_cast<double>(number.value()), kDigits32), kDigits32);
-}
-
-std::string PlainNumber(const Float64& number) {
-  return PlainDecimal(ToDecimal(number.value(), kDigits64), kDigits64);
 }
 
 }  // namespace lignara

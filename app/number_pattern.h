@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/rounding.h"
 #include "app/stored_number.h"
 
 namespace lignara {
@@ -23,10 +24,7 @@ std::string FormatNumber(const Float64& number, std::string_view pattern);
 std::string FormatNumber(double number, std::string_view pattern);
 std::string FormatNumber(float number, std::string_view pattern);
 
-/// A 32-bit number as a user would type it into a field: up to 7 digits, nothing behind the last
-/// one that counts, an exponent only where the digits do not reach ("100", "0.5", "1.5E+09").
-std::string PlainNumber(const Float32& number);
-/// The same for a 64-bit number: up to 15 digits.
-std::string PlainNumber(const Float64& number);
+/// The same for a number that has been rounded to the digits that count.
+std::string FormatDecimal(Decimal decimal, std::string_view pattern);
 
 }  // namespace lignara

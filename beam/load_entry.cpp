@@ -1,9 +1,9 @@
 #include <optional>
 
 #include "app/fault.h"
-#include "app/field_number.h"
-#include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/number_that_fits.h"
+#include "app/plain_number.h"
 #include "beam/beam_window.h"
 #include "beam/load_picture.h"
 
@@ -15,7 +15,7 @@ namespace {
 std::optional<LoadInput> ReadLoad(const BeamWindow& window) {
   LoadInput input;
   for (const LoadValue& value : LoadKindOf(window.beam.selectedKind).values) {
-    const std::optional<Float32> number = FieldNumber(ReadNumber(window.Field(value.field)));
+    const std::optional<Float32> number = NumberThatFits(ReadNumber(window.Field(value.field)));
     if (!number) return std::nullopt;
     input[static_cast<std::size_t>(value.field)] = *number;
   }

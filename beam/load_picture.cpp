@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "app/number_pattern.h"
+#include "app/plain_number.h"
 #include "app/sketch_pen.h"
 #include "beam/label_rooms.h"
 #include "beam/load_lanes.h"

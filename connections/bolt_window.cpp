@@ -1,9 +1,9 @@
 #include "connections/bolt_window.h"
 
 #include "app/fault.h"
-#include "app/field_number.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/number_that_fits.h"
 #include "connections/bolt_shear.h"
 #include "connections/bolt_sketches.h"
 #include "connections/rod_table.h"
@@ -90,7 +90,7 @@ void ComputeTension(BoltWindow& window, Platform& platform) {
   const Number boltStress = ReadNumber(window.boltStress);
   const Number woodStress = ReadNumber(window.woodStress);
   // One that is too large has shown its box, and the results stay.
-  if (!FieldNumber(boltStress) || !FieldNumber(woodStress)) return;
+  if (!NumberThatFits(boltStress) || !NumberThatFits(woodStress)) return;
   if (const char* refusal = TensionRefusal(boltStress, woodStress)) {
     platform.ShowMessage({refusal});
     return;

@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "app/fault.h"
-#include "app/field_number.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/number_that_fits.h"
 #include "glulam/combination_files.h"
 #include "glulam/glulam_window.h"
 #include "glulam/load_durations.h"
@@ -24,7 +24,7 @@ constexpr const char* kWhole = "0";
 
 /// Shows a value in 32 bits; one that met a fault leaves what stood there.
 void ShowValue(std::string& shown, const Number& value, std::string_view pattern) {
-  const std::optional<Float32> stored = FieldNumber(value);
+  const std::optional<Float32> stored = NumberThatFits(value);
   if (stored) shown = FormatNumber(*stored, pattern);
 }
 
@@ -80,9 +80,8 @@ struct BendingZone {
   const char* tooLong;
 };
 constexpr BendingZone kBendingZones[] = {
-    {GlulamValue::FbxTensionZone, "You unbraced length is to large for bending in tension zone!"},
-    {GlulamValue::FbxCompressionZone,
-     "You unbraced length is to large for bending in compression zone!"},
+    {GlulamValue::FbxTensionZone, kTooLongForTensionZone},
+    {GlulamValue::FbxCompressionZone, kTooLongForCompressionZone},
 };
 
 /// Size and lateral stability do not add up: the lesser stress of the two stands. The size factor
@@ -95,7 +94,7 @@ void ApplyBendingLimits(GlulamWindow& window, const GlulamSection& section) {
     const StableStress stable = StableBending(section, ReadNumber(shown), e);
     if (stable.tooLong) window.useNote = zone.tooLong;
     ShowValue(shown, stable.stress, kWhole);
-    const std::optional<Float32> sized = FieldNumber(sizeFactor * ReadNumber(shown));
+    const std::optional<Float32> sized = NumberThatFits(sizeFactor * ReadNumber(shown));
     if (sized && *sized < stable.stress) ShowValue(shown, *sized, kWhole);
   }
 }
@@ -103,7 +102,7 @@ void ApplyBendingLimits(GlulamWindow& window, const GlulamSection& section) {
 void ApplyColumnLimit(GlulamWindow& window, const GlulamSection& section) {
   std::string& shown = window.Value(GlulamValue::Fc);
   const StableStress euler = ColumnStress(section, ReadNumber(window.Value(GlulamValue::Ea)));
-  if (euler.tooLong) window.useNote = "You L/D ratio is to high for axial loading";
+  if (euler.tooLong) window.useNote = kTooSlenderColumn;
   const bool keeps = !euler.tooLong && ReadNumber(shown) < euler.stress;
   if (!keeps) ShowValue(shown, euler.stress, kWhole);
 }
@@ -111,7 +110,7 @@ void ApplyColumnLimit(GlulamWindow& window, const GlulamSection& section) {
 void ApplyUserFactors(GlulamWindow& window) {
   for (std::size_t i = 0; i < kGlulamValues; ++i) {
     std::string& value = window.values[i];
-    const std::optional<Float32> factor = FieldNumber(ReadNumber(window.factors[i]));
+    const std::optional<Float32> factor = NumberThatFits(ReadNumber(window.factors[i]));
     if (factor) ShowValue(value, ReadNumber(value) * *factor, kTwoDecimals);
   }
 }

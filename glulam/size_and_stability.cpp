@@ -4,7 +4,7 @@
 #include <limits>
 #include <optional>
 
-#include "app/field_number.h"
+#include "app/number_that_fits.h"
 
 namespace lignara {
 namespace {
@@ -35,9 +35,9 @@ constexpr double kMostSlenderColumn = 50;
 
 /// The square of the slenderness of the beam.
 std::optional<Float32> BeamSlenderness2(const GlulamSection& section) {
-  const std::optional<Float32> effective = FieldNumber(kLengthFactor * section.feet * 12);
+  const std::optional<Float32> effective = NumberThatFits(kLengthFactor * section.feet * 12);
   if (!effective) return std::nullopt;
-  return FieldNumber(*effective * section.depth / Square(section.width));
+  return NumberThatFits(*effective * section.depth / Square(section.width));
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ Float32 SizeFactor(const GlulamSection& section) {
 
 StableStress StableBending(const GlulamSection& section, Number f, Number e) {
   const std::optional<Float32> slenderness2 = BeamSlenderness2(section);
-  const std::optional<Float32> limit2 = FieldNumber(3 * e / (5 * f));
+  const std::optional<Float32> limit2 = NumberThatFits(3 * e / (5 * f));
   // Without them nothing is known to be safe.
   if (!slenderness2 || !limit2) return {};
   const Number rb2 = *slenderness2;
@@ -63,7 +63,7 @@ StableStress StableBending(const GlulamSection& section, Number f, Number e) {
 }
 
 StableStress ColumnStress(const GlulamSection& section, Number e) {
-  const std::optional<Float32> slenderness = FieldNumber(section.Length() / section.Least());
+  const std::optional<Float32> slenderness = NumberThatFits(section.Length() / section.Least());
   if (!slenderness) return {};
   if (*slenderness > kMostSlenderColumn) return {0, true};
   return {0.3 * e / Square(section.Length() / section.depth)};

@@ -24,6 +24,13 @@ struct StableStress {
   bool tooLong = false;  ///< beyond the range of the rule; the stress is 0 then
 };
 
+/// What the window says of a member that is too long, as it always has.
+inline constexpr const char* kTooLongForTensionZone =
+    "You unbraced length is to large for bending in tension zone!";
+inline constexpr const char* kTooLongForCompressionZone =
+    "You unbraced length is to large for bending in compression zone!";
+inline constexpr const char* kTooSlenderColumn = "You L/D ratio is to high for axial loading";
+
 /// The size factor on bending stresses: the ninth root of 12 in. by the lesser side, with a
 /// correction for the slenderness; 1 up to a depth of 12 in.
 Float32 SizeFactor(const GlulamSection& section);

@@ -5,9 +5,10 @@
 #include "app/data_directory.h"
 #include "app/fault.h"
 #include "app/field_file.h"
-#include "app/field_number.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/number_that_fits.h"
+#include "app/plain_number.h"
 #include "app/replace_file.h"
 
 namespace lignara {
@@ -18,7 +19,7 @@ constexpr const char* kFactorFile = "USERADJ.CSV";
 /// The next factor; nothing where there is none that can be read.
 std::optional<Float32> ReadFactor(FieldFile& file) {
   const double number = file.ReadFilledValue();
-  return file.LastFieldRead() ? FieldNumber(number) : std::nullopt;
+  return file.LastFieldRead() ? NumberThatFits(number) : std::nullopt;
 }
 
 /// A factor as a line of its file: one leading blank where it is not negative.
@@ -36,7 +37,7 @@ FieldFile FactorFile(const SessionState& session, Platform& platform) {
 std::optional<std::string> FactorLines(const GlulamWindow& window) {
   std::string lines;
   for (const std::string& text : window.factors) {
-    const std::optional<Float32> factor = FieldNumber(ReadNumber(text));
+    const std::optional<Float32> factor = NumberThatFits(ReadNumber(text));
     if (!factor) return std::nullopt;
     lines += FactorLine(*factor);
   }

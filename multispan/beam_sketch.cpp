@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/number_pattern.h"
+#include "app/plain_number.h"
 
 namespace lignara {
 namespace {

@@ -1,6 +1,6 @@
 #include "app/fault.h"
-#include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/plain_number.h"
 #include "multispan/beam_sketch.h"
 #include "multispan/multi_span_window.h"
 

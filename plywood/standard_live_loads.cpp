@@ -1,5 +1,6 @@
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/plain_number.h"
 #include "plywood/panel_kinds.h"
 #include "plywood/ply_report.h"
 #include "plywood/stamp.h"

@@ -1,8 +1,8 @@
 #include "truss/distributed_loads.h"
 
 #include "app/fault.h"
-#include "app/field_number.h"
 #include "app/number_reader.h"
+#include "app/number_that_fits.h"
 #include "truss/truss_types.h"
 #include "truss/truss_window.h"
 
@@ -15,7 +15,7 @@ void Apply(TrussWindow& window, SessionState& session, Platform& platform, const
     platform.ShowMessage({"BN=0,ERROR"});
     return;
   }
-  const std::optional<Float32> line = FieldNumber(w);
+  const std::optional<Float32> line = NumberThatFits(w);
   if (!line) return;
   session.LineLoad = *line;
   LineLoadSpread spread{window.model, session, *line, HalfSpans(session)};

@@ -2,10 +2,11 @@
 #include <optional>
 
 #include "app/fault.h"
-#include "app/field_number.h"
 #include "app/list_rows.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "app/number_that_fits.h"
+#include "app/plain_number.h"
 #include "truss/canvas.h"
 #include "truss/top_nodes.h"
 #include "truss/truss_types.h"
@@ -65,7 +66,7 @@ void SelectNode(TrussWindow& window, const SessionState& session, Platform& plat
 
 void EnterNodeLoad(TrussWindow& window, const SessionState& session, Platform& platform) {
   FaultScope faults(platform);
-  const std::optional<Float32> load = FieldNumber(ReadNumber(window.nodeLoad));
+  const std::optional<Float32> load = NumberThatFits(ReadNumber(window.nodeLoad));
   const std::optional<TopNode> target = EnterTarget(window, session);
   if (load && target) NodeLoad(window.model, *target) = *load;
   SHOW_NODE_LOADS(window, session);
@@ -80,7 +81,7 @@ void EnterNodeLoadAndGoOn(TrussWindow& window, const SessionState& session, Plat
 
 void EnterAllNodeLoads(TrussWindow& window, const SessionState& session, Platform& platform) {
   FaultScope faults(platform);
-  const std::optional<Float32> load = FieldNumber(ReadNumber(window.nodeLoad));
+  const std::optional<Float32> load = NumberThatFits(ReadNumber(window.nodeLoad));
   if (load) {
     for (const TopNode& node : TopNodesInRows(AllRange(window, session))) {
       NodeLoad(window.model, node) = *load;

@@ -8,6 +8,6 @@ namespace lignara {
 
 /// A number of the user's as the model keeps it; nothing where it is too large for that, which is
 /// shown as a fault, so that no load changes on it.
-std::optional<Float32> FieldNumber(const Number& number);
+std::optional<Float32> NumberThatFits(const Number& number);
 
 }  // namespace lignara

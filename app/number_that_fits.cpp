@@ -1,8 +1,8 @@
-#include "app/field_number.h"
+#include "app/number_that_fits.h"
 
 namespace lignara {
 
-std::optional<Float32> FieldNumber(const Number& number) {
+std::optional<Float32> NumberThatFits(const Number& number) {
   Float32 stored;
   stored = number;
   // What does not fit leaves the 0, and only numbers above 1 do not fit.
