@@ -13,6 +13,7 @@
 #include "desktop/session/script_player.h"
 #include "desktop/session/session_file.h"
 #include "desktop/session/sessions.h"
+#include "desktop/session/variant_values.h"
 #include "script/exit_status.h"
 #include "script/script_platform.h"
 #include "script/variants_out_of_sight.h"

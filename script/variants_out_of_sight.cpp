@@ -8,6 +8,7 @@
 #include "app/launcher.h"
 #include "app/window_names.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/csv_line.h"
 #include "desktop/session/variant_pipe.h"
 #include "script/exit_status.h"
 #include "script/script_platform.h"

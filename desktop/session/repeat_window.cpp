@@ -23,7 +23,7 @@
 #include "desktop/kit/row_copy.h"
 #include "desktop/kit/table.h"
 #include "desktop/kit/text.h"
-#include "desktop/session/repeat.h"
+#include "desktop/session/repeat_commands.h"
 #include "desktop/session/variant_run.h"
 #include "desktop/windows.h"
 

@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "desktop/session/csv_line.h"
 #include "desktop/session/script_line.h"
 
 namespace lignara {

@@ -11,11 +11,6 @@ namespace lignara {
 
 class DesktopPlatform;
 
-/// The values of a list such as "20, 24, 30" or of a range such as "20..40 step 2" (without a step:
-/// 1), in as many decimals as the range is given with. Empty, with the reason in `refusal`, where
-/// it is neither, or has more than 10,000.
-QStringList ParseValues(const QString& text, QString& refusal);
-
 /// A session that is played for several values of one of its fields.
 struct Variants {
   QStringList lines;  ///< of the session, with `read` and `rows` lines for what is to be told
@@ -56,8 +51,5 @@ QStringList VariantHeads(const Variants& variants);
 /// Plays a variant in the program as it stands after its start.
 VariantOutcome PlayVariant(const Variants& variants, const QString& value, SessionState& session,
                            DesktopPlatform& platform);
-
-/// A row of a table as a line of a CSV file.
-QString CsvLine(const QStringList& cells);
 
 }  // namespace lignara

@@ -1,4 +1,4 @@
-#include "desktop/session/repeat.h"
+#include "desktop/session/repeat_commands.h"
 
 #include <algorithm>
 #include <utility>
@@ -6,6 +6,7 @@
 #include "app/replace_file.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/variant_values.h"
 
 namespace lignara {
 namespace {
@@ -69,12 +70,6 @@ void ShowReadings(RepeatWindow& window, const std::vector<Reading>& before,
   }
 }
 
-QString ListOf(const QStringList& values) {
-  constexpr qsizetype kMostShown = 6;
-  if (values.size() <= kMostShown) return values.join(", ");
-  return values.mid(0, 3).join(", ") + " ... " + values.last();
-}
-
 std::string Counted(const RepeatWindow& window) {
   return FromQt(
       QString("%1 of %2 values played").arg(window.outcomes.size()).arg(window.run.values.size()));
@@ -93,12 +88,7 @@ void TakeSession(RepeatWindow& window, const QStringList& lines, const DesktopPl
 void ChooseEntered(RepeatWindow& window, int row) { window.enteredRows.row = row; }
 
 void EditValues(RepeatWindow& window) {
-  QString refusal;
-  const QStringList values = ParseValues(ToQt(window.values), refusal);
-  const QString count = values.size() == 1 ? "1 value" : QString("%1 values").arg(values.size());
-  const bool none = window.values.find_first_not_of(' ') == std::string::npos;
-  window.valuesNote =
-      none ? "" : FromQt(values.isEmpty() ? refusal : count + ": " + ListOf(values));
+  window.valuesNote = FromQt(ValuesInWords(ToQt(window.values)));
 }
 
 void SetRead(RepeatWindow& window, int row, bool read) {
