@@ -17,8 +17,10 @@
 #include "desktop/kit/statics_panel.h"
 #include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
+#include "desktop/truss/distributed_load_panels.h"
 #include "desktop/truss/drawing_and_zoom.h"
-#include "desktop/truss/truss_report_panels.h"
+#include "desktop/truss/headings_and_fonts.h"
+#include "desktop/truss/result_lists.h"
 #include "desktop/windows.h"
 #include "truss/report.h"
 #include "truss/window_marks.h"
@@ -60,17 +62,8 @@ class TrussForm : public ToolWindow {
   QLayout* NodeLoads();
   QLayout* NodeField();
   QLayout* Forces();
-  QGroupBox* LineLoadPanel();
-  QGroupBox* AreaLoadPanel();
-  QGroupBox* LengthsPanel();
-  QGroupBox* DeflectionsPanel();
-  QGroupBox* StressesPanel();
-  QListWidget* FillListPanel(QGroupBox* panel, const std::vector<std::string>* rows, int width,
-                             const QString& closing, Binding::Command close);
   QLayout* MemberHit();
   QPushButton* Button(const QString& caption, Binding::Command command);
-  QLayout* ButtonPair(QGroupBox* panel, const QString& first, Binding::Command command,
-                      Binding::Command cancel);
 
   TrussWindow record_;
   QListWidget* nodes_ = nullptr;
@@ -163,58 +156,11 @@ QWidget* TrussForm::ResultArea() {
 
 QLayout* TrussForm::ResultPanels() {
   auto* row = new QHBoxLayout;
-  row->addWidget(LengthsPanel(), 2);
-  row->addWidget(DeflectionsPanel(), 2);
-  row->addWidget(StressesPanel(), 5);
+  row->addWidget(MakeLengthsPanel(record_, binding()), 2);
+  row->addWidget(MakeDeflectionsPanel(record_, binding()), 2);
+  row->addWidget(MakeStressesPanel(record_, binding()), 5);
   row->addWidget(MakeStaticsPanel(Statics(), binding(), session(), platform()));
   return row;
-}
-
-QGroupBox* TrussForm::LengthsPanel() {
-  QGroupBox* panel = MakePanel("Member Lengths (ft)");
-  binding().Shown(panel, &record_.lengthsOpen, [this, panel] {
-    FillListPanel(panel, &record_.lengthRows, 150, "Cancel",
-                  [this] { CloseMemberLengths(record_); });
-  });
-  return panel;
-}
-
-QGroupBox* TrussForm::DeflectionsPanel() {
-  QGroupBox* panel = MakePanel("Deflections");
-  binding().Shown(panel, &record_.deflectionsOpen, [this, panel] {
-    QListWidget* list = FillListPanel(panel, &record_.deflectionRows, 150, "Cancel",
-                                      [this] { CloseDeflections(record_); });
-    binding().WhyEmpty(list, [this] { return record_.whyNoDeflections; });
-    binding().OutOfDate(list, [this] { return AreDeflectionsOlder(record_); });
-  });
-  return panel;
-}
-
-QGroupBox* TrussForm::StressesPanel() {
-  QGroupBox* panel = MakePanel("Actual and Allowable Axial Stresses");
-  binding().Shown(panel, &record_.stressOpen, [this, panel] {
-    QListWidget* list =
-        FillListPanel(panel, &record_.stressRows, 300, "OK", [this] { CloseStresses(record_); });
-    binding().Notes(list, &record_.stressNotes);
-    binding().WhyEmpty(list, [this] { return record_.whyNoStresses; });
-    binding().OutOfDate(list, [this] { return AreStressesOlder(record_); });
-  });
-  return panel;
-}
-
-/// A list that is called as its panel, and below it the button that closes the panel.
-QListWidget* TrussForm::FillListPanel(QGroupBox* panel, const std::vector<std::string>* rows,
-                                      int width, const QString& closing, Binding::Command close) {
-  auto* column = new QVBoxLayout(panel);
-  QListWidget* list = MakeList(panel->title(), 9);
-  list->setMinimumWidth(InLetters(width));
-  list->setMaximumHeight(240);
-  binding().List(list, rows);
-  column->addWidget(list);
-  QPushButton* button = Button(closing, std::move(close));
-  column->addWidget(button, 0, Qt::AlignRight);
-  SetEscapeButton(panel, button);
-  return list;
 }
 
 /// Commands, panels that are open, loads and results. It scrolls by itself, so that the drawing
@@ -234,8 +180,8 @@ QWidget* TrussForm::SideColumn() {
 
 QLayout* TrussForm::OpenedPanels() {
   auto* rows = new QVBoxLayout;
-  rows->addWidget(LineLoadPanel());
-  rows->addWidget(AreaLoadPanel());
+  rows->addWidget(MakeLineLoadPanel(record_, binding(), session(), platform()));
+  rows->addWidget(MakeAreaLoadPanel(record_, binding(), session(), platform()));
   rows->addWidget(MakeHeadingsPanel(record_, binding(), session()));
   rows->addWidget(MakeFontsPanel(record_, binding(), session()));
   return rows;
@@ -339,46 +285,6 @@ QLayout* TrussForm::MemberHit() {
   grid->addWidget(sense, grid->rowCount() - 1, 2);
   rows->addLayout(grid);
   return rows;
-}
-
-QLayout* TrussForm::ButtonPair(QGroupBox* panel, const QString& first, Binding::Command command,
-                               Binding::Command cancel) {
-  auto* row = new QHBoxLayout;
-  QPushButton* accept = Button(first, std::move(command));
-  QPushButton* leave = Button("Cancel", std::move(cancel));
-  row->addStretch();
-  row->addWidget(accept);
-  row->addWidget(leave);
-  SetReturnButton(panel, accept);
-  SetEscapeButton(panel, leave);
-  return row;
-}
-
-QGroupBox* TrussForm::LineLoadPanel() {
-  QGroupBox* panel = MakePanel("Uniform Load (Line Load)");
-  binding().Shown(panel, &record_.lineLoadOpen, [this, panel] {
-    auto* grid = new QGridLayout(panel);
-    binding().Field(AddField(grid, "Load (lb / ft)"), &record_.lineLoad);
-    grid->addLayout(ButtonPair(
-                        panel, "Apply", [this] { ApplyLineLoad(record_, session(), platform()); },
-                        [this] { CancelDistributedLoad(record_); }),
-                    grid->rowCount(), 0, 1, 2);
-  });
-  return panel;
-}
-
-QGroupBox* TrussForm::AreaLoadPanel() {
-  QGroupBox* panel = MakePanel("Area Load ");
-  binding().Shown(panel, &record_.areaLoadOpen, [this, panel] {
-    auto* grid = new QGridLayout(panel);
-    binding().Field(AddField(grid, "Truss Spacing (ft)"), &record_.trussSpacing);
-    binding().Field(AddField(grid, "Load (lb/sf)"), &record_.areaLoad);
-    grid->addLayout(ButtonPair(
-                        panel, "Apply", [this] { ApplyAreaLoad(record_, session(), platform()); },
-                        [this] { CancelDistributedLoad(record_); }),
-                    grid->rowCount(), 0, 1, 2);
-  });
-  return panel;
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "desktop/truss/truss_report_panels.h"
+#include "desktop/truss/headings_and_fonts.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
