@@ -39,5 +39,19 @@ INSTANTIATE_TEST_SUITE_P(
                            ""},
                     Values{"20..30 step 5, 40", ""}, Values{"0..1 step 0.00001", ""}));
 
+TEST(ValuesInWords, TellsHowManyAndWhich) {
+  EXPECT_EQ(FromQt(ValuesInWords("30")), "1 value: 30");
+  EXPECT_EQ(FromQt(ValuesInWords("1..6")), "6 values: 1, 2, 3, 4, 5, 6");
+  EXPECT_EQ(FromQt(ValuesInWords("1..7")), "7 values: 1, 2, 3 ... 7");
+}
+
+TEST(ValuesInWords, TellsWhyThereAreNone) {
+  EXPECT_EQ(FromQt(ValuesInWords(" ")), "") << "nothing was entered yet";
+  EXPECT_EQ(FromQt(ValuesInWords(",")), "there are no values");
+  EXPECT_EQ(FromQt(ValuesInWords("0..1e9")), "a range is written 20..40 step 2");
+  EXPECT_EQ(FromQt(ValuesInWords("2..1")),
+            "the range has no values: its step does not lead to its end");
+}
+
 }  // namespace
 }  // namespace lignara
