@@ -1,8 +1,60 @@
 #include "truss/member_signs.h"
 
+#include <utility>
+
 #include "truss/truss_types.h"
 
 namespace lignara {
+namespace {
+
+constexpr int kCompression = -1;
+constexpr int kTension = 1;
+
+SignRule Sign(int sign, Family left, Family right, int first = 1, Upper last = Upper::Half) {
+  return {{{left, right}, first, last}, sign};
+}
+
+Signs WithChords(Signs signs) {
+  signs.push_back(Sign(kCompression, Family::TL, Family::TR));
+  signs.push_back(Sign(kTension, Family::CL, Family::CR));
+  return signs;
+}
+
+SignRule CentreInCompression() { return {CentreVertical(), kCompression}; }
+
+}  // namespace
+
+Signs Pratt1Signs() {
+  return WithChords(
+      {Sign(kCompression, Family::VL, Family::VR), Sign(kTension, Family::DL, Family::DR, 2)});
+}
+
+Signs EnglishSigns() {
+  return WithChords({Sign(kTension, Family::VL, Family::VR),
+                     Sign(kCompression, Family::DL, Family::DR, 2), CentreInCompression()});
+}
+
+Signs KingPostSigns() {
+  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::One),
+          Sign(kTension, Family::CL, Family::CR, 1, Upper::One), CentreInCompression()};
+}
+
+Signs ScissorsSigns() {
+  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::Two),
+          Sign(kTension, Family::CL, Family::CR, 1, Upper::One),
+          Sign(kCompression, Family::VL, Family::VR, 1, Upper::One), CentreInCompression()};
+}
+
+Signs Pratt2Signs() {
+  return WithChords({Sign(kCompression, Family::VL, Family::VR),
+                     Sign(kTension, Family::DL, Family::DR), CentreInCompression()});
+}
+
+Signs HoweSigns() {
+  return WithChords({Sign(kCompression, Family::VL, Family::VR, 1, Upper::One),
+                     Sign(kTension, Family::VL, Family::VR, 2),
+                     Sign(kCompression, Family::DL, Family::DR), CentreInCompression()});
+}
 
 void MEMBER_SIGNS(TrussJob& job) {
   const int n = job.HalfSpans();

@@ -65,6 +65,8 @@ std::string StressLabel(const Member& member) {
   return plain ? RowLabel(member) : "(" + MemberLabel(member) + ")";
 }
 
+MemberRange CentreVertical() { return {{Family::CV}, 1, Upper::One}; }
+
 int LastElement(Upper upper, int halfSpans) {
   switch (upper) {
     case Upper::One:

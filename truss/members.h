@@ -61,6 +61,9 @@ struct MemberRange {
   bool plainLabel = false;
 };
 
+/// The vertical at midspan alone.
+MemberRange CentreVertical();
+
 /// The last element of a range. `halfSpans` is the number of panels in a half.
 int LastElement(Upper upper, int halfSpans);
 

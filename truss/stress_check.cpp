@@ -59,6 +59,12 @@ MemberStress CheckMember(TrussJob& job, const Member& member, std::vector<std::s
 
 }  // namespace
 
+std::vector<StressWording> SpacedTop() { return {{Family::TL, "Actual Stress  = ", " psi"}}; }
+
+std::vector<StressWording> KingPostWordings() {
+  return {{Family::TL, "Actual Stress =  ", " psi"}, {Family::CR, "Actual Stress = ", " psi)"}};
+}
+
 void TRUSS_ALL_COMP(const Float32& length, const Float32& E, const Float32& B, const Float32& D,
                     Float32& result) {
   result = 0;

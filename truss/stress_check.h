@@ -7,6 +7,18 @@
 
 namespace lignara {
 
+/// The words around a member's actual stress.
+struct StressWording {
+  Family family = Family::TL;
+  std::string before = "Actual Stress = ";
+  std::string after = " psi";
+};
+
+// The lines of a type that are worded a little differently; whoever compares lists by machine
+// counts on that.
+std::vector<StressWording> SpacedTop();
+std::vector<StressWording> KingPostWordings();
+
 /// Euler value of a column, psi: 0.3 E / (l / d)^2, d being the smaller side. `length` in ft, `E`
 /// in psi, `B` and `D` in inches. 0 where the length or a side is not above 0: a member that is not
 /// there has no Euler value.

@@ -5,126 +5,13 @@
 #include "truss/axial_loads.h"
 #include "truss/deflection.h"
 #include "truss/geometry_drawn.h"
+#include "truss/listed_and_checked_members.h"
 #include "truss/member_layout_rules.h"
+#include "truss/member_signs.h"
+#include "truss/stress_check.h"
 
 namespace lignara {
 namespace {
-
-using Ranges = std::vector<MemberRange>;
-
-MemberRange Each(Family family, int first, Upper last) { return {{family}, first, last}; }
-
-/// Members named one by one: element 1 of each family.
-MemberRange Single(std::vector<Family> families, Upper last = Upper::One) {
-  return {std::move(families), 1, last, true};
-}
-
-MemberRange CentreVertical() { return {{Family::CV}, 1, Upper::One}; }
-
-Ranges Joined(Ranges ranges, const Ranges& more) {
-  ranges.insert(ranges.end(), more.begin(), more.end());
-  return ranges;
-}
-
-Ranges Chords() {
-  return {Each(Family::TL, 1, Upper::Half), Each(Family::TR, 1, Upper::Half),
-          Each(Family::CL, 1, Upper::Half), Each(Family::CR, 1, Upper::Half)};
-}
-
-Ranges ChordsAndDiagonals(int firstDiagonal) {
-  return Joined(Chords(), {Each(Family::DL, firstDiagonal, Upper::Half),
-                           Each(Family::DR, firstDiagonal, Upper::Half)});
-}
-
-Ranges Verticals(Upper last) { return {Each(Family::VL, 1, last), Each(Family::VR, 1, last)}; }
-
-Ranges KingPostMembers() {
-  return {Single({Family::TL, Family::TR, Family::CL, Family::CR}), CentreVertical()};
-}
-
-Ranges ScissorsMembers() {
-  return {Single({Family::TL, Family::TR}, Upper::Two),
-          Single({Family::VL, Family::VR, Family::CL, Family::CR}), CentreVertical()};
-}
-
-Ranges Pratt1AxialRows() {
-  return Joined(Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)), {CentreVertical()});
-}
-
-Ranges EnglishAxialRows() {
-  const MemberRange byTurns = {{Family::VL, Family::VR}, 1, Upper::BeforeHalf};
-  return Joined(ChordsAndDiagonals(2), {byTurns, CentreVertical()});
-}
-
-Ranges FlatAxialRows() {
-  return Joined(Joined(ChordsAndDiagonals(1), Verticals(Upper::Half)), {CentreVertical()});
-}
-
-Ranges WarrenRows(int firstDiagonal) {
-  return Joined(ChordsAndDiagonals(firstDiagonal), {Single({Family::VL, Family::VR})});
-}
-
-Ranges Pratt1Checked() { return Joined(ChordsAndDiagonals(2), Verticals(Upper::BeforeHalf)); }
-
-/// The end panel's diagonal and the vertical next to midspan are left out of the check.
-Ranges FlatChecked() { return Joined(Pratt1Checked(), {CentreVertical()}); }
-
-Ranges EnglishChecked() { return FlatAxialRows(); }
-
-using Signs = std::vector<SignRule>;
-constexpr int kCompression = -1;
-constexpr int kTension = 1;
-
-SignRule Sign(int sign, Family left, Family right, int first = 1, Upper last = Upper::Half) {
-  return {{{left, right}, first, last}, sign};
-}
-
-Signs WithChords(Signs signs) {
-  signs.push_back(Sign(kCompression, Family::TL, Family::TR));
-  signs.push_back(Sign(kTension, Family::CL, Family::CR));
-  return signs;
-}
-
-SignRule CentreInCompression() { return {CentreVertical(), kCompression}; }
-
-Signs Pratt1Signs() {
-  return WithChords(
-      {Sign(kCompression, Family::VL, Family::VR), Sign(kTension, Family::DL, Family::DR, 2)});
-}
-
-Signs EnglishSigns() {
-  return WithChords({Sign(kTension, Family::VL, Family::VR),
-                     Sign(kCompression, Family::DL, Family::DR, 2), CentreInCompression()});
-}
-
-Signs KingPostSigns() {
-  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::One),
-          Sign(kTension, Family::CL, Family::CR, 1, Upper::One), CentreInCompression()};
-}
-
-Signs ScissorsSigns() {
-  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::Two),
-          Sign(kTension, Family::CL, Family::CR, 1, Upper::One),
-          Sign(kCompression, Family::VL, Family::VR, 1, Upper::One), CentreInCompression()};
-}
-
-Signs Pratt2Signs() {
-  return WithChords({Sign(kCompression, Family::VL, Family::VR),
-                     Sign(kTension, Family::DL, Family::DR), CentreInCompression()});
-}
-
-Signs HoweSigns() {
-  return WithChords({Sign(kCompression, Family::VL, Family::VR, 1, Upper::One),
-                     Sign(kTension, Family::VL, Family::VR, 2),
-                     Sign(kCompression, Family::DL, Family::DR), CentreInCompression()});
-}
-
-/// A few lines are worded a little differently; whoever compares lists by machine counts on that.
-std::vector<StressWording> SpacedTop() { return {{Family::TL, "Actual Stress  = ", " psi"}}; }
-
-std::vector<StressWording> KingPostWordings() {
-  return {{Family::TL, "Actual Stress =  ", " psi"}, {Family::CR, "Actual Stress = ", " psi)"}};
-}
 
 std::vector<TrussTypeInfo> MakeTypes() {
   return {

@@ -6,7 +6,9 @@
 
 #include "truss/distributed_loads.h"
 #include "truss/member_layout.h"
+#include "truss/member_signs.h"
 #include "truss/members.h"
+#include "truss/stress_check.h"
 #include "truss/top_nodes.h"
 
 namespace lignara {
@@ -34,19 +36,6 @@ using DeflectionStep = void (*)(TrussJob& job, std::vector<std::string>& rows);
 /// Where "Enter" puts a load while the blank row of the node list, or none, is chosen: the element
 /// before the first node (a fault where there is none), nowhere, or the peak.
 enum class BlankRowLoad { ElementBefore, Nowhere, Peak };
-
-/// Members of one sign: -1 compression, 1 tension.
-struct SignRule {
-  MemberRange members;
-  int sign;
-};
-
-/// The words around a member's actual stress.
-struct StressWording {
-  Family family = Family::TL;
-  std::string before = "Actual Stress = ";
-  std::string after = " psi";
-};
 
 /// All in which one truss type differs from the others.
 struct TrussTypeInfo {
