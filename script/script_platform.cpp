@@ -1,5 +1,6 @@
 #include "script/script_platform.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QLayout>
 
@@ -55,6 +56,10 @@ void ScriptPlatform::Place(ToolWindow* window) {
   window->setProperty(kUnseen, true);
   window->setUpdatesEnabled(false);
   for (QLayout* layout : window->findChildren<QLayout*>()) layout->setEnabled(false);
+  // No finger moves what stands on no screen, and the look-out for it has a part in every event.
+  for (QAbstractScrollArea* area : window->findChildren<QAbstractScrollArea*>()) {
+    area->viewport()->ungrabGesture(Qt::PanGesture);
+  }
 }
 
 void ScriptPlatform::LetBeSeen(ToolWindow* window) {
