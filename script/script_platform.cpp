@@ -5,6 +5,7 @@
 #include <QLayout>
 
 #include "app/report.h"
+#include "desktop/kit/row_delegate.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 
@@ -74,6 +75,7 @@ void ScriptPlatform::LetBeSeen(ToolWindow* window) {
   // They have passed over the sizes that their widgets got meanwhile.
   for (QLayout* layout : layouts) layout->activate();
   window->setUpdatesEnabled(true);
+  MeasureLists(window);
   Settle();
 }
 

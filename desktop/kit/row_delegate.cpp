@@ -1,5 +1,6 @@
 #include "desktop/kit/row_delegate.h"
 
+#include <QListView>
 #include <algorithm>
 
 namespace lignara {
@@ -36,9 +37,14 @@ int WidestText(const QAbstractItemModel* rows, const QFontMetrics& letters) {
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QSize one = QStyledItemDelegate::sizeHint(option, index);
+  if (option.widget != nullptr && !option.widget->updatesEnabled()) return one;
   const int own = option.fontMetrics.horizontalAdvance(index.data().toString());
   const int widest = WidestText(index.model(), option.fontMetrics);
   return {one.width() + std::max(0, widest - own), one.height()};
+}
+
+void MeasureLists(const QWidget* window) {
+  for (QListView* list : window->findChildren<QListView*>()) list->doItemsLayout();
 }
 
 }  // namespace lignara

@@ -4,6 +4,7 @@
 #include <QEvent>
 
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/row_delegate.h"
 #include "desktop/kit/tool_window.h"
 
 namespace lignara {
@@ -15,7 +16,9 @@ StillWindows::StillWindows(const DesktopPlatform& platform) {
 
 StillWindows::~StillWindows() {
   for (const QPointer<ToolWindow>& window : held_) {
-    if (window) window->setUpdatesEnabled(true);
+    if (!window) continue;
+    window->setUpdatesEnabled(true);
+    MeasureLists(window);
   }
 }
 

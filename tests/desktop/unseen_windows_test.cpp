@@ -3,7 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QListWidget>
+#include <QScrollBar>
+
 #include "desktop/kit/text.h"
+#include "desktop/session/still_windows.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {
@@ -43,6 +48,21 @@ void ExpectSamePlaces(Lines lines, const char* name) {
   EXPECT_EQ(Places(unseen.Window(name)), Places(seen.Window(name)));
 }
 
+const Lines kWideRow = {"select \"Top Node Loads (lbs)\" 2",
+                        "enter \"Top Node Loads (lbs)\" 123456789", "press \"Enter\""};
+
+/// How far the list of loads can be scrolled sideways where it has no room at all.
+int WidthOfLoads(ToolWindow* window) {
+  for (QListWidget* list : window->findChildren<QListWidget*>()) {
+    if (list->accessibleName() != "Top Node Loads (lbs)") continue;
+    QApplication::processEvents();
+    list->setFixedWidth(2 * list->frameWidth());
+    QApplication::processEvents();
+    return list->horizontalScrollBar()->maximum();
+  }
+  return -1;
+}
+
 TEST(UnseenWindows, StandAsOthersOnceTheyAreLookedAt) {
   ExpectSamePlaces(kTruss, "TRUSS");
   ExpectSamePlaces({"press \"HOWE\""}, "TR_INPUT");
@@ -73,6 +93,32 @@ TEST(UnseenWindows, StandStillWhenTheyAreLookedAtAgain) {
   const auto places = Places(truss);
   desktop.Play({"windows", "windows", "windows"});
   EXPECT_EQ(Places(truss), places);
+}
+
+TEST(UnseenWindows, ScrollTheirListsAsFarAsOthersOnceTheyAreLookedAt) {
+  OpenDesktop seen, unseen;
+  unseen.platform.PaintNothing();
+  for (OpenDesktop* desktop : {&seen, &unseen}) {
+    desktop->Play(kTruss);
+    desktop->Play(kWideRow);
+  }
+  unseen.platform.LetBeSeen(unseen.Window("TRUSS"));
+  const int width = WidthOfLoads(seen.Window("TRUSS"));
+  EXPECT_GT(width, seen.Window("TRUSS")->fontMetrics().horizontalAdvance("123456789"));
+  EXPECT_EQ(WidthOfLoads(unseen.Window("TRUSS")), width);
+}
+
+/// Nor is anything painted while a session plays.
+TEST(UnseenWindows, ScrollTheirListsAsFarAsOthersAfterAPlay) {
+  OpenDesktop seen, played;
+  {
+    const StillWindows still(played.platform);
+    played.Play(kTruss);
+    played.Play(kWideRow);
+  }
+  seen.Play(kTruss);
+  seen.Play(kWideRow);
+  EXPECT_EQ(WidthOfLoads(played.Window("TRUSS")), WidthOfLoads(seen.Window("TRUSS")));
 }
 
 }  // namespace
