@@ -57,8 +57,7 @@ QList<QKeySequence> KeysTaken(const QMainWindow* window) {
   return taken;
 }
 
-void SetMenuKeys(QMainWindow* window) {
-  QList<QKeySequence> taken = KeysTaken(window);
+void SetMenuKeys(QMainWindow* window, QList<QKeySequence>& taken) {
   for (QAction* action : window->findChildren<QAction*>()) {
     if (action->menu() != nullptr) continue;  // a menu in a menu has the captions of its own items
     const QKeySequence key = KeyOf(kMenuKeys, PlainCaption(action->text()));
@@ -68,16 +67,7 @@ void SetMenuKeys(QMainWindow* window) {
   }
 }
 
-void SetCloseKey(QMainWindow* window) {
-  const QKeySequence close(Qt::CTRL | Qt::Key_W);
-  if (KeysTaken(window).contains(close)) return;
-  QObject::connect(new QShortcut(close, window), &QShortcut::activated, window, &QWidget::close);
-}
-
-}  // namespace
-
-void SetButtonKeys(QMainWindow* window, const QWidget* area) {
-  const QList<QKeySequence> taken = KeysTaken(window);
+void SetFreeButtonKeys(const QWidget* area, const QList<QKeySequence>& taken) {
   for (QPushButton* button : area->findChildren<QPushButton*>()) {
     const QString caption = PlainCaption(button->text());
     const QKeySequence key = KeyOf(kButtonKeys, caption);
@@ -89,10 +79,23 @@ void SetButtonKeys(QMainWindow* window, const QWidget* area) {
   }
 }
 
+void SetCloseKey(QMainWindow* window, const QList<QKeySequence>& taken) {
+  const QKeySequence close(Qt::CTRL | Qt::Key_W);
+  if (taken.contains(close)) return;
+  QObject::connect(new QShortcut(close, window), &QShortcut::activated, window, &QWidget::close);
+}
+
+}  // namespace
+
+void SetButtonKeys(const QMainWindow* window, const QWidget* area) {
+  SetFreeButtonKeys(area, KeysTaken(window));
+}
+
 void SetStandardKeys(QMainWindow* window) {
-  SetMenuKeys(window);
-  SetButtonKeys(window, window);
-  SetCloseKey(window);
+  QList<QKeySequence> taken = KeysTaken(window);
+  SetMenuKeys(window, taken);
+  SetFreeButtonKeys(window, taken);
+  SetCloseKey(window, taken);
 }
 
 void SetSessionKeys(QMainWindow* window, const DesktopPlatform& platform) {

@@ -13,7 +13,7 @@ class DesktopPlatform;
 void SetStandardKeys(QMainWindow* window);
 
 /// The same for the buttons of an area that came into the window later.
-void SetButtonKeys(QMainWindow* window, const QWidget* area);
+void SetButtonKeys(const QMainWindow* window, const QWidget* area);
 
 /// The keys of what the user can do with the session, where the window has no menu items for it.
 void SetSessionKeys(QMainWindow* window, const DesktopPlatform& platform);

@@ -3,6 +3,7 @@
 namespace lignara {
 
 QString WithoutKeyMarks(const QString& caption) {
+  if (!caption.contains('&')) return caption;
   QString seen;
   for (qsizetype i = 0; i < caption.size(); ++i) {
     const bool mark = caption[i] == '&' && i + 1 < caption.size();

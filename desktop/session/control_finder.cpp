@@ -31,6 +31,12 @@ QStringList PlainPath(const QStringList& path) {
   return plain;
 }
 
+QString QuotedPath(const QStringList& path) {
+  QString quoted;
+  for (const QString& caption : path) quoted += " " + Quoted(caption);
+  return quoted;
+}
+
 /// What a path names, and whether in full.
 struct Found {
   QWidget* widget;
@@ -103,15 +109,13 @@ QWidget* Decide(const QStringList& path, const std::vector<Candidate>& candidate
 QWidget* FindControl(QMainWindow* window, const QStringList& path,
                      const std::vector<Kinds>& stages) {
   const QStringList plain = PlainPath(path);
-  QString shown;
-  for (const QString& caption : path) shown += " " + Quoted(caption);
   for (const Kinds& kinds : stages) {
     bool several = false;
     QWidget* control = Decide(plain, Search(window, plain.last(), kinds), several);
-    if (several) throw ScriptError{"more than one control is named" + shown};
+    if (several) throw ScriptError{"more than one control is named" + QuotedPath(path)};
     if (control != nullptr) return control;
   }
-  throw ScriptError{"no control is named" + shown};
+  throw ScriptError{"no control is named" + QuotedPath(path)};
 }
 
 std::vector<QStringList> PathsTo(const QStringList& fullPath) {

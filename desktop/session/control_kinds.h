@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <type_traits>
 #include <vector>
 
 #include "desktop/kit/user_action.h"
@@ -14,9 +15,20 @@ using WidgetFilter = std::function<bool(const QWidget*)>;
 /// Kinds of widgets, the preferred first.
 using Kinds = std::vector<WidgetFilter>;
 
+/// The toolkit tells the classes sooner that it knows, ours are none of those.
+template <typename Widget>
+bool Is(const QWidget* widget) {
+  using Known = const QMetaObject* (Widget::*)() const;
+  if constexpr (std::is_same_v<decltype(&Widget::metaObject), Known>) {
+    return qobject_cast<const Widget*>(widget) != nullptr;
+  } else {
+    return dynamic_cast<const Widget*>(widget) != nullptr;
+  }
+}
+
 template <typename... Widgets>
 bool IsAny(const QWidget* widget) {
-  return ((dynamic_cast<const Widgets*>(widget) != nullptr) || ...);
+  return (Is<Widgets>(widget) || ...);
 }
 
 /// What a user can act on. Lists and pictures have scroll bars and viewports of their own inside;
