@@ -16,6 +16,7 @@
 #include "desktop/session/variant_values.h"
 #include "script/exit_status.h"
 #include "script/script_platform.h"
+#include "script/unseen_style.h"
 #include "script/variants_out_of_sight.h"
 
 namespace lignara {
@@ -128,6 +129,7 @@ int Main(int argc, char* argv[]) {
   if (!options.show) qputenv("QT_QPA_PLATFORM", "offscreen");
   int none = 1;
   QApplication application(none, argv);
+  if (!options.show) QApplication::setStyle(new UnseenStyle);
   QApplication::setApplicationName(kProgramName);
   QApplication::setQuitOnLastWindowClosed(false);
   std::ifstream file;
