@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -65,6 +67,8 @@ Monkey::Monkey(unsigned seed)
       platform_(session_, [this](const QString& line) { Heard(line); }),
       faults_(platform_) {
   EXPECT_TRUE(directory_.isValid());
+  // It pastes, too: what an earlier test copied is not to come into its fields.
+  QGuiApplication::clipboard()->clear();
   // A copy, since the monkey saves the user's defaults as well.
   std::filesystem::copy(LIGNARA_DATA_DIRECTORY, FromQt(directory_.path()));
   StartSession(session_, FromQt(directory_.path()));
