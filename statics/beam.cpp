@@ -10,7 +10,6 @@ namespace lignara {
 namespace {
 
 /// Two peaks of a run that are this close are told apart by nothing but its rounding.
-constexpr double kAsLarge = 0.005;
 
 /// Takes a curve of a stretch into its range: the ends, and where the curve is level.
 void Take(const Polynomial& curve, double length, CurveRange& range) {
@@ -77,14 +76,6 @@ CurveRange RangeOver(const BeamStatics& statics, CurveRange SpanStatics::*curve)
   CurveRange range = statics.spans.front().*curve;
   for (const SpanStatics& span : statics.spans) range = Union(range, span.*curve);
   return range;
-}
-
-double PeakOf(const CurveRange& range, double like) {
-  const bool isAbove = std::fabs(range.most) >= std::fabs(range.least);
-  const double larger = isAbove ? range.most : range.least;
-  const double other = isAbove ? range.least : range.most;
-  const bool isAsLarge = std::fabs(other) >= (1 - kAsLarge) * std::fabs(larger);
-  return isAsLarge && larger * like < 0 && other * like > 0 ? other : larger;
 }
 
 double MagnitudeOf(const CurveRange& range) {

@@ -55,9 +55,6 @@ CurveRange Negated(const CurveRange& range);
 /// The range of a curve over all spans.
 CurveRange RangeOver(const BeamStatics& statics, CurveRange SpanStatics::*curve);
 
-/// The value of the largest magnitude, with its sign. Where there is one each side of 0 as large
-/// as the other, but for what counts as agreement, the one on the side of `like`.
-double PeakOf(const CurveRange& range, double like);
 /// The largest magnitude.
 double MagnitudeOf(const CurveRange& range);
 

@@ -120,6 +120,14 @@ Report ReportOf(const StaticsCheck& check, const std::string& title) {
 
 }  // namespace
 
+double PeakOf(const CurveRange& range, double like) {
+  const bool isAbove = std::fabs(range.most) >= std::fabs(range.least);
+  const double larger = isAbove ? range.most : range.least;
+  const double other = isAbove ? range.least : range.most;
+  const bool isAsLarge = std::fabs(other) >= (1 - kAgreementShare) * std::fabs(larger);
+  return isAsLarge && larger * like < 0 && other * like > 0 ? other : larger;
+}
+
 void ClearStatics(StaticsCheck& check) {
   const bool open = check.open;
   check = StaticsCheck();

@@ -5,6 +5,7 @@
 
 #include "app/platform.h"
 #include "app/report.h"
+#include "statics/beam.h"
 
 namespace lignara {
 
@@ -59,6 +60,9 @@ struct StaticsCheck {
   bool Differs() const { return verdict > StaticsVerdict::Agrees; }
 };
 
+/// The value of the largest magnitude, with its sign. Where there is one each side of 0 as large
+/// as the other, but for what counts as agreement, the one on the side of `like`.
+double PeakOf(const CurveRange& range, double like);
 /// Tells how far the results of a run are from statics. The panel stays as it is.
 void ShowStatics(StaticsCheck& check, const std::vector<ComparedValue>& values);
 /// Tells that the structure of the run cannot be in equilibrium.

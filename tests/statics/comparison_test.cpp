@@ -50,6 +50,14 @@ TEST(StaticsComparison, AWrongSignCountsTwice) {
   EXPECT_EQ(check.line, "Differs from statics: CV by 100 % (-500.00, statics 500.00 lbs).");
 }
 
+TEST(StaticsComparison, OfTwoPeaksAsLargeTheOneOnTheSideOfTheRunIsCompared) {
+  EXPECT_EQ(PeakOf({10, -9.96}, -3), -9.96) << "less than half a percent apart";
+  EXPECT_EQ(PeakOf({10, -9.96}, 3), 10);
+  EXPECT_EQ(PeakOf({10, -9.94}, -3), 10) << "the larger one counts";
+  EXPECT_EQ(PeakOf({9.96, -10}, 3), 9.96);
+  EXPECT_EQ(PeakOf({2, -10}, 3), -10);
+}
+
 TEST(StaticsComparison, HalfAPercentIsAgreement) {
   EXPECT_EQ(CheckOf({Force("CV", 995, 1000)}).line, "Agrees with statics within 0.50 %.");
   EXPECT_EQ(CheckOf({Force("CV", 994.9, 1000)}).line,
