@@ -1,7 +1,6 @@
 #include "glulam/glulam_window.h"
 
 #include "app/fault.h"
-#include "app/number_pattern.h"
 #include "app/window_names.h"
 #include "glulam/combination_files.h"
 #include "glulam/user_factors.h"
@@ -12,11 +11,6 @@ void OpenGlulamWindow(GlulamWindow& window, const SessionState& session, Platfor
   window = GlulamWindow();
   ShowDefaultFactors(window, session, platform);
   ReturnToGlulam(window, session, platform);
-}
-
-void ReturnToGlulam(GlulamWindow& window, const SessionState& session, Platform& platform) {
-  window.length = FormatNumber(session.Member.UnbracedLength, kTwoDecimals);
-  RecomputeAllowables(window, session, platform);
 }
 
 void ExitGlulam(Platform& platform) { platform.CloseWindow(window_name::kGlulam); }

@@ -45,9 +45,6 @@ inline constexpr const char* kGlulamFactorNote =
 
 /// The window as it opens: nothing loaded, the user's default factors, the stored unbraced length.
 void OpenGlulamWindow(GlulamWindow& window, const SessionState& session, Platform& platform);
-/// The user comes back from another window of the program, which may have left another unbraced
-/// length.
-void ReturnToGlulam(GlulamWindow& window, const SessionState& session, Platform& platform);
 /// Menu "Files", "Exit", and the window's close control.
 void ExitGlulam(Platform& platform);
 
@@ -83,9 +80,13 @@ void SaveUserFactors(const GlulamWindow& window, SessionState& session, Platform
 /// The same for this session alone: the file stays as it is.
 void HoldUserFactors(const GlulamWindow& window, SessionState& session, Platform& platform);
 
-/// "Done / Transfer": hands section and allowables to the analyses and hides the window
-/// (transfer.cpp).
+// Taking over (transfer.cpp).
+
+/// "Done / Transfer": hands section and allowables to the analyses and hides the window.
 void TransferGlulamSelection(const GlulamWindow& window, SessionState& session, Platform& platform);
+/// The user comes back from another window of the program, which may have left another unbraced
+/// length.
+void ReturnToGlulam(GlulamWindow& window, const SessionState& session, Platform& platform);
 
 // The report (glulam_report.cpp).
 

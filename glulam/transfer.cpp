@@ -1,6 +1,8 @@
-// From the data base to the current member and to the record of the glulam values.
+// From the current member to the data base, and from there to it and to the record of the glulam
+// values.
 
 #include "app/fault.h"
+#include "app/number_pattern.h"
 #include "app/number_reader.h"
 #include "app/section.h"
 #include "app/window_names.h"
@@ -81,6 +83,11 @@ void TransferGlulamSelection(const GlulamWindow& window, SessionState& session,
   }
   HandOverUse(window, session.Glulam);
   platform.HideWindow(window_name::kGlulam);
+}
+
+void ReturnToGlulam(GlulamWindow& window, const SessionState& session, Platform& platform) {
+  window.length = FormatNumber(session.Member.UnbracedLength, kTwoDecimals);
+  RecomputeAllowables(window, session, platform);
 }
 
 }  // namespace lignara

@@ -1,12 +1,11 @@
 #include "wood/member_size_window.h"
 
-#include <algorithm>
-
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
 #include "app/window_names.h"
 #include "wood/custom_size.h"
+#include "wood/transfer.h"
 
 namespace lignara {
 namespace {
@@ -53,10 +52,6 @@ constexpr BeamValue kBeamFields[] = {
     {&MemberSelection::SectionSy, &BeamPanel::sy, kTwoDecimals},
 };
 
-std::string GradeLabel(const MemberSelection& member) {
-  return member.GradeText + ", " + member.WoodTypeText;
-}
-
 void ShowBeam(BeamPanel& panel, const MemberSelection& member) {
   for (const BeamValue& field : kBeamFields) {
     panel.*field.text = FormatNumber(member.*field.value, field.pattern);
@@ -71,18 +66,6 @@ void ReadBeam(const MemberSizeWindow& window, MemberSelection& member) {
   }
   member.SizeName = window.selection.size;
   member.BeamGradeLabel = window.beam.gradeLabel;
-}
-
-/// Hands the stresses of the data base to the ticked groups.
-void TakeDataBaseStresses(const MemberSizeWindow& window, MemberSelection& member) {
-  for (std::size_t i = 0; i < member.Groups.size(); ++i) {
-    if (!window.groups[i].ticked) continue;
-    TrussMemberGroup& group = member.Groups[i];
-    group.GroupFt = member.AllowFt;
-    group.GroupFa = member.AllowFc;
-    group.GroupE = member.ModulusE;
-    group.GroupGradeLabel = GradeLabel(member);
-  }
 }
 
 void ShowGroup(MemberSizeWindow& window, SessionState& session, MemberGroup group) {
@@ -133,18 +116,6 @@ void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& p
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   ShowMember(window, session);
-}
-
-std::string TicksNote(const MemberSizeWindow& window) {
-  const bool ticked = std::any_of(window.groups.begin(), window.groups.end(),
-                                  [](const GroupPanel& group) { return group.ticked; });
-  if (!window.groupsShown || ticked) return "";
-  return "No members are ticked: stresses from the data base will go to none. Tick first.";
-}
-
-void VisitWoodDataBase(SessionState& session, Platform& platform) {
-  session.Member.DataBaseReturn = -1;
-  platform.OpenWindow(window_name::kWoodDataBase);
 }
 
 void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform) {

@@ -92,17 +92,20 @@ struct MemberSizeWindow {
 void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// The window `wdb` was closed: its stresses go to the ticked groups, and all fields are filled.
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform);
-/// What is to be done before a visit to the data base: of the groups of a truss one at least has to
-/// be ticked, or the stresses go nowhere. Empty where nothing is missing.
-std::string TicksNote(const MemberSizeWindow& window);
-/// "Wood Type Data Base".
-void VisitWoodDataBase(SessionState& session, Platform& platform);
 /// "OK": reads all fields into the current member and closes the window.
 void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// "Cancel".
 void CancelMemberSize(SessionState& session, Platform& platform);
 /// Menu "Files", "Exit", and the window's close control.
 void ExitMemberSize(Platform& platform);
+
+// The visit to the data base (transfer.cpp).
+
+/// What is to be done before a visit to the data base: of the groups of a truss one at least has to
+/// be ticked, or the stresses go nowhere. Empty where nothing is missing.
+std::string TicksNote(const MemberSizeWindow& window);
+/// "Wood Type Data Base".
+void VisitWoodDataBase(SessionState& session, Platform& platform);
 
 // Choosing a size (size_selection.cpp).
 

@@ -8,6 +8,22 @@
 namespace lignara {
 namespace {
 
+/// A base stress and where "Final Selection" shows it. The modulus shows no decimals.
+struct BaseStressField {
+  Float64 BaseStressRecord::*stress;
+  std::string FinalSelection::*shown;
+  const char* pattern;
+};
+
+constexpr BaseStressField kBaseStressFields[] = {
+    {&BaseStressRecord::Fb, &FinalSelection::fb, kTwoDecimals},
+    {&BaseStressRecord::Ft, &FinalSelection::ft, kTwoDecimals},
+    {&BaseStressRecord::Fv, &FinalSelection::fv, kTwoDecimals},
+    {&BaseStressRecord::FcPerp, &FinalSelection::fcPerp, kTwoDecimals},
+    {&BaseStressRecord::FcPar, &FinalSelection::fcPar, kTwoDecimals},
+    {&BaseStressRecord::E, &FinalSelection::e, "0"},
+};
+
 const char* IndexFile(WoodFamily family) {
   for (const WoodFamilyEntry& entry : kWoodFamilies) {
     if (entry.family == family) return entry.indexFile;

@@ -258,5 +258,24 @@ TEST_F(TransferTest, TickedTrussGroupsTakeTheGlulamStresses) {
   EXPECT_EQ(calculator.Group(MemberGroup::Top).ft, "0.00");
 }
 
+TEST_F(TransferTest, ComingBackShowsTheStoredLengthOverATypedOneAndComputes) {
+  Enter("50", "12", "12");
+  EXPECT_EQ(Shown(GlulamValue::Fc), "192.00");
+  session.Member.UnbracedLength = 20;
+  ReturnToGlulam(window, session, platform);
+  EXPECT_EQ(window.length, "20.00");
+  EXPECT_EQ(Shown(GlulamValue::Fc), "1200.00");
+}
+
+// 10.126 ft is handed over, 10.13 ft comes back.
+TEST_F(TransferTest, AfterATransferTheLengthComesBackWithTwoDecimals) {
+  Enter("10.126", "12", "6");
+  TransferGlulamSelection(window, session, platform);
+  ReturnToGlulam(window, session, platform);
+  EXPECT_EQ(window.length, "10.13");
+  EXPECT_EQ(window.depth, "12");
+  EXPECT_EQ(window.combinations.Chosen(), "24F-V4");
+}
+
 }  // namespace
 }  // namespace lignara

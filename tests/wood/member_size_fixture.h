@@ -21,6 +21,19 @@ class MemberSizeTest : public testing::Test {
     session.DesignMode = mode;
     OpenMemberSize(window, session, platform);
   }
+  /// What a visit to the data base that ends with "OK" leaves behind.
+  void VisitDataBase() {
+    VisitWoodDataBase(session, platform);
+    member().GradeText = "No.2";
+    member().WoodTypeText = "Hem-Fir";
+    member().AllowFb = 850.0;
+    member().AllowFt = 525.0;
+    member().AllowFv = 75.0;
+    member().AllowFc = 1300.25;
+    member().AllowFcPerp = 405.0;
+    member().ModulusE = 1300000.0;
+    ReturnFromWoodDataBase(window, session, platform);
+  }
   /// Presses the buttons of a nominal size.
   void Pick(int width, int depth) {
     PickWidth(window, Button(width));

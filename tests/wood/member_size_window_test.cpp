@@ -6,22 +6,7 @@
 namespace lignara {
 namespace {
 
-class MemberSizeWindowTest : public MemberSizeTest {
- protected:
-  /// What a visit to the data base that ends with "OK" leaves behind.
-  void VisitDataBase() {
-    VisitWoodDataBase(session, platform);
-    member().GradeText = "No.2";
-    member().WoodTypeText = "Hem-Fir";
-    member().AllowFb = 850.0;
-    member().AllowFt = 525.0;
-    member().AllowFv = 75.0;
-    member().AllowFc = 1300.25;
-    member().AllowFcPerp = 405.0;
-    member().ModulusE = 1300000.0;
-    ReturnFromWoodDataBase(window, session, platform);
-  }
-};
+class MemberSizeWindowTest : public MemberSizeTest {};
 
 TEST_F(MemberSizeWindowTest, PanelsOfTheMode) {
   Open("TRUSS");
@@ -30,17 +15,6 @@ TEST_F(MemberSizeWindowTest, PanelsOfTheMode) {
   Open("BEAM");
   EXPECT_FALSE(window.groupsShown);
   EXPECT_TRUE(window.beamShown);
-}
-
-TEST_F(MemberSizeWindowTest, SaysBeforeTheVisitThatNoGroupIsTicked) {
-  Open("TRUSS");
-  EXPECT_EQ(TicksNote(window),
-            "No members are ticked: stresses from the data base will go to none. Tick first.");
-  window.Group(MemberGroup::Diagonal).ticked = true;
-  EXPECT_EQ(TicksNote(window), "");
-  Open("BEAM");
-  window.groups = {};
-  EXPECT_EQ(TicksNote(window), "");
 }
 
 TEST_F(MemberSizeWindowTest, CaptionsOfTheGroups) {
@@ -176,66 +150,6 @@ TEST_F(MemberSizeWindowTest, CustomCaptionLastsUntilTheNextFilling) {
   EXPECT_EQ(window.Group(MemberGroup::Top).size, "2X4");
   EXPECT_EQ(window.Group(MemberGroup::Top).b, "1.50");
   EXPECT_EQ(Group(MemberGroup::Top).GroupArea.value(), 5.25F);
-}
-
-// The data base.
-
-TEST_F(MemberSizeWindowTest, DataBaseOpensAndLeavesItsFlag) {
-  Open("TRUSS");
-  VisitWoodDataBase(session, platform);
-  EXPECT_EQ(member().DataBaseReturn.value(), -1);
-  EXPECT_EQ(platform.calls, Texts{"open wdb"});
-}
-
-TEST_F(MemberSizeWindowTest, TickedGroupsTakeTheStresses) {
-  Open("TRUSS");
-  Group(MemberGroup::Bottom).GroupFa = 77.0;
-  window.Group(MemberGroup::Top).ticked = true;
-  window.Group(MemberGroup::Diagonal).ticked = true;
-  VisitDataBase();
-  for (const MemberGroup group : {MemberGroup::Top, MemberGroup::Diagonal}) {
-    EXPECT_EQ(Group(group).GroupFt.value(), 525.0F);
-    EXPECT_EQ(Group(group).GroupFa.value(), 1300.25F);
-    EXPECT_EQ(Group(group).GroupE.value(), 1300000.0F);
-    EXPECT_EQ(Group(group).GroupGradeLabel, "No.2, Hem-Fir");
-    const GroupPanel& panel = window.Group(group);
-    EXPECT_EQ((Texts{panel.ft, panel.fa, panel.e, panel.gradeLabel}),
-              (Texts{"525.00", "1300.25", "1.30E+06", "No.2, Hem-Fir"}));
-  }
-  EXPECT_EQ(Group(MemberGroup::Bottom).GroupFa.value(), 77.0F);
-  EXPECT_EQ(Group(MemberGroup::Bottom).GroupGradeLabel, "");
-  EXPECT_EQ(window.Group(MemberGroup::Bottom).fa, "77.00");
-  EXPECT_EQ(Group(MemberGroup::Vertical).GroupE.value(), 0.0F);
-}
-
-TEST_F(MemberSizeWindowTest, WithoutAVisitTicksTakeNothing) {
-  Open("TRUSS");
-  for (GroupPanel& group : window.groups) group.ticked = true;
-  ReturnFromWoodDataBase(window, session, platform);
-  EXPECT_EQ(Group(MemberGroup::Top).GroupFa.value(), 0.0F);
-}
-
-TEST_F(MemberSizeWindowTest, ASecondVisitCopiesAgain) {
-  Open("TRUSS");
-  window.Group(MemberGroup::Top).ticked = true;
-  VisitDataBase();
-  window.Group(MemberGroup::Top).ticked = false;
-  window.Group(MemberGroup::Bottom).ticked = true;
-  ReturnFromWoodDataBase(window, session, platform);
-  EXPECT_EQ(Group(MemberGroup::Bottom).GroupFt.value(), 525.0F);
-  EXPECT_EQ(Group(MemberGroup::Top).GroupFt.value(), 525.0F);
-}
-
-TEST_F(MemberSizeWindowTest, BeamShowsTheStressesAfterAVisit) {
-  Open("BEAM");
-  AcceptPair(2, 10);
-  VisitDataBase();
-  const BeamPanel& beam = window.beam;
-  EXPECT_EQ((Texts{beam.fb, beam.fa, beam.fv, beam.ft, beam.e, beam.gradeLabel}),
-            (Texts{"850.00", "1300.25", "75.00", "525.00", "1.30E+06", "No.2, Hem-Fir"}));
-  EXPECT_EQ((Texts{beam.b, beam.d, beam.area}), (Texts{"1.50", "9.25", "13.88"}));
-  EXPECT_EQ(beam.size, "CUSTOM");  // the stored name: "OK" has not been pressed yet
-  EXPECT_EQ(window.selection.size, "2X10");
 }
 
 // Closing.
