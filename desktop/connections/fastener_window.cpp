@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "app/window_names.h"
-#include "desktop/kit/choice_button.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/exclusive_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
 #include "desktop/kit/text.h"
@@ -71,7 +71,7 @@ class FastenerForm : public ToolWindow {
     std::vector<QPushButton*> buttons;
     for (std::size_t i = 0; i < kFastenerKindTable.size(); ++i) {
       const FastenerKind kind = kFastenerKindTable[i].kind;
-      buttons.push_back(MakeChoiceButton(
+      buttons.push_back(MakeExclusiveButton(
           binding(), kKindMnemonics[i], [this, kind] { return record_.kind == kind; },
           [this, kind] { ChooseFastenerKind(record_, kind); }));
       row->addWidget(buttons.back());

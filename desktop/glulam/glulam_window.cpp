@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "app/window_names.h"
-#include "desktop/kit/choice_button.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/exclusive_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
 #include "desktop/kit/text.h"
@@ -154,7 +154,7 @@ class GlulamForm : public ToolWindow {
     std::vector<QPushButton*> buttons;
     for (std::size_t i = 0; i < kGlulamFiles.size(); ++i) {
       const int option = static_cast<int>(i) + 1;
-      buttons.push_back(MakeChoiceButton(
+      buttons.push_back(MakeExclusiveButton(
           binding(), WithKey(kGlulamFiles[i].caption, kFileKeys[i]),
           [this, option] { return IsLoaded(option); },
           [this, option] { LoadCombinationFile(record_, session(), platform(), option); }));

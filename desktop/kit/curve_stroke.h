@@ -6,6 +6,9 @@
 
 namespace lignara {
 
+/// How thick curves are, in pixels of a screen.
+inline constexpr double kCurveWidth = 1.5;
+
 /// Lines that go on from each other, painted as one stroke. Of the many points that a long curve
 /// has in one column of pixels only those that are seen are kept: the first, the highest, the
 /// lowest and the last. So a curve of thousands of lines is painted as fast as one of hundreds.

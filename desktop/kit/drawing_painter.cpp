@@ -123,7 +123,7 @@ class ShapePainter {
             std::max(target_.top(), std::min(corner.y(), bottom))};
   }
   QPen PenOf(Colour colour, double width) const {
-    const double pixels = stretched_ ? 1.5 * pixel_ : std::max(1.2, width * fit_.scaleY);
+    const double pixels = stretched_ ? kCurveWidth * pixel_ : std::max(1.2, width * fit_.scaleY);
     return {ColourOn(ground_, colour), pixels, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
   }
 

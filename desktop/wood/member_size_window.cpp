@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "app/window_names.h"
-#include "desktop/kit/choice_button.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/exclusive_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/warning_colour.h"
@@ -132,7 +132,7 @@ class MemberSizeForm : public ToolWindow {
     constexpr int kHalf = static_cast<int>(kNominalSizes.size()) / 2;
     std::vector<QPushButton*> buttons;
     for (int i = 0; i < static_cast<int>(kNominalSizes.size()); ++i) {
-      QPushButton* button = MakeChoiceButton(
+      QPushButton* button = MakeExclusiveButton(
           binding(), QString::number(kNominalSizes[static_cast<std::size_t>(i)]),
           [&pick, i] { return pick == i; }, [this, choose, i] { choose(record_, i); });
       button->setFixedWidth(InLetters(44));

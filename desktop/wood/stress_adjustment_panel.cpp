@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/kit/choice_button.h"
+#include "desktop/kit/exclusive_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
@@ -129,7 +129,7 @@ class FactorPanelForm : public QGroupBox {
     row->setContentsMargins(6, 2, 6, 4);
     std::vector<QPushButton*> buttons;
     for (const bool yes : {true, false}) {
-      buttons.push_back(MakeChoiceButton(
+      buttons.push_back(MakeExclusiveButton(
           binding_, yes ? "Yes" : "No",
           [this, pair, yes] { return window_.panel.Yes(pair) == yes; },
           [this, pair, yes] { AnswerFactorPair(window_, platform_, pair, yes); }));

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "app/window_names.h"
-#include "desktop/kit/choice_button.h"
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/exclusive_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
@@ -112,7 +112,7 @@ class WoodDataBaseForm : public ToolWindow {
     std::vector<QPushButton*> buttons;
     for (const WoodFamilyEntry& entry : kWoodFamilies) {
       const WoodFamily family = entry.family;
-      buttons.push_back(MakeChoiceButton(
+      buttons.push_back(MakeExclusiveButton(
           binding(), QString("&") + entry.caption,
           [this, family] { return record_.DataBaseFamily == family; },
           [this, family] { ChooseFamily(record_, session(), platform(), family); }));

@@ -1,4 +1,4 @@
-#include "desktop/kit/choice_button.h"
+#include "desktop/kit/exclusive_button.h"
 
 #include <QKeyEvent>
 #include <algorithm>
@@ -102,8 +102,8 @@ class ArrowKeys : public QObject {
 
 }  // namespace
 
-QPushButton* MakeChoiceButton(Binding& binding, const QString& caption, Binding::Condition active,
-                              Binding::Command command) {
+QPushButton* MakeExclusiveButton(Binding& binding, const QString& caption,
+                                 Binding::Condition active, Binding::Command command) {
   auto* button = new QPushButton(caption);
   button->setCheckable(true);
   button->setMinimumWidth(WidthWhenActive(button));
