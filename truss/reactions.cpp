@@ -1,5 +1,7 @@
 #include "truss/reactions.h"
 
+#include "app/number_pattern.h"
+
 namespace lignara {
 namespace {
 
@@ -81,6 +83,11 @@ void REACTIONS_WARREN(TrussJob& job) {
   const int last = top ? n / 2 - 1 : (n - 1) / 2;
   ShareLoads(job, {.overSupport = 0, .last = last, .midspan = top},
              [&](int i) { return 2 * i * job.session.PanelLength; });
+}
+
+void SHOW_REACTIONS(TrussWindow& window) {
+  window.leftReaction = FormatNumber(window.model.NODE_RL, kTwoDecimals);
+  window.rightReaction = FormatNumber(window.model.NODE_RR, kTwoDecimals);
 }
 
 }  // namespace lignara

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "truss/active_model.h"
+#include "truss/truss_window.h"
 
 namespace lignara {
 
@@ -19,5 +20,9 @@ void REACTIONS_SCI(TrussJob& job);
 void REACTIONS_FLAT(TrussJob& job);
 /// WARREN: every second panel point from the end on. Nothing where WarrenChord is not set.
 void REACTIONS_WARREN(TrussJob& job);
+
+/// Fills the two fields under "End Reactions (lbs)". They keep the reactions of the run, for the
+/// unit loads of the deflections overwrite those of the model.
+void SHOW_REACTIONS(TrussWindow& window);
 
 }  // namespace lignara

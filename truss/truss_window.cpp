@@ -42,4 +42,10 @@ void OpenWoodType(SessionState& session, Platform& platform) {
   platform.OpenWindow(window_name::kMemberSize);
 }
 
+void OpenDeflections(TrussWindow& window) { window.deflectionsOpen = true; }
+void CloseDeflections(TrussWindow& window) { window.deflectionsOpen = false; }
+
+void OpenStresses(TrussWindow& window) { window.stressOpen = true; }
+void CloseStresses(TrussWindow& window) { window.stressOpen = false; }
+
 }  // namespace lignara

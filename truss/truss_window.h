@@ -98,6 +98,12 @@ struct TrussWindow {
 void OpenTruss(TrussWindow& window, SessionState& session, Platform& platform);
 /// "Wood Type": on to the window in which the members get their sizes.
 void OpenWoodType(SessionState& session, Platform& platform);
+/// "Deflections", and "Cancel" of the panel. The run fills the list, the panel being open or not.
+void OpenDeflections(TrussWindow& window);
+void CloseDeflections(TrussWindow& window);
+/// "Code Stress", and "OK" of the panel.
+void OpenStresses(TrussWindow& window);
+void CloseStresses(TrussWindow& window);
 
 // Node loads (node_loads.cpp).
 
@@ -126,17 +132,11 @@ void ApplyAreaLoad(TrussWindow& window, SessionState& session, Platform& platfor
 /// "Run".
 void RunTruss(TrussWindow& window, SessionState& session, Platform& platform);
 
-// Results (results.cpp).
+// Lists of forces and lengths (force_and_length_lists.cpp).
 
 /// "Memb. Len.".
 void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platform& platform);
 void CloseMemberLengths(TrussWindow& window);
-/// "Deflections", and "Cancel" of the panel. The run fills the list, the panel being open or not.
-void OpenDeflections(TrussWindow& window);
-void CloseDeflections(TrussWindow& window);
-/// "Code Stress", and "OK" of the panel.
-void OpenStresses(TrussWindow& window);
-void CloseStresses(TrussWindow& window);
 
 // Canvas (canvas.cpp, canvas_hit.cpp); the report's commands stand in truss/report.h.
 

@@ -5,9 +5,9 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
+#include "truss/changed_since_run.h"
 #include "truss/force_sense.h"
 #include "truss/overstress.h"
-#include "truss/run_inputs.h"
 #include "truss/truss_picture.h"
 #include "truss/truss_types.h"
 

@@ -145,5 +145,14 @@ TEST(Reactions, NegativeLoadsPullTheSupportsUp) {
   ExpectReactions(truss, -300, -100);  // -400 x 24/32
 }
 
+TEST(ShowReactions, TwoDecimals) {
+  TestTruss truss = StandardTruss("PRATT1", 6);
+  truss.model().NODE_RL = 1234.567;
+  truss.model().NODE_RR = -0.001;
+  SHOW_REACTIONS(truss.window);
+  EXPECT_EQ(truss.window.leftReaction, "1234.57");
+  EXPECT_EQ(truss.window.rightReaction, "0.00");
+}
+
 }  // namespace
 }  // namespace lignara

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/opened_truss.h"
+#include "tests/support/truss_fixture.h"
 
 namespace lignara {
 namespace {
@@ -97,6 +98,24 @@ TEST(WoodType, OpensTheCalculatorForATruss) {
   OpenWoodType(session, platform);
   EXPECT_EQ(session.DesignMode, "TRUSS");
   EXPECT_EQ(platform.calls, std::vector<std::string>{"open WTYPETR"});
+}
+
+TEST(ResultPanels, OpenAndCloseWithTheirListsAsTheyAre) {
+  TestTruss truss = StandardTruss("KINGPOST", 4);
+  truss.window.deflectionRows = {"TN = 0.001"};
+  truss.window.stressRows = {"", "TL1"};
+  OpenDeflections(truss.window);
+  EXPECT_TRUE(truss.window.deflectionsOpen);
+  EXPECT_FALSE(truss.window.stressOpen);
+  OpenStresses(truss.window);
+  EXPECT_TRUE(truss.window.stressOpen);
+  CloseDeflections(truss.window);
+  EXPECT_FALSE(truss.window.deflectionsOpen);
+  EXPECT_TRUE(truss.window.stressOpen);
+  CloseStresses(truss.window);
+  EXPECT_FALSE(truss.window.stressOpen);
+  EXPECT_EQ(truss.window.deflectionRows, std::vector<std::string>{"TN = 0.001"});
+  EXPECT_EQ(truss.window.stressRows, (std::vector<std::string>{"", "TL1"}));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "truss/shown_forces.h"
+#include "truss/force_and_length_lists.h"
 
 #include "app/list_rows.h"
 #include "app/number_pattern.h"
@@ -23,11 +23,6 @@ std::vector<std::string> MemberRows(const TrussWindow& window, const SessionStat
 
 }  // namespace
 
-void SHOW_REACTIONS(TrussWindow& window) {
-  window.leftReaction = FormatNumber(window.model.NODE_RL, kTwoDecimals);
-  window.rightReaction = FormatNumber(window.model.NODE_RR, kTwoDecimals);
-}
-
 void SHOW_AXIAL(TrussWindow& window, const SessionState& session) {
   window.axialRows = MemberRows(window, session, AxialOf);
 }
@@ -43,11 +38,5 @@ void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platfor
 }
 
 void CloseMemberLengths(TrussWindow& window) { window.lengthsOpen = false; }
-
-void OpenDeflections(TrussWindow& window) { window.deflectionsOpen = true; }
-void CloseDeflections(TrussWindow& window) { window.deflectionsOpen = false; }
-
-void OpenStresses(TrussWindow& window) { window.stressOpen = true; }
-void CloseStresses(TrussWindow& window) { window.stressOpen = false; }
 
 }  // namespace lignara

@@ -1,4 +1,4 @@
-#include "truss/shown_forces.h"
+#include "truss/force_and_length_lists.h"
 
 #include <gtest/gtest.h>
 
@@ -9,15 +9,6 @@ namespace lignara {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-TEST(ShowReactions, TwoDecimals) {
-  TestTruss truss = StandardTruss("PRATT1", 6);
-  truss.model().NODE_RL = 1234.567;
-  truss.model().NODE_RR = -0.001;
-  SHOW_REACTIONS(truss.window);
-  EXPECT_EQ(truss.window.leftReaction, "1234.57");
-  EXPECT_EQ(truss.window.rightReaction, "0.00");
-}
 
 TEST(ShowAxial, BlankRowThenMagnitudesOfAllMembers) {
   TestTruss truss = StandardTruss("KINGPOST", 4);
@@ -99,23 +90,5 @@ TEST(MemberLengths, HalvesOfEnglishDiffer) {
 }
 
 // The lists are those of the last run, which stands behind them whether they are open or not.
-TEST(ResultPanels, OpenAndCloseWithTheirListsAsTheyAre) {
-  TestTruss truss = StandardTruss("KINGPOST", 4);
-  truss.window.deflectionRows = {"TN = 0.001"};
-  truss.window.stressRows = {"", "TL1"};
-  OpenDeflections(truss.window);
-  EXPECT_TRUE(truss.window.deflectionsOpen);
-  EXPECT_FALSE(truss.window.stressOpen);
-  OpenStresses(truss.window);
-  EXPECT_TRUE(truss.window.stressOpen);
-  CloseDeflections(truss.window);
-  EXPECT_FALSE(truss.window.deflectionsOpen);
-  EXPECT_TRUE(truss.window.stressOpen);
-  CloseStresses(truss.window);
-  EXPECT_FALSE(truss.window.stressOpen);
-  EXPECT_EQ(truss.window.deflectionRows, Texts{"TN = 0.001"});
-  EXPECT_EQ(truss.window.stressRows, (Texts{"", "TL1"}));
-}
-
 }  // namespace
 }  // namespace lignara

@@ -1,4 +1,4 @@
-#include "truss/run_inputs.h"
+#include "truss/changed_since_run.h"
 
 #include "truss/top_nodes.h"
 
