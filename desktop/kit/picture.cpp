@@ -13,7 +13,6 @@
 namespace lignara {
 namespace {
 
-constexpr double kKeyZoom = 1.25;
 constexpr double kKeyMove = 40;  // pixels
 
 struct MoveKey {
@@ -108,7 +107,7 @@ void Picture::wheelEvent(QWheelEvent* event) {
     return;
   }
   constexpr double kNotch = 120;
-  ZoomAt(event->position(), std::pow(kKeyZoom, event->angleDelta().y() / kNotch));
+  ZoomAt(event->position(), std::pow(kZoomStep, event->angleDelta().y() / kNotch));
   event->accept();
 }
 
@@ -126,9 +125,9 @@ bool Picture::TakeKey(int key) {
   if (key == Qt::Key_Home) {
     Fit();
   } else if (key == Qt::Key_Plus || key == Qt::Key_Equal) {
-    ZoomAt(middle, kKeyZoom);
+    ZoomAt(middle, kZoomStep);
   } else if (key == Qt::Key_Minus) {
-    ZoomAt(middle, 1 / kKeyZoom);
+    ZoomAt(middle, 1 / kZoomStep);
   } else {
     return false;
   }
@@ -140,8 +139,8 @@ void Picture::contextMenuEvent(QContextMenuEvent* event) {
   const QPointF place = event->pos();
   if (explored_) {
     menu.addAction("Show &All\tHome", this, [this] { Fit(); });
-    menu.addAction("Look &Nearer\tCtrl+Wheel", this, [=, this] { ZoomAt(place, kKeyZoom); });
-    menu.addAction("Look from &Farther", this, [=, this] { ZoomAt(place, 1 / kKeyZoom); });
+    menu.addAction("Look &Nearer\tCtrl+Wheel", this, [=, this] { ZoomAt(place, kZoomStep); });
+    menu.addAction("Look from &Farther", this, [=, this] { ZoomAt(place, 1 / kZoomStep); });
   }
   if (save_) menu.addAction("&Save Picture As...", this, [this] { save_(); });
   if (!menu.isEmpty()) menu.exec(event->globalPos());
