@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QInputDialog>
-#include <QMessageBox>
 #include <QScreen>
 #include <algorithm>
 #include <cassert>
@@ -11,7 +9,6 @@
 
 #include "app/launcher.h"
 #include "app/window_names.h"
-#include "desktop/kit/arrow_pointer.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/help_window.h"
 #include "desktop/kit/message_box.h"
@@ -128,20 +125,13 @@ bool DesktopPlatform::MayWriteFiles() {
 }
 
 bool DesktopPlatform::UserSaysYes(const std::string& title, const std::string& text) {
-  const ArrowPointer arrow;
-  return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==
-         QMessageBox::Yes;
+  return ShowQuestionBox(title, text);
 }
 
 std::optional<std::string> DesktopPlatform::UsersText(const std::string& title,
                                                       const std::string& text,
                                                       const std::string& initial) {
-  const ArrowPointer arrow;
-  bool accepted = false;
-  const QString answer =
-      QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(text),
-                            QLineEdit::Normal, ToQt(initial), &accepted);
-  return accepted ? std::optional(FromQt(answer)) : std::nullopt;
+  return ShowPromptBox(title, text, initial);
 }
 
 std::optional<std::string> DesktopPlatform::UsersFile(const std::string& filter) {

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 
 #include "desktop/kit/arrow_pointer.h"
@@ -21,6 +23,22 @@ bool ShowMessageBox(const Message& message, bool offer) {
   tick->setVisible(offer);
   box.exec();
   return tick->isChecked();
+}
+
+bool ShowQuestionBox(const std::string& title, const std::string& text) {
+  const ArrowPointer arrow;
+  return QMessageBox::question(QApplication::activeWindow(), ToQt(title), ToQt(text)) ==
+         QMessageBox::Yes;
+}
+
+std::optional<std::string> ShowPromptBox(const std::string& title, const std::string& text,
+                                         const std::string& initial) {
+  const ArrowPointer arrow;
+  bool accepted = false;
+  const QString answer =
+      QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(text),
+                            QLineEdit::Normal, ToQt(initial), &accepted);
+  return accepted ? std::optional(FromQt(answer)) : std::nullopt;
 }
 
 }  // namespace lignara
