@@ -1,37 +1,7 @@
 #include "connections/fastener_window.h"
 
-#include <algorithm>
-#include <span>
-
 namespace lignara {
 namespace {
-
-constexpr const char* kPenetrationNote = "Based on insertion length of 11 diameters for lat. load.";
-constexpr const char* kEmbedmentNote = "Select embedment length to obtain Lat. loads.";
-constexpr const char* kPullOutNote = "Pullout load is per inch of embedment.";
-
-std::span<const FastenerRow> RowsOf(FastenerKind kind) {
-  switch (kind) {
-    case FastenerKind::Nails:
-      return WireNailTable;
-    case FastenerKind::Spikes:
-      return SpikeTable;
-    case FastenerKind::WoodScrews:
-      return WoodScrewTable;
-    case FastenerKind::LagScrews:
-      break;
-  }
-  return {};
-}
-
-std::vector<std::string> SizesOf(FastenerKind kind) {
-  if (kind == FastenerKind::LagScrews) {
-    return {LagScrewTable.sizes.begin(), LagScrewTable.sizes.end()};
-  }
-  std::vector<std::string> sizes;
-  for (const FastenerRow& row : RowsOf(kind)) sizes.emplace_back(row.size);
-  return sizes;
-}
 
 void ShowLagScrew(FastenerWindow& window) {
   const auto size = static_cast<std::size_t>(window.sizes.row);
@@ -50,23 +20,6 @@ void ShowRow(FastenerWindow& window, const FastenerRow& row) {
 }
 
 }  // namespace
-
-// clang-format off
-
-// Fields: length, diameter, lateral, pull-out, lateral parallel, lateral perpendicular; embedments.
-const std::array<FastenerKindEntry, kFastenerKinds> kFastenerKindTable = {{
-    {FastenerKind::Nails,      "Nails",       "Data for Wire Nails",  {true,  true,  true,  true, false, false}, false, kPenetrationNote, kPullOutNote},
-    {FastenerKind::Spikes,     "Spikes",      "Data for Spike Nails", {true,  true,  true,  true, false, false}, false, kPenetrationNote, kPullOutNote},
-    {FastenerKind::WoodScrews, "Wood Screws", "Data for Wood Screws", {false, true,  true,  true, false, false}, false, "",               kPullOutNote},
-    {FastenerKind::LagScrews,  "Lag Screws",  "Data for Lag Screws",  {false, false, false, true, true,  true},  true,  kEmbedmentNote,   kPullOutNote},
-}};
-
-// clang-format on
-
-const FastenerKindEntry& EntryOf(FastenerKind kind) {
-  return *std::find_if(kFastenerKindTable.begin(), kFastenerKindTable.end(),
-                       [kind](const FastenerKindEntry& entry) { return entry.kind == kind; });
-}
 
 void OpenFastenerDataBase(FastenerWindow& window) {
   window = FastenerWindow();
@@ -109,7 +62,7 @@ void ShowFastenerValues(FastenerWindow& window) {
   if (window.kind == FastenerKind::LagScrews) {
     ShowLagScrew(window);
   } else {
-    ShowRow(window, RowsOf(window.kind)[static_cast<std::size_t>(window.sizes.row)]);
+    ShowRow(window, EntryOf(window.kind).rows[static_cast<std::size_t>(window.sizes.row)]);
   }
 }
 
