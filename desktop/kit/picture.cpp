@@ -13,16 +13,14 @@
 namespace lignara {
 namespace {
 
-constexpr double kKeyMove = 40;  // pixels
-
 struct MoveKey {
   int key;
   QPointF pixels;
 };
-const MoveKey kMoveKeys[] = {{Qt::Key_Left, {kKeyMove, 0}},
-                             {Qt::Key_Right, {-kKeyMove, 0}},
-                             {Qt::Key_Up, {0, kKeyMove}},
-                             {Qt::Key_Down, {0, -kKeyMove}}};
+const MoveKey kMoveKeys[] = {{Qt::Key_Left, {kMoveStep, 0}},
+                             {Qt::Key_Right, {-kMoveStep, 0}},
+                             {Qt::Key_Up, {0, kMoveStep}},
+                             {Qt::Key_Down, {0, -kMoveStep}}};
 
 }  // namespace
 
