@@ -5,7 +5,7 @@
 #include "app/number_reader.h"
 #include "app/window_names.h"
 #include "wood/custom_size.h"
-#include "wood/transfer.h"
+#include "wood/stresses_for_ticked_groups.h"
 
 namespace lignara {
 namespace {

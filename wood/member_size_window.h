@@ -99,7 +99,7 @@ void CancelMemberSize(SessionState& session, Platform& platform);
 /// Menu "Files", "Exit", and the window's close control.
 void ExitMemberSize(Platform& platform);
 
-// The visit to the data base (transfer.cpp).
+// The visit to the data base (stresses_for_ticked_groups.cpp).
 
 /// What is to be done before a visit to the data base: of the groups of a truss one at least has to
 /// be ticked, or the stresses go nowhere. Empty where nothing is missing.

@@ -1,15 +1,15 @@
 // Stresses of the data base on their way to the members.
 
-#include "wood/transfer.h"
+#include "wood/stresses_for_ticked_groups.h"
 
 #include "tests/wood/member_size_fixture.h"
 
 namespace lignara {
 namespace {
 
-class WoodTransferTest : public MemberSizeTest {};
+class TickedGroups : public MemberSizeTest {};
 
-TEST_F(WoodTransferTest, SaysBeforeTheVisitThatNoGroupIsTicked) {
+TEST_F(TickedGroups, SaysBeforeTheVisitThatNoGroupIsTicked) {
   Open("TRUSS");
   EXPECT_EQ(TicksNote(window),
             "No members are ticked: stresses from the data base will go to none. Tick first.");
@@ -20,14 +20,14 @@ TEST_F(WoodTransferTest, SaysBeforeTheVisitThatNoGroupIsTicked) {
   EXPECT_EQ(TicksNote(window), "");
 }
 
-TEST_F(WoodTransferTest, DataBaseOpensAndLeavesItsFlag) {
+TEST_F(TickedGroups, DataBaseOpensAndLeavesItsFlag) {
   Open("TRUSS");
   VisitWoodDataBase(session, platform);
   EXPECT_EQ(member().DataBaseReturn.value(), -1);
   EXPECT_EQ(platform.calls, Texts{"open wdb"});
 }
 
-TEST_F(WoodTransferTest, TickedGroupsTakeTheStresses) {
+TEST_F(TickedGroups, TickedGroupsTakeTheStresses) {
   Open("TRUSS");
   Group(MemberGroup::Bottom).GroupFa = 77.0;
   window.Group(MemberGroup::Top).ticked = true;
@@ -48,14 +48,14 @@ TEST_F(WoodTransferTest, TickedGroupsTakeTheStresses) {
   EXPECT_EQ(Group(MemberGroup::Vertical).GroupE.value(), 0.0F);
 }
 
-TEST_F(WoodTransferTest, WithoutAVisitTicksTakeNothing) {
+TEST_F(TickedGroups, WithoutAVisitTicksTakeNothing) {
   Open("TRUSS");
   for (GroupPanel& group : window.groups) group.ticked = true;
   ReturnFromWoodDataBase(window, session, platform);
   EXPECT_EQ(Group(MemberGroup::Top).GroupFa.value(), 0.0F);
 }
 
-TEST_F(WoodTransferTest, ASecondVisitCopiesAgain) {
+TEST_F(TickedGroups, ASecondVisitCopiesAgain) {
   Open("TRUSS");
   window.Group(MemberGroup::Top).ticked = true;
   VisitDataBase();
@@ -66,7 +66,7 @@ TEST_F(WoodTransferTest, ASecondVisitCopiesAgain) {
   EXPECT_EQ(Group(MemberGroup::Top).GroupFt.value(), 525.0F);
 }
 
-TEST_F(WoodTransferTest, BeamShowsTheStressesAfterAVisit) {
+TEST_F(TickedGroups, BeamShowsTheStressesAfterAVisit) {
   Open("BEAM");
   AcceptPair(2, 10);
   VisitDataBase();

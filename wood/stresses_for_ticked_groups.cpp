@@ -1,4 +1,4 @@
-#include "wood/transfer.h"
+#include "wood/stresses_for_ticked_groups.h"
 
 #include <algorithm>
 
