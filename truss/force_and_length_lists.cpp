@@ -2,6 +2,8 @@
 
 #include "app/list_rows.h"
 #include "app/number_pattern.h"
+#include "truss/force_sense.h"
+#include "truss/overstress.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -12,19 +14,41 @@ using ArrayOf = const Float32Array& (*)(const ActiveModel& model, Family family)
 /// A blank row, then a row for each member of the type with its value, without sign.
 std::vector<std::string> MemberRows(const TrussWindow& window, const SessionState& session,
                                     ArrayOf arrayOf) {
-  const TrussTypeInfo& type = TrussTypeOf(session.TrussType);
   std::vector<std::string> rows = RowsBelowBlank();
-  for (const Member& member : MembersOf(type.axialRows, HalfSpans(session))) {
+  for (const Member& member : AxialMembers(session)) {
     const Float32 value = Abs(arrayOf(window.model, member.family)[member.index]);
     rows.push_back(RowLabel(member) + " = " + FormatNumber(value, kTwoDecimals));
   }
   return rows;
 }
 
+RowNote AxialNote(const TrussWindow& window, const Member& member, bool above) {
+  RowNote note;
+  const ForceSense sense = SenseOf(AxialOf(window.model, member.family)[member.index]);
+  note = {sense.letter, sense.spoken};
+  note.warned = above;
+  if (above) note.spoken += ", above its allowable stress";
+  return note;
+}
+
 }  // namespace
 
 void SHOW_AXIAL(TrussWindow& window, const SessionState& session) {
   window.axialRows = MemberRows(window, session, AxialOf);
+}
+
+std::vector<Member> AxialMembers(const SessionState& session) {
+  return MembersOf(TrussTypeOf(session.TrussType).axialRows, HalfSpans(session));
+}
+
+std::vector<RowNote> AxialNotes(const TrussWindow& window, const SessionState& session) {
+  if (!window.view.resultsShown) return {};
+  const MemberSet above = OverstressedMembers(window.stresses);
+  std::vector<RowNote> notes(1);
+  for (const Member& member : AxialMembers(session)) {
+    notes.push_back(AxialNote(window, member, above.count({member.family, member.index}) > 0));
+  }
+  return notes;
 }
 
 void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platform& platform) {

@@ -16,6 +16,9 @@ std::optional<Float32> StressRatio(const MemberStress& stress) {
 
 namespace {
 
+/// The lines of a member in the list of stresses.
+constexpr std::size_t kStressLines = 4;
+
 /// The member with the highest ratio; one without an allowable stress is above all others.
 const MemberStress* WorstOf(const std::vector<MemberStress>& stresses) {
   const auto less = [](const MemberStress& a, const MemberStress& b) {
@@ -53,6 +56,22 @@ MemberSet OverstressedMembers(const std::vector<MemberStress>& stresses) {
     if (IsOverstressed(stress)) members.insert({stress.member.family, stress.member.index});
   }
   return members;
+}
+
+std::vector<RowNote> StressNotes(const std::vector<MemberStress>& stresses) {
+  std::vector<RowNote> notes(1);
+  for (const MemberStress& stress : stresses) {
+    RowNote head;
+    head.warned = IsOverstressed(stress);
+    RowNote line = head;
+    if (const auto ratio = StressRatio(stress)) {
+      head.note = FormatNumber(*ratio, kTwoDecimals);
+      head.spoken = "actual over allowable stress: " + head.note;
+    }
+    notes.push_back(head);
+    notes.insert(notes.end(), kStressLines - 1, line);
+  }
+  return notes;
 }
 
 }  // namespace lignara

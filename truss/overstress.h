@@ -24,4 +24,8 @@ std::string StressRatioLine(const std::vector<MemberStress>& stresses);
 using MemberSet = std::set<std::pair<Family, int>>;
 MemberSet OverstressedMembers(const std::vector<MemberStress>& stresses);
 
+/// What stands beside the rows of the list of stresses: the ratio beside the head of each member,
+/// and a tint on its lines where it is above 1.
+std::vector<RowNote> StressNotes(const std::vector<MemberStress>& stresses);
+
 }  // namespace lignara

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "app/fault.h"
-#include "app/number_pattern.h"
 #include "truss/changed_since_run.h"
+#include "truss/force_and_length_lists.h"
 #include "truss/force_sense.h"
 #include "truss/overstress.h"
 #include "truss/truss_picture.h"
@@ -17,51 +17,7 @@ namespace {
 constexpr const char* kNeedsRun = "needs a run";
 constexpr const char* kNeedsMembers = "needs wood type and size";
 
-/// The lines of a member in the list of stresses.
-constexpr std::size_t kStressLines = 4;
-
 bool IsSame(const Member& a, const Member& b) { return a.family == b.family && a.index == b.index; }
-
-std::vector<Member> AxialMembers(const SessionState& session) {
-  return MembersOf(TrussTypeOf(session.TrussType).axialRows, HalfSpans(session));
-}
-
-RowNote AxialNote(const TrussWindow& window, const Member& member, bool above) {
-  RowNote note;
-  const ForceSense sense = SenseOf(AxialOf(window.model, member.family)[member.index]);
-  note = {sense.letter, sense.spoken};
-  note.warned = above;
-  if (above) note.spoken += ", above its allowable stress";
-  return note;
-}
-
-/// A blank row, then a note a member.
-std::vector<RowNote> AxialNotes(const TrussWindow& window, const SessionState& session) {
-  if (!window.view.resultsShown) return {};
-  const MemberSet above = OverstressedMembers(window.stresses);
-  std::vector<RowNote> notes(1);
-  for (const Member& member : AxialMembers(session)) {
-    notes.push_back(AxialNote(window, member, above.count({member.family, member.index}) > 0));
-  }
-  return notes;
-}
-
-/// The ratio beside the head of each member, and a tint on its lines where it is above 1.
-std::vector<RowNote> StressNotes(const TrussWindow& window) {
-  std::vector<RowNote> notes(1);
-  for (const MemberStress& stress : window.stresses) {
-    RowNote head;
-    head.warned = IsOverstressed(stress);
-    RowNote line = head;
-    if (const auto ratio = StressRatio(stress)) {
-      head.note = FormatNumber(*ratio, kTwoDecimals);
-      head.spoken = "actual over allowable stress: " + head.note;
-    }
-    notes.push_back(head);
-    notes.insert(notes.end(), kStressLines - 1, line);
-  }
-  return notes;
-}
 
 std::string StatusLine(const TrussWindow& window, bool outOfDate) {
   if (!window.view.resultsShown) return "";
@@ -106,7 +62,7 @@ void ShowMarks(TrussWindow& window, const SessionState& session) {
   const bool outOfDate = IsOutOfDate(window, session);
   const std::string missing = window.view.resultsShown ? kNeedsMembers : kNeedsRun;
   window.axialNotes = AxialNotes(window, session);
-  window.stressNotes = StressNotes(window);
+  window.stressNotes = StressNotes(window.stresses);
   window.outOfDate = outOfDate;
   window.status = StatusLine(window, outOfDate);
   window.hitSense = HitSense(window);
