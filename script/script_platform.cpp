@@ -32,8 +32,8 @@ std::optional<std::string> FromQt(const std::optional<QString>& text) {
   return text ? std::optional(lignara::FromQt(*text)) : std::nullopt;
 }
 
-/// Marks a window at which nobody has looked.
-constexpr const char* kUnseen = "unseen";
+/// Marks a window that is not laid out.
+constexpr const char* kNotLaidOut = "notLaidOut";
 
 /// What an action opened or closed moves the rest of its window area by area, from inside out, one
 /// in each round of events.
@@ -54,7 +54,7 @@ void ScriptPlatform::Place(ToolWindow* window) {
     DesktopPlatform::Place(window);
     return;
   }
-  window->setProperty(kUnseen, true);
+  window->setProperty(kNotLaidOut, true);
   window->setUpdatesEnabled(false);
   for (QLayout* layout : window->findChildren<QLayout*>()) layout->setEnabled(false);
   // No finger moves what stands on no screen, and the look-out for it has a part in every event.
@@ -63,9 +63,9 @@ void ScriptPlatform::Place(ToolWindow* window) {
   }
 }
 
-void ScriptPlatform::LetBeSeen(ToolWindow* window) {
-  if (!window->property(kUnseen).toBool()) return Settle();
-  window->setProperty(kUnseen, false);
+void ScriptPlatform::LayOut(ToolWindow* window) {
+  if (!window->property(kNotLaidOut).toBool()) return;
+  window->setProperty(kNotLaidOut, false);
   const QList<QLayout*> layouts = window->findChildren<QLayout*>();
   for (QLayout* layout : layouts) {
     layout->setEnabled(true);
@@ -74,8 +74,19 @@ void ScriptPlatform::LetBeSeen(ToolWindow* window) {
   DesktopPlatform::Place(window);
   // They have passed over the sizes that their widgets got meanwhile.
   for (QLayout* layout : layouts) layout->activate();
-  window->setUpdatesEnabled(true);
-  MeasureLists(window);
+}
+
+void ScriptPlatform::LetBeLaidOut(ToolWindow* window) {
+  LayOut(window);
+  Settle();
+}
+
+void ScriptPlatform::LetBeSeen(ToolWindow* window) {
+  LayOut(window);
+  if (!window->updatesEnabled()) {
+    window->setUpdatesEnabled(true);
+    MeasureLists(window);
+  }
   Settle();
 }
 

@@ -16,10 +16,12 @@ class ScriptPlatform : public DesktopPlatform {
  public:
   ScriptPlatform(SessionState& session, ScriptOutput output);
 
-  /// Windows that nobody looks at are neither laid out nor painted until `LetBeSeen`. Holds for
-  /// windows opened from now on.
+  /// Windows that nobody looks at are not laid out until `LetBeLaidOut`, nor painted until
+  /// `LetBeSeen`. Holds for windows opened from now on.
   void PaintNothing() { paints_ = false; }
-  /// From now on a window stands as on a screen.
+  /// From now on all in a window stands where it would on a screen.
+  void LetBeLaidOut(ToolWindow* window) override;
+  /// And is painted.
   void LetBeSeen(ToolWindow* window) override;
 
   /// Without a display a script's windows stand on a screen of this size.
@@ -35,6 +37,8 @@ class ScriptPlatform : public DesktopPlatform {
   void Place(ToolWindow* window) override;
 
  private:
+  void LayOut(ToolWindow* window);
+
   /// Prints what a user would be shown, and answers with what the script keeps.
   struct PrintingUser : Respondent {
     explicit PrintingUser(ScriptOutput to) : output(std::move(to)) {}

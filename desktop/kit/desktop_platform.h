@@ -77,7 +77,9 @@ class DesktopPlatform : public Platform {
   bool IsBlocked(const ToolWindow* window) const;
   /// The room that a window may take on its screen, in the middle of it.
   virtual QRect Screen(const ToolWindow& window) const;
-  /// A window that is not painted, since nobody looks, is painted from now on.
+  /// A window that is not laid out, since nobody looks, is laid out from now on.
+  virtual void LetBeLaidOut(ToolWindow* /*window*/) {}
+  /// A window that is not painted is laid out and painted from now on.
   virtual void LetBeSeen(ToolWindow* /*window*/) {}
   /// All open windows show their records again.
   void RefreshWindows();

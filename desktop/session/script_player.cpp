@@ -174,7 +174,7 @@ void ScriptPlayer::Key(const Words& words) {
   if (sequence.isEmpty() || sequence[0].key() == Qt::Key_unknown) {
     throw ScriptError{"there is no key " + Quoted(words.back().text)};
   }
-  platform_.LetBeSeen(Current());  // where a key leads depends on what stands where
+  platform_.LetBeLaidOut(Current());  // where a key leads depends on what stands where
   LeadFocus(control);
   const QString text = words.back().text.size() == 1 ? words.back().text : QString();
   // As at a keyboard: a control that has a use for the key goes ahead of the window's own keys.

@@ -81,6 +81,21 @@ TEST(UnseenWindows, FollowFurtherCommandsOnceTheyAreLookedAt) {
   EXPECT_EQ(Places(unseen.Window("TRUSS")), Places(seen.Window("TRUSS")));
 }
 
+TEST(UnseenWindows, AreLaidOutButNotPaintedForAKey) {
+  OpenDesktop seen, unseen;
+  unseen.platform.PaintNothing();
+  for (OpenDesktop* desktop : {&seen, &unseen}) {
+    desktop->Play(kTruss);
+    desktop->Play({"key \"Top Node Loads (lbs)\" \"Tab\""});
+  }
+  ToolWindow* truss = unseen.Window("TRUSS");
+  EXPECT_EQ(Places(truss), Places(seen.Window("TRUSS")));
+  EXPECT_EQ(unseen.FocusIn("TRUSS"), seen.FocusIn("TRUSS"));
+  EXPECT_FALSE(truss->updatesEnabled());
+  unseen.platform.LetBeSeen(truss);
+  EXPECT_TRUE(truss->updatesEnabled());
+}
+
 /// A panel that opens moves what stands around it area by area; a look waits for that.
 TEST(UnseenWindows, StandStillWhenTheyAreLookedAtAgain) {
   OpenDesktop desktop;
