@@ -9,7 +9,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "app/window_names.h"
@@ -27,6 +26,7 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/scroll_page.h"
 #include "desktop/kit/statics_panel.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
@@ -44,6 +44,19 @@ QRadioButton* ChosenOption(const QGroupBox* frame) {
   }
   return options.front();
 }
+
+/// The panels that open below the results. They scroll rather than ask for all the room that they
+/// could use.
+class PanelPage : public ScrollPage {
+ public:
+  PanelPage() { SetMost({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}); }
+
+  QSize sizeHint() const override {
+    const int line = fontMetrics().height();
+    return ScrollPage::sizeHint().boundedTo({36 * line, 24 * line});
+  }
+  QSize minimumSizeHint() const override { return QScrollArea::minimumSizeHint(); }
+};
 
 /// One beam, its loads and what a run finds.
 class BeamForm : public ToolWindow {
@@ -354,10 +367,7 @@ StaticsView BeamForm::Statics() {
 }
 
 QWidget* BeamForm::Panels() {
-  auto* area = new QScrollArea;
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);  // what is in there is entered, not the area
+  auto* area = new PanelPage;
   area->setMinimumHeight(160);
   // It opens ahead of the panels, which take the focus as soon as they can be seen, and closes
   // behind them, when they have given it back.
@@ -373,7 +383,7 @@ QWidget* BeamForm::Panels() {
   rows->addWidget(MakePropertiesPanel(record_, binding()));
   rows->addWidget(MakeHeaderPanel(record_.header, binding(), session()));
   rows->addStretch();
-  area->setWidget(inner);
+  area->Hold(inner);
   binding().Follow([this, area] {
     if (!AnyPanelOpen()) area->hide();
   });
