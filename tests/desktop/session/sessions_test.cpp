@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStatusBar>
 #include <QTemporaryDir>
 
 #include "desktop/kit/text.h"
