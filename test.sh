@@ -52,7 +52,8 @@ mkdir -p build
 
 headline "Formatting"
 status=0
-git ls-files -z '*.h' '*.cpp' | xargs -0 --no-run-if-empty clang-format --dry-run -Werror || status=$?
+git ls-files -z '*.h' '*.cpp' |
+  xargs -0 --no-run-if-empty -P "$jobs" -n 50 clang-format --dry-run -Werror || status=$?
 count "$status"
 
 headline "Release build"
@@ -82,10 +83,10 @@ fi
 headline "Sanitizers"
 if build asan; then
   find build/asan -name '*.gcda' -delete
-  run_tests build/asan --tests-regex '^core$'
+  run_tests build/asan --tests-regex '^core\.'
   headline "Coverage of the core"
   mapfile -t filters < <(sed 's|.*|--filter=&/|' core_folders.txt)
-  gcovr --root . --object-directory build/asan "${filters[@]}" \
+  gcovr -j "$jobs" --root . --object-directory build/asan "${filters[@]}" \
     --print-summary --output build/asan/coverage.txt || count 1
   headline "Windows under the sanitizers"
   run_tests build/asan --tests-regex '^desktop\.'
