@@ -1,6 +1,8 @@
 // From the published values of a combination to the allowables of one member. Each step reads the
 // texts that the one before shows.
 
+#include "glulam/allowable_stresses.h"
+
 #include <optional>
 #include <string_view>
 
@@ -13,6 +15,7 @@
 #include "glulam/load_durations.h"
 #include "glulam/size_and_stability.h"
 #include "glulam/use_codes.h"
+#include "glulam/user_factors.h"
 #include "glulam/values_and_wet_factors.h"
 
 namespace lignara {
@@ -21,12 +24,6 @@ namespace {
 using Row = GlulamCombinationTable::Row;
 
 constexpr const char* kWhole = "0";
-
-/// Shows a value in 32 bits; one that met a fault leaves what stood there.
-void ShowValue(std::string& shown, const Number& value, std::string_view pattern) {
-  const std::optional<Float32> stored = NumberThatFits(value);
-  if (stored) shown = FormatNumber(*stored, pattern);
-}
 
 /// Another code leaves note and choice as they were.
 void FollowUseCode(GlulamWindow& window, const std::string& code) {
@@ -107,15 +104,12 @@ void ApplyColumnLimit(GlulamWindow& window, const GlulamSection& section) {
   if (!keeps) ShowValue(shown, euler.stress, kWhole);
 }
 
-void ApplyUserFactors(GlulamWindow& window) {
-  for (std::size_t i = 0; i < kGlulamValues; ++i) {
-    std::string& value = window.values[i];
-    const std::optional<Float32> factor = NumberThatFits(ReadNumber(window.factors[i]));
-    if (factor) ShowValue(value, ReadNumber(value) * *factor, kTwoDecimals);
-  }
-}
-
 }  // namespace
+
+void ShowValue(std::string& shown, const Number& value, std::string_view pattern) {
+  const std::optional<Float32> stored = NumberThatFits(value);
+  if (stored) shown = FormatNumber(*stored, pattern);
+}
 
 void RecomputeAllowables(GlulamWindow& window, const SessionState& session, Platform& platform) {
   if (window.combinations.rows.empty()) return;

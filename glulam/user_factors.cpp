@@ -10,6 +10,7 @@
 #include "app/number_that_fits.h"
 #include "app/plain_number.h"
 #include "app/replace_file.h"
+#include "glulam/allowable_stresses.h"
 
 namespace lignara {
 namespace {
@@ -71,6 +72,14 @@ void SaveUserFactors(const GlulamWindow& window, SessionState& session, Platform
 void HoldUserFactors(const GlulamWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   if (const auto lines = FactorLines(window)) session.FactorsInstead = lines;
+}
+
+void ApplyUserFactors(GlulamWindow& window) {
+  for (std::size_t i = 0; i < kGlulamValues; ++i) {
+    std::string& value = window.values[i];
+    const std::optional<Float32> factor = NumberThatFits(ReadNumber(window.factors[i]));
+    if (factor) ShowValue(value, ReadNumber(value) * *factor, kTwoDecimals);
+  }
 }
 
 }  // namespace lignara

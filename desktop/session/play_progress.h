@@ -7,6 +7,9 @@ class QProgressBar;
 
 namespace lignara {
 
+/// The milliseconds that a play takes before it shows a bar.
+inline constexpr int kProgressAfter = 500;
+
 /// While a session is played, a user's hand does nothing in the windows: what is clicked and typed
 /// is dropped. When the play takes long, a bar with "Cancel" comes up, above every window and
 /// barred by none; Escape cancels wherever the focus is.

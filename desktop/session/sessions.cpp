@@ -13,7 +13,6 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
-#include "desktop/session/play_progress.h"
 #include "desktop/session/play_report.h"
 #include "desktop/session/repeat_window.h"
 #include "desktop/session/session_file.h"

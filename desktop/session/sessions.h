@@ -6,6 +6,7 @@
 
 #include "app/session_state.h"
 #include "desktop/kit/session_commands.h"
+#include "desktop/session/play_progress.h"
 #include "desktop/session/session_player.h"
 #include "desktop/session/session_record.h"
 #include "desktop/session/undo_redo.h"
@@ -13,7 +14,6 @@
 namespace lignara {
 
 class DesktopPlatform;
-class PlayProgress;
 
 /// The session of a running program: what was done in it is recorded, saved, opened, taken back.
 class Sessions : public QObject, public SessionCommands {
@@ -67,7 +67,7 @@ class Sessions : public QObject, public SessionCommands {
   SessionRecord record_;
   UndoRedo undo_;
   QStringList saved_;  ///< the lines that a file holds
-  int progressAfter_ = 500;
+  int progressAfter_ = kProgressAfter;
   bool playing_ = false;
   bool replaying_ = false;  ///< from the start of the program on
   std::function<void()> replaced_ = [] {};
