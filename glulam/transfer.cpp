@@ -28,18 +28,6 @@ EnteredSizes ReadSizes(const GlulamWindow& window) {
   return {ReadNumber(window.length), ReadNumber(window.depth), ReadNumber(window.width)};
 }
 
-void HandOverSection(const EnteredSizes& sizes, MemberSelection& member) {
-  const Float32& d = sizes.depth;
-  const Float32& b = sizes.width;
-  member.SectionArea = d * b;
-  member.DressedB = b;
-  member.DressedD = d;
-  member.SectionIx = RectangleInertia(b, d);
-  member.SectionIy = RectangleInertia(d, b);
-  member.SectionSx = member.SectionIx / (d * 0.5);
-  member.SectionSy = member.SectionIy / (b * 0.5);
-}
-
 void HandOverStresses(const GlulamWindow& window, MemberSelection& member) {
   const Number tensionZone = ReadNumber(window.Value(GlulamValue::FbxTensionZone));
   const Number compressionZone = ReadNumber(window.Value(GlulamValue::FbxCompressionZone));
@@ -74,7 +62,7 @@ void TransferGlulamSelection(const GlulamWindow& window, SessionState& session,
     return;
   }
   session.Member.MemberSource = kGlulamSource;
-  HandOverSection(sizes, session.Member);
+  TakeRectangle(session.Member, sizes.width, sizes.depth);
   HandOverStresses(window, session.Member);
   session.Member.UnbracedLength = sizes.length;
   session.Glulam.UnbracedLength = sizes.length;

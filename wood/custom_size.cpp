@@ -6,6 +6,7 @@
 #include "app/section.h"
 
 namespace lignara {
+
 void FollowGroupSize(MemberSizeWindow& window, SessionState& session, MemberGroup group) {
   if (window.sizeInProgress) return;
   GroupPanel& panel = window.Group(group);
@@ -17,15 +18,9 @@ void FollowGroupSize(MemberSizeWindow& window, SessionState& session, MemberGrou
 
 void TakeBeamSection(MemberSizeWindow& window, MemberSelection& member, const Float64& width,
                      const Float64& depth) {
-  member.SectionArea = width * depth;
+  TakeRectangle(member, width, depth);
   member.NominalWidth = width;
-  member.DressedB = width;
   member.NominalDepth = depth;
-  member.DressedD = depth;
-  member.SectionIx = RectangleInertia(width, depth);
-  member.SectionIy = RectangleInertia(depth, width);
-  member.SectionSx = member.SectionIx / (0.5 * depth);
-  member.SectionSy = member.SectionIy / (0.5 * width);
   BeamPanel& beam = window.beam;
   beam.area = FormatNumber(member.SectionArea, kTwoDecimals);
   beam.ix = FormatNumber(member.SectionIx, kTwoDecimals);

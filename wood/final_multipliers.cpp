@@ -3,21 +3,11 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
-#include "wood/wood_data_base_window.h"
+#include "wood/final_selection.h"
+#include "wood/stress_adjustment_panel.h"
 
 namespace lignara {
 namespace {
-
-/// Reads the four fields that the user may type over. False where one of them is not above 0.
-bool ReadFactorFields(FactorPanel& panel) {
-  AdjustmentFactors& factors = panel.factors;
-  factors.Repetitive = ReadNumber(panel.repetitive);
-  factors.LoadDuration = ReadNumber(panel.loadDuration);
-  factors.FlatUse = ReadNumber(panel.flatUse);
-  factors.ShearCondition = ReadNumber(panel.shearCondition);
-  return factors.Repetitive > 0 && factors.LoadDuration > 0 && factors.FlatUse > 0 &&
-         factors.ShearCondition > 0;
-}
 
 /// Which multiplier acts on which shown value. The two compressions are crossed: the stress
 /// across the grain takes the multiplier of the one along it, and the reverse.
@@ -51,35 +41,13 @@ void ComputeMultipliers(AdjustmentFactors& factors) {
   factors.MultiplierOf(StressKind::E) = wet[6];
 }
 
-void CalculateFactors(WoodDataBaseWindow& window, Platform& platform) {
-  FaultScope faults(platform);
-  FactorPanel& panel = window.panel;
-  if (!ReadFactorFields(panel)) {
-    platform.ShowMessage({" An adjustment factor is <= 0, Enter a value!"});
-    return;
-  }
-  ComputeMultipliers(panel.factors);
-  for (int i = 0; i < kStressKinds; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    panel.multipliers[at] = FormatNumber(panel.factors.Multiplier[at], kTwoDecimals);
-  }
-}
-
-void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform) {
-  FaultScope faults(platform);
-  FactorPanel& panel = window.panel;
-  if (panel.MultiplierText(StressKind::Fb).empty()) {
-    platform.ShowMessage({"HIT THE CALCULATE FACTORS BUTTON !"});
-    return;
-  }
-  ShowChosenGrade(window, session, platform);
+void ApplyMultipliers(const FactorPanel& panel, FinalSelection& selection) {
   for (const AppliedMultiplier& applied : kAppliedMultipliers) {
-    std::string& shown = window.selection.*applied.shown;
+    std::string& shown = selection.*applied.shown;
     const Number product = ReadNumber(shown) * ReadNumber(panel.MultiplierText(applied.multiplier));
     ReportFault(product.fault());
     if (product.fault() == Fault::None) shown = FormatNumber(product.value(), applied.pattern);
   }
-  panel.open = false;
 }
 
 }  // namespace lignara

@@ -2,13 +2,12 @@
 
 #include <array>
 
-#include "app/platform.h"
-#include "app/session_state.h"
 #include "app/stored_number.h"
 
 namespace lignara {
 
-struct WoodDataBaseWindow;
+struct FactorPanel;
+struct FinalSelection;
 
 /// The stresses that have a final multiplier, in the order of `AdjustmentFactors::Multiplier` and
 /// of the fields "Final Stress Multipliers".
@@ -39,9 +38,7 @@ struct AdjustmentFactors {
 /// The final multipliers of all stresses from the factors, each in 32-bit float.
 void ComputeMultipliers(AdjustmentFactors& factors);
 
-/// "Calculate Factors".
-void CalculateFactors(WoodDataBaseWindow& window, Platform& platform);
-/// "OK" of the panel: applies the multipliers to the grade.
-void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform);
+/// Applies the multipliers that the panel shows to the stresses that the grade shows.
+void ApplyMultipliers(const FactorPanel& panel, FinalSelection& selection);
 
 }  // namespace lignara

@@ -2,6 +2,7 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
+#include "app/number_reader.h"
 #include "wood/adjustment_tables.h"
 #include "wood/wood_data_base_window.h"
 
@@ -81,6 +82,17 @@ void AnswerMoisture(FactorPanel& panel, bool wet) {
   }
 }
 
+/// Reads the four fields that the user may type over. False where one of them is not above 0.
+bool ReadFactorFields(FactorPanel& panel) {
+  AdjustmentFactors& factors = panel.factors;
+  factors.Repetitive = ReadNumber(panel.repetitive);
+  factors.LoadDuration = ReadNumber(panel.loadDuration);
+  factors.FlatUse = ReadNumber(panel.flatUse);
+  factors.ShearCondition = ReadNumber(panel.shearCondition);
+  return factors.Repetitive > 0 && factors.LoadDuration > 0 && factors.FlatUse > 0 &&
+         factors.ShearCondition > 0;
+}
+
 }  // namespace
 
 void OpenFactorPanel(WoodDataBaseWindow& window, Platform& platform) {
@@ -142,5 +154,31 @@ void AnswerFactorPair(WoodDataBaseWindow& window, Platform& platform, FactorPair
 }
 
 void CancelFactors(WoodDataBaseWindow& window) { window.panel.open = false; }
+
+void CalculateFactors(WoodDataBaseWindow& window, Platform& platform) {
+  FaultScope faults(platform);
+  FactorPanel& panel = window.panel;
+  if (!ReadFactorFields(panel)) {
+    platform.ShowMessage({" An adjustment factor is <= 0, Enter a value!"});
+    return;
+  }
+  ComputeMultipliers(panel.factors);
+  for (int i = 0; i < kStressKinds; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    panel.multipliers[at] = FormatNumber(panel.factors.Multiplier[at], kTwoDecimals);
+  }
+}
+
+void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform) {
+  FaultScope faults(platform);
+  FactorPanel& panel = window.panel;
+  if (panel.MultiplierText(StressKind::Fb).empty()) {
+    platform.ShowMessage({"HIT THE CALCULATE FACTORS BUTTON !"});
+    return;
+  }
+  ShowChosenGrade(window, session, platform);
+  ApplyMultipliers(panel, window.selection);
+  panel.open = false;
+}
 
 }  // namespace lignara

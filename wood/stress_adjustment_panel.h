@@ -6,6 +6,7 @@
 
 #include "app/list_rows.h"
 #include "app/platform.h"
+#include "app/session_state.h"
 #include "wood/final_multipliers.h"
 
 namespace lignara {
@@ -67,5 +68,10 @@ void ChooseFactorRow(WoodDataBaseWindow& window, Platform& platform, FactorList 
 void AnswerFactorPair(WoodDataBaseWindow& window, Platform& platform, FactorPair pair, bool yes);
 /// "Cancel" of the panel.
 void CancelFactors(WoodDataBaseWindow& window);
+
+/// "Calculate Factors".
+void CalculateFactors(WoodDataBaseWindow& window, Platform& platform);
+/// "OK" of the panel: applies the multipliers to the grade.
+void AcceptFactors(WoodDataBaseWindow& window, SessionState& session, Platform& platform);
 
 }  // namespace lignara
