@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/bench_truss.h"
-#include "truss/member_signs.h"
+#include "truss/axial_loads.h"
 #include "truss/truss_types.h"
 
 namespace lignara {

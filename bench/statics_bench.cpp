@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/bench_truss.h"
-#include "truss/member_signs.h"
+#include "truss/axial_loads.h"
 #include "truss/truss_statics.h"
 #include "truss/truss_types.h"
 
@@ -15,7 +15,7 @@ void TrussCheck(benchmark::State& state, const std::string& type) {
   const FaultScope faults(truss.platform);
   TrussJob job(truss.window.model, truss.session, truss.platform);
   AnalyseTruss(job);
-  const EndReactions reactions = ReactionsOf(truss.window.model);
+  const TrussReactions reactions = ReactionsOf(truss.window.model);
   // As after a run with sizes, but for the figures of the deflections.
   const int half = HalfSpans(truss.session);
   truss.window.model.DeflL.Allocate(half);

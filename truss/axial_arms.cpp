@@ -1,25 +1,10 @@
 #include "truss/axial_arms.h"
 
+#include "truss/geometry.h"
 #include "truss/half.h"
 
 namespace lignara {
 namespace {
-
-/// Sets the lengths of the diagonals anew; false where there is no panel length.
-bool ResetDiagonals(TrussJob& job) {
-  ActiveModel& m = job.model;
-  const Number panel = job.session.PanelLength;
-  const int n = job.HalfSpans();
-  if (!(panel > 0)) {
-    FailRun(job, "L=0, ERROR");
-    return false;
-  }
-  for (int i = 2; i < n; ++i) m.LEN_DL[i] = Sqrt(Square(panel) + Square(m.LEN_VL[i]));
-  for (TrussHalf& half : HalvesOf(m)) {
-    half.LEN_D[n] = Sqrt(Square(panel) + Square(job.session.TrussHeight));
-  }
-  return true;
-}
 
 /// ANG_V, ANG_D and ANG_T of PRATT1; false at a vertical without length.
 bool WebAngles(TrussJob& job) {

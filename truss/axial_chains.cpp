@@ -3,7 +3,9 @@
 #include "truss/axial_arms.h"
 #include "truss/axial_loads.h"
 #include "truss/geometry.h"
+#include "truss/member_signs.h"
 #include "truss/reactions.h"
+#include "truss/truss_types.h"
 
 namespace lignara {
 namespace {
@@ -55,6 +57,13 @@ void HOWE_AXIAL(TrussJob& job) {
 
 void WARREN_AXIAL(TrussJob& job) {
   Analyse(job, {SLOPE_FLAT, WARREN_LENGTH, REACTIONS_WARREN, WARREN_LOADS});
+}
+
+void AnalyseTruss(TrussJob& job) {
+  const TrussStep chain = job.type.chain;
+  if (chain != nullptr) chain(job);
+  MEMBER_SIGNS(job);
+  APPLY_SIGNS(job);
 }
 
 }  // namespace lignara

@@ -56,4 +56,7 @@ void PRATT2_AXIAL(TrussJob& job);
 void HOWE_AXIAL(TrussJob& job);
 void WARREN_AXIAL(TrussJob& job);
 
+/// One whole analysis: the chain of the type, the signs, the signed loads.
+void AnalyseTruss(TrussJob& job);
+
 }  // namespace lignara

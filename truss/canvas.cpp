@@ -2,6 +2,7 @@
 
 #include "app/fault.h"
 #include "truss/canvas_shapes.h"
+#include "truss/force_sense.h"
 #include "truss/geometry_drawn.h"
 #include "truss/truss_picture.h"
 #include "truss/truss_types.h"
@@ -21,15 +22,9 @@ void SetScales(TrussView& view, const SessionState& session) {
   view.PixelsPerFootY = height / session.TrussHeight * view.ZoomFactor;
 }
 
-/// The colour of a member after a run, by the axial load as it stands in the lists.
-Colour StressColour(const Float32& axial) {
-  if (axial > 0.0) return Colour::RoyalBlue;
-  return axial < 0.0 ? Colour::DarkOrange : Colour::Gray;
-}
-
 Colour MemberColour(const TrussWindow& window, const Member& member) {
   if (!window.view.resultsShown) return Colour::Black;
-  return StressColour(AxialOf(window.model, member.family)[member.index]);
+  return SenseOf(AxialOf(window.model, member.family)[member.index]).colour;
 }
 
 void DrawArrow(const TrussWindow& window, const SessionState& session, const TrussShape& shape,

@@ -1,9 +1,9 @@
 #include <optional>
 
 #include "app/number_pattern.h"
+#include "truss/force_and_length_lists.h"
 #include "truss/truss_types.h"
 #include "truss/truss_window.h"
-#include "truss/window_marks.h"
 
 namespace lignara {
 namespace {

@@ -20,4 +20,16 @@ std::vector<double> InputsOf(const ActiveModel& model, const SessionState& sessi
   return inputs;
 }
 
+bool IsOutOfDate(const TrussWindow& window, const SessionState& session) {
+  return window.view.resultsShown && window.ranWith != InputsOf(window.model, session);
+}
+
+bool AreStressesOlder(const TrussWindow& window) {
+  return window.outOfDate || window.stresses.empty();
+}
+
+bool AreDeflectionsOlder(const TrussWindow& window) {
+  return window.outOfDate || window.model.RunState.value() != 1;
+}
+
 }  // namespace lignara

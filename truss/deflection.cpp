@@ -4,7 +4,7 @@
 
 #include "app/number_pattern.h"
 #include "app/row_number.h"
-#include "truss/member_signs.h"
+#include "truss/axial_loads.h"
 #include "truss/members.h"
 #include "truss/top_nodes.h"
 

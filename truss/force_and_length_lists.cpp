@@ -1,5 +1,7 @@
 #include "truss/force_and_length_lists.h"
 
+#include <algorithm>
+
 #include "app/list_rows.h"
 #include "app/number_pattern.h"
 #include "truss/force_sense.h"
@@ -21,6 +23,8 @@ std::vector<std::string> MemberRows(const TrussWindow& window, const SessionStat
   }
   return rows;
 }
+
+bool IsSame(const Member& a, const Member& b) { return a.family == b.family && a.index == b.index; }
 
 RowNote AxialNote(const TrussWindow& window, const Member& member, bool above) {
   RowNote note;
@@ -62,5 +66,21 @@ void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platfor
 }
 
 void CloseMemberLengths(TrussWindow& window) { window.lengthsOpen = false; }
+
+std::optional<Member> LitMember(const TrussWindow& window, const SessionState& session) {
+  const auto members = AxialMembers(session);
+  const auto at = static_cast<std::size_t>(std::max(window.axialRow, 0));
+  if (at == 0 || at > members.size() || window.axialRows.empty()) return std::nullopt;
+  return members[at - 1];
+}
+
+void SelectAxialRow(TrussWindow& window, int row) { window.axialRow = row; }
+
+int AxialRowOf(const SessionState& session, const Member& member) {
+  const auto members = AxialMembers(session);
+  const auto found = std::find_if(members.begin(), members.end(),
+                                  [&](const Member& other) { return IsSame(other, member); });
+  return found == members.end() ? -1 : static_cast<int>(found - members.begin()) + 1;
+}
 
 }  // namespace lignara

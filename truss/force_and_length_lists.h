@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "truss/truss_window.h"
 
 namespace lignara {
@@ -13,5 +15,14 @@ std::vector<Member> AxialMembers(const SessionState& session);
 /// What stands beside the rows of "Axial Load (lbs)": tension or compression, and whether the
 /// member is above its allowable stress. None before a run.
 std::vector<RowNote> AxialNotes(const TrussWindow& window, const SessionState& session);
+
+/// The member of the chosen row of the axial list.
+std::optional<Member> LitMember(const TrussWindow& window, const SessionState& session);
+
+/// A click on a row of the axial list: its member is lit on the drawing.
+void SelectAxialRow(TrussWindow& window, int row);
+
+/// The row of a member in the axial list; -1 where it has none.
+int AxialRowOf(const SessionState& session, const Member& member);
 
 }  // namespace lignara

@@ -51,4 +51,19 @@ void DIAG_LENGTH(TrussJob& job) {
   }
 }
 
+bool ResetDiagonals(TrussJob& job) {
+  ActiveModel& m = job.model;
+  const Number panel = job.session.PanelLength;
+  const int n = job.HalfSpans();
+  if (!(panel > 0)) {
+    FailRun(job, "L=0, ERROR");
+    return false;
+  }
+  for (int i = 2; i < n; ++i) m.LEN_DL[i] = Sqrt(Square(panel) + Square(m.LEN_VL[i]));
+  for (TrussHalf& half : HalvesOf(m)) {
+    half.LEN_D[n] = Sqrt(Square(panel) + Square(job.session.TrussHeight));
+  }
+  return true;
+}
+
 }  // namespace lignara

@@ -33,6 +33,10 @@ void BOTTOM_LENGTH_SCI(TrussJob& job);
 
 /// Diagonals of PRATT1 and ENGLISH, from panel 2. ARMS_PRATT1 and ARMS_ENGLISH come after it.
 void DIAG_LENGTH(TrussJob& job);
+/// Sets the lengths of those diagonals anew, as ARMS_PRATT1 and ARMS_ENGLISH begin: it is these
+/// that lists, stresses and deflections read. False, with "L=0, ERROR", where there is no panel
+/// length.
+bool ResetDiagonals(TrussJob& job);
 /// Diagonals of FINK, from panel 2.
 void DIAG_LENGTH_FINK(TrussJob& job);
 
@@ -40,5 +44,15 @@ void DIAG_LENGTH_FINK(TrussJob& job);
 void FLAT_LENGTH(TrussJob& job);
 /// All lengths of WARREN.
 void WARREN_LENGTH(TrussJob& job);
+
+// What a type has worked out once, when it is drawn: see truss/geometry_drawn.h.
+
+/// Slope of the rafter and ANG_W, the lean of the webs.
+void FinkDrawnGeometry(TrussJob& job);
+/// Angles and lengths of a scissors truss. The inner height is not held against the height: where
+/// it is the larger one, lengths turn negative and the run finds it out.
+void ScissorsDrawnGeometry(TrussJob& job);
+/// WarrenChord: the chord on which the midspan node lies.
+void WarrenDrawnGeometry(TrussJob& job);
 
 }  // namespace lignara

@@ -1,6 +1,5 @@
 #include "truss/geometry_drawn.h"
 
-#include "truss/geometry.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -8,41 +7,6 @@ namespace lignara {
 void SetDrawnGeometry(TrussJob& job) {
   const TrussStep step = job.type.drawnGeometry;
   if (step != nullptr) step(job);
-}
-
-void FinkDrawnGeometry(TrussJob& job) {
-  SLOPE_PEAK(job);
-  job.model.ANG_W = kRightAngle - job.model.ANG_AC;
-}
-
-void ScissorsDrawnGeometry(TrussJob& job) {
-  ActiveModel& m = job.model;
-  const SessionState& s = job.session;
-  m.ANG_A = Atan(s.TrussHeight / (0.5 * s.TrussLength));
-  m.ANG_AB = Atan(s.TrussInnerHeight / (s.TrussLength / 2));
-
-  // The angles of the triangle between heel, web and rafter. Three roundings of pi meet here; the
-  // printed lengths follow from them, so none may be made more exact.
-  const Float32 a1 = m.ANG_A - m.ANG_AB;
-  const Float32 a2 = kRightAngle - m.ANG_A;
-  const Float32 a3 = 3.1416 - (m.ANG_A + m.ANG_AB + a2);
-  const Float32 a4 = 3.14159 - a2 - a3;
-  m.SCI_A5 = kRightAngle - a4;
-  m.SCI_A7 = kRightAngle - a1 - m.SCI_A5;
-  m.SCI_A8 = kRightAngle - m.ANG_A - m.ANG_AB;
-
-  m.SCI_BOTTOM = s.TrussInnerHeight / Sin(m.ANG_AB);
-  m.SCI_ARM = m.SCI_BOTTOM * Sin(m.SCI_A7);
-  m.SCI_TOP1 = m.SCI_ARM / Cos(m.SCI_A8);
-  m.SCI_RISE = m.SCI_TOP1 * Sin(m.ANG_A);
-  m.SCI_RUN = m.SCI_RISE / Tan(m.ANG_A);
-  m.SCI_TOP2 = s.TrussLength * 0.5 / Cos(m.ANG_A) - m.SCI_TOP1;
-  m.SCI_WEB = m.SCI_RISE / Sin(m.ANG_AB) - m.SCI_BOTTOM;
-}
-
-void WarrenDrawnGeometry(TrussJob& job) {
-  const Number quarter = job.session.TrussSpans / 2 / 2;
-  job.model.WarrenChord = quarter == Floor(quarter) ? "TOP" : "BOTTOM";
 }
 
 }  // namespace lignara

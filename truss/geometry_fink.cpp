@@ -33,4 +33,9 @@ void DIAG_LENGTH_FINK(TrussJob& job) {
   }
 }
 
+void FinkDrawnGeometry(TrussJob& job) {
+  SLOPE_PEAK(job);
+  job.model.ANG_W = kRightAngle - job.model.ANG_AC;
+}
+
 }  // namespace lignara

@@ -36,4 +36,9 @@ void WARREN_LENGTH(TrussJob& job) {
   }
 }
 
+void WarrenDrawnGeometry(TrussJob& job) {
+  const Number quarter = job.session.TrussSpans / 2 / 2;
+  job.model.WarrenChord = quarter == Floor(quarter) ? "TOP" : "BOTTOM";
+}
+
 }  // namespace lignara

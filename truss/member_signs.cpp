@@ -7,53 +7,53 @@
 namespace lignara {
 namespace {
 
-constexpr int kCompression = -1;
-constexpr int kTension = 1;
+constexpr int kPresses = -1;
+constexpr int kPulls = 1;
 
 SignRule Sign(int sign, Family left, Family right, int first = 1, Upper last = Upper::Half) {
   return {{{left, right}, first, last}, sign};
 }
 
 Signs WithChords(Signs signs) {
-  signs.push_back(Sign(kCompression, Family::TL, Family::TR));
-  signs.push_back(Sign(kTension, Family::CL, Family::CR));
+  signs.push_back(Sign(kPresses, Family::TL, Family::TR));
+  signs.push_back(Sign(kPulls, Family::CL, Family::CR));
   return signs;
 }
 
-SignRule CentreInCompression() { return {CentreVertical(), kCompression}; }
+SignRule CentreInCompression() { return {CentreVertical(), kPresses}; }
 
 }  // namespace
 
 Signs Pratt1Signs() {
   return WithChords(
-      {Sign(kCompression, Family::VL, Family::VR), Sign(kTension, Family::DL, Family::DR, 2)});
+      {Sign(kPresses, Family::VL, Family::VR), Sign(kPulls, Family::DL, Family::DR, 2)});
 }
 
 Signs EnglishSigns() {
-  return WithChords({Sign(kTension, Family::VL, Family::VR),
-                     Sign(kCompression, Family::DL, Family::DR, 2), CentreInCompression()});
+  return WithChords({Sign(kPulls, Family::VL, Family::VR),
+                     Sign(kPresses, Family::DL, Family::DR, 2), CentreInCompression()});
 }
 
 Signs KingPostSigns() {
-  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::One),
-          Sign(kTension, Family::CL, Family::CR, 1, Upper::One), CentreInCompression()};
+  return {Sign(kPresses, Family::TL, Family::TR, 1, Upper::One),
+          Sign(kPulls, Family::CL, Family::CR, 1, Upper::One), CentreInCompression()};
 }
 
 Signs ScissorsSigns() {
-  return {Sign(kCompression, Family::TL, Family::TR, 1, Upper::Two),
-          Sign(kTension, Family::CL, Family::CR, 1, Upper::One),
-          Sign(kCompression, Family::VL, Family::VR, 1, Upper::One), CentreInCompression()};
+  return {Sign(kPresses, Family::TL, Family::TR, 1, Upper::Two),
+          Sign(kPulls, Family::CL, Family::CR, 1, Upper::One),
+          Sign(kPresses, Family::VL, Family::VR, 1, Upper::One), CentreInCompression()};
 }
 
 Signs Pratt2Signs() {
-  return WithChords({Sign(kCompression, Family::VL, Family::VR),
-                     Sign(kTension, Family::DL, Family::DR), CentreInCompression()});
+  return WithChords({Sign(kPresses, Family::VL, Family::VR), Sign(kPulls, Family::DL, Family::DR),
+                     CentreInCompression()});
 }
 
 Signs HoweSigns() {
-  return WithChords({Sign(kCompression, Family::VL, Family::VR, 1, Upper::One),
-                     Sign(kTension, Family::VL, Family::VR, 2),
-                     Sign(kCompression, Family::DL, Family::DR), CentreInCompression()});
+  return WithChords({Sign(kPresses, Family::VL, Family::VR, 1, Upper::One),
+                     Sign(kPulls, Family::VL, Family::VR, 2),
+                     Sign(kPresses, Family::DL, Family::DR), CentreInCompression()});
 }
 
 void MEMBER_SIGNS(TrussJob& job) {
@@ -79,13 +79,6 @@ void APPLY_SIGNS(TrussJob& job) {
       if (signs[i] == -1) loads[i] = loads[i] * -1.0;
     }
   }
-}
-
-void AnalyseTruss(TrussJob& job) {
-  const TrussStep chain = job.type.chain;
-  if (chain != nullptr) chain(job);
-  MEMBER_SIGNS(job);
-  APPLY_SIGNS(job);
 }
 
 }  // namespace lignara

@@ -29,7 +29,4 @@ void MEMBER_SIGNS(TrussJob& job);
 /// Turns the magnitudes of members in compression negative. Once per analysis.
 void APPLY_SIGNS(TrussJob& job);
 
-/// One whole analysis: the chain of the type, the signs, the signed loads.
-void AnalyseTruss(TrussJob& job);
-
 }  // namespace lignara

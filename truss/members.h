@@ -42,13 +42,6 @@ std::string RowLabel(const Member& member);
 /// The line over a member's stresses: "TL1" or "(TL 1)".
 std::string StressLabel(const Member& member);
 
-/// The axial stress of a member after a run, without sign, and what it is held against, psi.
-struct MemberStress {
-  Member member;
-  Float32 actual;
-  Float32 allowable;
-};
-
 /// Where a range of members ends: at element 1, 2, N or N-1, N being half the panels.
 enum class Upper { One, Two, Half, BeforeHalf };
 

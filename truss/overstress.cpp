@@ -16,9 +16,6 @@ std::optional<Float32> StressRatio(const MemberStress& stress) {
 
 namespace {
 
-/// The lines of a member in the list of stresses.
-constexpr std::size_t kStressLines = 4;
-
 /// The member with the highest ratio; one without an allowable stress is above all others.
 const MemberStress* WorstOf(const std::vector<MemberStress>& stresses) {
   const auto less = [](const MemberStress& a, const MemberStress& b) {

@@ -90,4 +90,8 @@ void SHOW_REACTIONS(TrussWindow& window) {
   window.rightReaction = FormatNumber(window.model.NODE_RR, kTwoDecimals);
 }
 
+TrussReactions ReactionsOf(const ActiveModel& model) {
+  return {static_cast<double>(model.NODE_RL.value()), static_cast<double>(model.NODE_RR.value())};
+}
+
 }  // namespace lignara

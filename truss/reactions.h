@@ -25,4 +25,10 @@ void REACTIONS_WARREN(TrussJob& job);
 /// unit loads of the deflections overwrite those of the model.
 void SHOW_REACTIONS(TrussWindow& window);
 
+/// The end reactions of a run, lbs, upward.
+struct TrussReactions {
+  double left = 0, right = 0;
+};
+TrussReactions ReactionsOf(const ActiveModel& model);
+
 }  // namespace lignara

@@ -184,23 +184,6 @@ void WriteLoadsToWoodType(TrussReport& sections) {
 
 }  // namespace
 
-void OpenHeadings(TrussWindow& window) { window.headingsOpen = true; }
-void CloseHeadings(TrussWindow& window) { window.headingsOpen = false; }
-
-void AcceptHeadings(TrussWindow& window, SessionState& session) {
-  session.ReportTitle = window.titleText;
-  session.ReportDescription = window.descriptionText;
-  CloseHeadings(window);
-}
-
-void OpenFonts(TrussWindow& window) { window.fontsOpen = true; }
-void CloseFonts(TrussWindow& window) { window.fontsOpen = false; }
-
-void AcceptFonts(TrussWindow& window, SessionState& session) {
-  ChooseReportFont(session, window.fontTimes, window.fontTen);
-  CloseFonts(window);
-}
-
 Report TRUSS_FILE(const TrussWindow& window, SessionState& session) {
   const NoMemberRule areas(session);
   TrussReport sections(window, session, 0);

@@ -5,20 +5,6 @@
 
 namespace lignara {
 
-/// "Headings...": opens the panel "Output Description".
-void OpenHeadings(TrussWindow& window);
-/// Leaves that panel; the texts stay in it and do not go into the session.
-void CloseHeadings(TrussWindow& window);
-/// "OK" of that panel: title and description go into the session.
-void AcceptHeadings(TrussWindow& window, SessionState& session);
-
-/// "Fonts...": opens the panel "Fonts".
-void OpenFonts(TrussWindow& window);
-/// Leaves that panel; the session's font stays.
-void CloseFonts(TrussWindow& window);
-/// "OK" of that panel: the font goes into the session. Reports keep their own font.
-void AcceptFonts(TrussWindow& window, SessionState& session);
-
 /// "Print": needs a run without errors. The view is afterwards as on opening the window.
 void PrintTruss(TrussWindow& window, SessionState& session, Platform& platform);
 /// "Save Output to Text File...": the chosen file is made first; it stays empty without a run.

@@ -1,7 +1,7 @@
+#include "truss/axial_loads.h"
 #include "truss/canvas.h"
 #include "truss/changed_since_run.h"
 #include "truss/force_and_length_lists.h"
-#include "truss/member_signs.h"
 #include "truss/reactions.h"
 #include "truss/stress_check.h"
 #include "truss/truss_statics.h"
@@ -22,7 +22,7 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform) {
   AnalyseTruss(job);
   SHOW_REACTIONS(window);
   SHOW_AXIAL(window, session);
-  const EndReactions reactions = ReactionsOf(model);
+  const TrussReactions reactions = ReactionsOf(model);
 
   const DeflectionStep deflections = job.type.deflections;
   if (deflections != nullptr) deflections(job, window.deflectionRows);

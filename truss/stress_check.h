@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,16 @@ struct StressWording {
 // counts on that.
 std::vector<StressWording> SpacedTop();
 std::vector<StressWording> KingPostWordings();
+
+/// The axial stress of a member after a run, without sign, and what it is held against, psi.
+struct MemberStress {
+  Member member;
+  Float32 actual;
+  Float32 allowable;
+};
+
+/// The lines of a member in the list of stresses.
+inline constexpr std::size_t kStressLines = 4;
 
 /// Euler value of a column, psi: 0.3 E / (l / d)^2, d being the smaller side. `length` in ft, `E`
 /// in psi, `B` and `D` in inches. 0 where the length or a side is not above 0: a member that is not

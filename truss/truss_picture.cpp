@@ -6,6 +6,9 @@
 #include "app/number_pattern.h"
 #include "truss/canvas.h"
 #include "truss/canvas_shapes.h"
+#include "truss/changed_since_run.h"
+#include "truss/force_and_length_lists.h"
+#include "truss/force_sense.h"
 #include "truss/top_nodes.h"
 #include "truss/truss_types.h"
 #include "truss/window_marks.h"
@@ -19,25 +22,15 @@ constexpr double kAbove = 560;
 constexpr double kAboveOnPaper = 330;
 constexpr double kBelow = 200;
 
-/// How members of one sense of force are shown.
-struct Sense {
-  Colour colour;
-  Stroke stroke;
-  const char* meaning;
-};
-constexpr Sense kTension = {Colour::RoyalBlue, Stroke::Fine, "Tension"};
-constexpr Sense kCompression = {Colour::DarkOrange, Stroke::Heavy, "Compression"};
-constexpr Sense kNoForce = {Colour::Gray, Stroke::Dotted, "No force"};
-constexpr Sense kNotRun = {Colour::Black, Stroke::Plain, ""};
+/// A member before a run.
+constexpr ForceSense kNotRun = {"", "", "", Colour::Black, Stroke::Plain};
 
 /// Series of names beside those of the member families.
 constexpr int kNodeSeries = 100;
 
-const Sense& SenseOf(const TrussWindow& window, const Member& member) {
+const ForceSense& ShownSense(const TrussWindow& window, const Member& member) {
   if (!window.view.resultsShown) return kNotRun;
-  const Float32& axial = AxialOf(window.model, member.family)[member.index];
-  if (axial > 0) return kTension;
-  return axial < 0 ? kCompression : kNoForce;
+  return SenseOf(AxialOf(window.model, member.family)[member.index]);
 }
 
 /// Outside of the chords, and of the webs on the side of midspan.
@@ -78,7 +71,7 @@ class SceneMaker {
  private:
   void AddMember(const CanvasLine& line) {
     const Member& member = line.member;
-    const Sense& sense = SenseOf(window_, member);
+    const ForceSense& sense = ShownSense(window_, member);
     const CanvasPoint mark = line.Middle();
     NamedLine named;
     named.x1 = line.from.x, named.y1 = line.from.y;
@@ -181,7 +174,7 @@ Scene MakeScene(const TrussWindow& window, const SessionState& session, bool pap
 
 std::vector<LegendEntry> TrussLegend(bool paper) {
   std::vector<LegendEntry> legend;
-  for (const Sense& sense : {kTension, kCompression, kNoForce}) {
+  for (const ForceSense& sense : {kTension, kCompression, kNoForce}) {
     legend.push_back({paper ? Colour::Black : sense.colour, sense.stroke, false, sense.meaning});
   }
   legend.push_back({Colour::Black, Stroke::Plain, true, "Above allowable stress"});

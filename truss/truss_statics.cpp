@@ -149,7 +149,7 @@ class Comparison {
              const DescribedTruss& described, const PinSolution& solution)
       : window_(window), session_(session), described_(described), solution_(solution) {}
 
-  void AddReactions(const EndReactions& reactions) {
+  void AddReactions(const TrussReactions& reactions) {
     AddReaction("Left Side", reactions.left, described_.leftSupport);
     AddReaction("Right Side", reactions.right, described_.rightSupport);
   }
@@ -265,12 +265,8 @@ DescribedTruss DescribeForStatics(const TrussWindow& window, const SessionState&
   return described;
 }
 
-EndReactions ReactionsOf(const ActiveModel& model) {
-  return {static_cast<double>(model.NODE_RL.value()), static_cast<double>(model.NODE_RR.value())};
-}
-
 void CheckTrussStatics(TrussWindow& window, const SessionState& session,
-                       const EndReactions& reactions) {
+                       const TrussReactions& reactions) {
   const SilentFaults faults;
   ClearStatics(window.statics);
   window.departing.clear();

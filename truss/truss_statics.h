@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "statics/plane_truss.h"
+#include "truss/reactions.h"
 #include "truss/top_nodes.h"
 #include "truss/truss_window.h"
 
@@ -22,16 +23,10 @@ struct DescribedTruss {
 /// Describes the truss that the window draws. No joints where it draws none.
 DescribedTruss DescribeForStatics(const TrussWindow& window, const SessionState& session);
 
-/// The end reactions of a run, lbs, upward.
-struct EndReactions {
-  double left = 0, right = 0;
-};
-EndReactions ReactionsOf(const ActiveModel& model);
-
 /// Holds the results of a run against statics: reactions, the forces of all listed members, and
 /// where sizes are chosen the deflections of the top nodes. Called at the end of a run; the
 /// reactions are those from before its unit loads.
 void CheckTrussStatics(TrussWindow& window, const SessionState& session,
-                       const EndReactions& reactions);
+                       const TrussReactions& reactions);
 
 }  // namespace lignara

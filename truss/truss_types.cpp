@@ -4,7 +4,7 @@
 
 #include "truss/axial_loads.h"
 #include "truss/deflection.h"
-#include "truss/geometry_drawn.h"
+#include "truss/geometry.h"
 #include "truss/listed_and_checked_members.h"
 #include "truss/member_layout_rules.h"
 #include "truss/member_signs.h"

@@ -3,6 +3,7 @@
 #include "app/fault.h"
 #include "app/window_names.h"
 #include "truss/canvas.h"
+#include "truss/headings_and_fonts.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -12,13 +13,6 @@ namespace {
 void SetPanelLength(SessionState& session) {
   const bool two = TrussTypeOf(session.TrussType).onePanelAHalf;
   session.PanelLength = session.TrussLength / (two ? Number(2) : Number(session.TrussSpans));
-}
-
-void ShowReportChoices(TrussWindow& window, const SessionState& session) {
-  window.titleText = session.ReportTitle;
-  window.descriptionText = session.ReportDescription;
-  window.fontTimes = session.ReportFont.Name != "Arial";
-  window.fontTen = session.ReportFont.Size.value() != 8;
 }
 
 }  // namespace

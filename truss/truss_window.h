@@ -12,6 +12,7 @@
 #include "statics/comparison.h"
 #include "truss/active_model.h"
 #include "truss/members.h"
+#include "truss/stress_check.h"
 
 namespace lignara {
 
@@ -69,7 +70,7 @@ struct TrussWindow {
   bool stressOpen = false;  ///< panel "Actual and Allowable Axial Stresses"
   std::vector<std::string> stressRows;
   std::vector<MemberStress> stresses;  ///< of the last run; none where it had no members
-  std::vector<double> ranWith;         ///< the inputs of the last run (run_inputs.h)
+  std::vector<double> ranWith;         ///< the inputs of the last run (changed_since_run.h)
 
   // The second opinion on the last run (truss_statics.h).
   StaticsCheck statics;

@@ -17,8 +17,6 @@ namespace {
 constexpr const char* kNeedsRun = "needs a run";
 constexpr const char* kNeedsMembers = "needs wood type and size";
 
-bool IsSame(const Member& a, const Member& b) { return a.family == b.family && a.index == b.index; }
-
 std::string StatusLine(const TrussWindow& window, bool outOfDate) {
   if (!window.view.resultsShown) return "";
   if (outOfDate) return "Results are out of date: loads or members have changed. Run again.";
@@ -31,25 +29,6 @@ std::string HitSense(const TrussWindow& window) {
 }
 
 }  // namespace
-
-bool IsOutOfDate(const TrussWindow& window, const SessionState& session) {
-  return window.view.resultsShown && window.ranWith != InputsOf(window.model, session);
-}
-
-bool AreStressesOlder(const TrussWindow& window) {
-  return window.outOfDate || window.stresses.empty();
-}
-
-bool AreDeflectionsOlder(const TrussWindow& window) {
-  return window.outOfDate || window.model.RunState.value() != 1;
-}
-
-std::optional<Member> LitMember(const TrussWindow& window, const SessionState& session) {
-  const auto members = AxialMembers(session);
-  const auto at = static_cast<std::size_t>(std::max(window.axialRow, 0));
-  if (at == 0 || at > members.size() || window.axialRows.empty()) return std::nullopt;
-  return members[at - 1];
-}
 
 MemberSet DepartingMembers(const TrussWindow& window) {
   MemberSet members;
@@ -70,15 +49,6 @@ void ShowMarks(TrussWindow& window, const SessionState& session) {
   window.whyNoDeflections = missing;
   window.whyNoStresses = missing;
   window.view.drawing.scene = WindowScene(window, session);
-}
-
-void SelectAxialRow(TrussWindow& window, int row) { window.axialRow = row; }
-
-int AxialRowOf(const SessionState& session, const Member& member) {
-  const auto members = AxialMembers(session);
-  const auto found = std::find_if(members.begin(), members.end(),
-                                  [&](const Member& other) { return IsSame(other, member); });
-  return found == members.end() ? -1 : static_cast<int>(found - members.begin()) + 1;
 }
 
 }  // namespace lignara

@@ -19,7 +19,7 @@
 #include "desktop/kit/session_commands.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
-#include "truss/description.h"
+#include "truss/picture_in_words.h"
 #include "truss/sketches.h"
 #include "truss/truss_types.h"
 

@@ -15,7 +15,7 @@
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
-#include "truss/description.h"
+#include "truss/picture_in_words.h"
 #include "truss/truss_picture.h"
 
 namespace lignara {

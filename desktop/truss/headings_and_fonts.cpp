@@ -10,6 +10,7 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
 #include "desktop/kit/tool_window.h"
+#include "truss/headings_and_fonts.h"
 #include "truss/report.h"
 
 namespace lignara {

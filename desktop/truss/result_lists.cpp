@@ -7,7 +7,7 @@
 
 #include "desktop/kit/form.h"
 #include "desktop/kit/tool_window.h"
-#include "truss/window_marks.h"
+#include "truss/changed_since_run.h"
 
 namespace lignara {
 namespace {

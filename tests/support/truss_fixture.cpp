@@ -1,7 +1,7 @@
 #include "tests/support/truss_fixture.h"
 
+#include "truss/axial_loads.h"
 #include "truss/geometry_drawn.h"
-#include "truss/member_signs.h"
 
 namespace lignara {
 

@@ -5,6 +5,7 @@
 
 #include "tests/support/drawn_members.h"
 #include "tests/support/reported_truss.h"
+#include "truss/headings_and_fonts.h"
 
 namespace lignara {
 namespace {

@@ -9,6 +9,7 @@
 #include "tests/support/drawn_members.h"
 #include "tests/support/reported_truss.h"
 #include "truss/canvas.h"
+#include "truss/force_and_length_lists.h"
 #include "truss/window_marks.h"
 
 namespace lignara {

@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/opened_truss.h"
+#include "truss/changed_since_run.h"
+#include "truss/force_and_length_lists.h"
 
 namespace lignara {
 namespace {

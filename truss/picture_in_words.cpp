@@ -1,4 +1,4 @@
-#include "truss/description.h"
+#include "truss/picture_in_words.h"
 
 #include <cctype>
 #include <cmath>
@@ -6,6 +6,7 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
+#include "truss/force_sense.h"
 #include "truss/truss_types.h"
 
 namespace lignara {
@@ -28,7 +29,7 @@ std::optional<Member> MostStrained(const TrussWindow& window, const SessionState
 std::string ForceInWords(const TrussWindow& window, const Member& member) {
   const Float32 force = AxialOf(window.model, member.family)[member.index];
   return MemberLabel(member) + " " + FormatNumber(std::abs(force.value()), kTwoDecimals) + " lbs " +
-         (force.value() < 0 ? "compression" : "tension");
+         SenseOf(force).spoken;
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // A truss in words, for who cannot see the picture.
 
-#include "truss/description.h"
+#include "truss/picture_in_words.h"
 
 #include <gtest/gtest.h>
 
