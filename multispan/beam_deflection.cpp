@@ -40,7 +40,7 @@ MomentCurve UnitCurve(const MultiSpanSolution& solution, double x) {
   const int loaded = SpanAt(unit, x);
   unit.Span(loaded).points = {{1.0, x - unit.StartOf(loaded)}};
   const DistributionResult result = Distribute(unit);
-  return IntegrateShear(DrawShear(unit, result), result.finalMoment(1, kLeftEnd),
+  return IntegrateShear(FindShear(unit, result), result.finalMoment(1, kLeftEnd),
                         solution.curve.length, solution.curve.integrations);
 }
 

@@ -4,7 +4,7 @@
 
 #include "multispan/beam_case.h"
 #include "multispan/distribution_result.h"
-#include "multispan/shear_diagram.h"
+#include "multispan/shear_curve.h"
 
 namespace lignara {
 

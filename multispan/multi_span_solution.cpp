@@ -8,7 +8,7 @@ MultiSpanSolution solveMultiSpan(const MultiSpanModel& model) {
   MultiSpanSolution s;
   s.beam = RealLoads(model);
   s.moments = Distribute(s.beam);
-  s.shear = DrawShear(s.beam, s.moments);
+  s.shear = FindShear(s.beam, s.moments);
   s.curve = IntegrateShear(s.shear, s.moments.finalMoment(1, kLeftEnd), s.beam.TotalLength(),
                            model.curveIntegrations.value());
   s.maximum = FindMaximumMoment(s.beam, s.moments, s.curve);

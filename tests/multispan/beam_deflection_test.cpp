@@ -20,7 +20,7 @@ MultiSpanSolution SolutionOf(const BeamCase& beam, int integrations = 8000) {
   MultiSpanSolution s;
   s.beam = beam;
   s.moments = Distribute(beam);
-  s.shear = DrawShear(beam, s.moments);
+  s.shear = FindShear(beam, s.moments);
   s.curve =
       IntegrateShear(s.shear, s.moments.finalMoment(1, kLeftEnd), beam.TotalLength(), integrations);
   return s;

@@ -201,7 +201,7 @@ TEST(ContinuousBeam, ShearFallsToZeroBehindTheLastReaction) {
   for (const EndSupport left : kSupports) {
     for (const EndSupport right : kSupports) {
       const BeamCase beam = RandomBeam(random, 5, left, right);
-      const ShearDiagram shear = DrawShear(beam, Distribute(beam));
+      const ShearDiagram shear = FindShear(beam, Distribute(beam));
       EXPECT_NEAR(shear.vertices.back().shear, 0, 1e-6 * TotalLoad(beam));
     }
   }
@@ -216,7 +216,7 @@ TEST(ContinuousBeam, CurveMeetsTheEndMoments) {
       beam.Span(2).points = {{1000, 5}, {2500, 12}};
       const DistributionResult r = Distribute(beam);
       const MomentCurve curve =
-          IntegrateShear(DrawShear(beam, r), r.finalMoment(1, kLeftEnd), 80, 8000);
+          IntegrateShear(FindShear(beam, r), r.finalMoment(1, kLeftEnd), 80, 8000);
       ASSERT_EQ(curve.stations.size(), 8001u);
       for (int j = 2; j <= 5; ++j) {
         const int joint = static_cast<int>(beam.StartOf(j) * 100);

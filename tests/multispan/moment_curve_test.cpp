@@ -15,7 +15,7 @@ struct Solved {
   Solved(const BeamCase& solved, int integrations = 8000)
       : beam(solved),
         result(Distribute(beam)),
-        curve(IntegrateShear(DrawShear(beam, result), result.finalMoment(1, kLeftEnd),
+        curve(IntegrateShear(FindShear(beam, result), result.finalMoment(1, kLeftEnd),
                              beam.TotalLength(), integrations)) {}
 
   MaximumMoment Maximum() const { return FindMaximumMoment(beam, result, curve); }

@@ -1,4 +1,4 @@
-#include "multispan/shear_diagram.h"
+#include "multispan/shear_curve.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ constexpr EndSupport kFixed = EndSupport::Fixed;
 constexpr EndSupport kPinned = EndSupport::Pinned;
 constexpr EndSupport kNone = EndSupport::None;
 
-ShearDiagram DiagramOf(const BeamCase& beam) { return DrawShear(beam, Distribute(beam)); }
+ShearDiagram DiagramOf(const BeamCase& beam) { return FindShear(beam, Distribute(beam)); }
 
 std::vector<double> Places(const ShearDiagram& diagram) {
   std::vector<double> places;

@@ -28,7 +28,7 @@ struct ShearDiagram {
 };
 
 /// Builds the polyline from the loads and the reactions.
-ShearDiagram DrawShear(const BeamCase& beam, const DistributionResult& result);
+ShearDiagram FindShear(const BeamCase& beam, const DistributionResult& result);
 
 /// The largest magnitude of shear within each span, from 1, lbs.
 std::vector<float> LargestShears(const ShearDiagram& diagram);

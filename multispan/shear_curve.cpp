@@ -1,4 +1,4 @@
-#include "multispan/shear_diagram.h"
+#include "multispan/shear_curve.h"
 
 #include <algorithm>
 #include <cmath>
@@ -79,7 +79,7 @@ double ShearDiagram::ShearAt(double x) const {
   return shear;
 }
 
-ShearDiagram DrawShear(const BeamCase& beam, const DistributionResult& result) {
+ShearDiagram FindShear(const BeamCase& beam, const DistributionResult& result) {
   ShearDiagram diagram;
   diagram.spans.emplace_back();
   ShearWalk walk(result.reaction[1]);
