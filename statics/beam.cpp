@@ -9,8 +9,6 @@
 namespace lignara {
 namespace {
 
-/// Two peaks of a run that are this close are told apart by nothing but its rounding.
-
 /// Takes a curve of a stretch into its range: the ends, and where the curve is level.
 void Take(const Polynomial& curve, double length, CurveRange& range) {
   const auto take = [&](double value) {
