@@ -8,8 +8,6 @@ namespace {
 
 using Member = MemberSelection;
 
-constexpr const char* kTwoDecimals = "0.00";
-
 /// A field of the stress panel and where its value stands in the chosen member.
 struct FilledStress {
   StressField field;

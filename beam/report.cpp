@@ -10,7 +10,6 @@
 namespace lignara {
 namespace {
 
-constexpr const char* kTwoDecimals = "0.00";
 constexpr const char* kFourDecimals = "0.0000";
 
 std::string Shown(const Number& number, const char* pattern = kTwoDecimals) {

@@ -9,8 +9,6 @@
 namespace lignara {
 namespace {
 
-constexpr const char* kTwoDecimals = "0.00";
-
 bool HasDisplacedSupport(const SingleSpanBeam& beam) {
   return HasLoadOf(beam, LoadKind::LeftDisplacement) ||
          HasLoadOf(beam, LoadKind::RightDisplacement);
