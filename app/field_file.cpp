@@ -16,19 +16,6 @@ constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
-/// True where a text starts with a number, behind blanks, as the number reader sees it.
-bool StartsWithNumber(std::string_view text) {
-  const auto skip = [&text](const char* any) {
-    if (!text.empty() && std::string_view(any).find(text.front()) != std::string_view::npos) {
-      text.remove_prefix(1);
-    }
-  };
-  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-  skip("+-");
-  skip(".");
-  return !text.empty() && text.front() >= '0' && text.front() <= '9';
-}
-
 }  // namespace
 
 FieldStream::FieldStream(std::string text) : text_(std::move(text)) {

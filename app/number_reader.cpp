@@ -73,6 +73,12 @@ Number ReadNumber(std::string_view text) {
   return negative ? Number(-value) : Number(value);
 }
 
+bool StartsWithNumber(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+  return !UnsignedPrefix(text).empty();
+}
+
 std::string ReadingNote(std::string_view text) {
   const std::size_t start = text.find_first_not_of(" \t");
   if (start == std::string_view::npos) return "";

@@ -103,6 +103,15 @@ TEST(NumberReaderRange, LongTextsThatFitAreRead) {
   EXPECT_EQ(ReadNumber("12." + zeros).value(), 12.0);
 }
 
+TEST(NumberReader, TellsWhetherATextStartsWithANumber) {
+  for (const char* text : {"7", " \t7", "-.5", "+2", ".25", "-3 psi", "5.", "1e"}) {
+    EXPECT_TRUE(StartsWithNumber(text)) << text;
+  }
+  for (const char* text : {"", " ", "abc", "-", ".", "-.", "+-1", "e5", "- 1", "x7"}) {
+    EXPECT_FALSE(StartsWithNumber(text)) << text;
+  }
+}
+
 TEST(NumberReader, ReadsEveryHundredthBack) {
   for (int hundredths = -20000; hundredths <= 20000; hundredths += 7) {
     const int size = hundredths < 0 ? -hundredths : hundredths;
