@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -12,25 +10,6 @@
 namespace lignara {
 
 using Texts = std::vector<std::string>;
-
-/// The eleven panels of the window `ply`: those of the strip of buttons, then those of the menu
-/// "Options".
-enum class PlyPanel {
-  StandardLiveLoads,
-  GluedFloors,
-  SubFloors,
-  HeavyDuty,
-  TruckDuty,
-  WallSheathing,
-  ShearWalls,
-  RoofSheathing,
-  VeneerGrades,
-  ExposureLevels,
-  SpeciesGroups
-};
-inline constexpr std::size_t kPlyPanels = 11;
-/// The first so many have a button in the strip.
-inline constexpr std::size_t kPlyStripPanels = 8;
 
 enum class PlyKeyForm { List, Options };
 

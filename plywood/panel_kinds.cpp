@@ -1,5 +1,7 @@
 #include "plywood/panel_kinds.h"
 
+#include <array>
+
 namespace lignara {
 
 const PlyPanelKind& PlyPanelKindOf(PlyPanel panel) {

@@ -1,3 +1,5 @@
+#include <array>
+
 #include "plywood/panel_kinds.h"
 #include "plywood/ply_report.h"
 
