@@ -6,6 +6,9 @@
 namespace lignara {
 namespace {
 
+/// As many decimals as tables of the trade are worked out with.
+constexpr double kPi = 3.14159;
+
 /// A reason to refuse a bolt in a thickness.
 struct BoltLimit {
   bool (*applies)(double L, int k);
@@ -121,6 +124,8 @@ GrainLoads ShearLoads(const ShearJoint& joint, const BoltValueTable& table) {
   }
   return loads;
 }
+
+Number Radians(const Float32& degrees) { return degrees * (kPi / 180); }
 
 Number LoadAtAngle(const GrainLoads& loads, const Float32& theta) {
   const Number P = loads.parallel;

@@ -36,6 +36,9 @@ BoltRows RowsBetween(Number thickness, int boltIndex);
 /// fault of the look-up, and the loads are 0.
 GrainLoads ShearLoads(const ShearJoint& joint, const BoltValueTable& table);
 
+/// An angle as it is entered, in the unit of `ShearJoint::theta`. Pi has five decimals.
+Number Radians(const Float32& degrees);
+
 /// The load at an angle to the grain, lbs, by Hankinson's formula.
 Number LoadAtAngle(const GrainLoads& loads, const Float32& theta);
 

@@ -12,9 +12,6 @@
 namespace lignara {
 namespace {
 
-/// As many decimals as tables of the trade are worked out with.
-constexpr double kPi = 3.14159;
-
 /// Reads the fields. Single shear has no third member, so its field is emptied first.
 ShearJoint ReadJoint(BoltWindow& window) {
   ShearJoint joint;
@@ -25,7 +22,7 @@ ShearJoint ReadJoint(BoltWindow& window) {
   joint.L2 = ReadNumber(window.L2);
   joint.L3 = ReadNumber(window.L3);
   const Float32 angle = ReadNumber(window.A);
-  joint.theta = angle * (kPi / 180);
+  joint.theta = Radians(angle);
   return joint;
 }
 

@@ -261,12 +261,16 @@ TEST_F(BoltShearTest, LoadAtAnAngleFollowsHankinson) {
   EXPECT_EQ(window.atAngle, "725.02");
 }
 
+TEST(LoadAtAngle, TakesHalfATurnAsFiveDecimalsOfPi) {
+  EXPECT_EQ(Float32(Radians(180.0)).value(), 3.14159F);
+}
+
 TEST(LoadAtAngle, StopsAtFiveDecimalsOfPi) {
   // At "90" degrees the angle is 1.570795, so the cosine is 1.3e-6 and not 0.
   GrainLoads loads;
   loads.parallel = 1e30;
   loads.perpendicular = 1;
-  EXPECT_NEAR(LoadAtAngle(loads, 90 * (3.14159 / 180)).value(), 1.0, 1e-9);
+  EXPECT_NEAR(LoadAtAngle(loads, Radians(90.0)).value(), 1.0, 1e-9);
 }
 
 }  // namespace
