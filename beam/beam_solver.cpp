@@ -240,4 +240,15 @@ SolveOutcome SolveBeam(SingleSpanBeam& beam, const SessionState& session, BeamRe
   return SolveOutcome::Solved;
 }
 
+void FillRotations(BeamResults& results, const SessionState& session) {
+  const double unit = session.unitSystem == 1 ? 100 : 12;
+  const Number width = unit * results.grid.span / results.grid.steps;
+  const Float32Array& defl = results.deflTotal;
+  results.rotationTotal.Allocate(results.grid.last);
+  results.rotationTotal[0] = Atan(defl[1] / width);
+  for (int i = 1; i <= results.grid.last; ++i) {
+    results.rotationTotal[i] = Atan((defl[i] - defl[i - 1]) / width);
+  }
+}
+
 }  // namespace lignara

@@ -35,4 +35,8 @@ enum class SolveOutcome {
 SolveOutcome SolveBeam(SingleSpanBeam& beam, const SessionState& session, BeamResults& results,
                        Platform& platform);
 
+/// Fills the rotations of a solved beam: the slope between a station and the one before, in the
+/// unit of the deflections.
+void FillRotations(BeamResults& results, const SessionState& session);
+
 }  // namespace lignara

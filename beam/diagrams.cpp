@@ -124,18 +124,6 @@ std::string LocationText(const StationGrid& grid, int station) {
   return FormatNumber(Float32(station / grid.steps * grid.span), "0.000");
 }
 
-/// The slope between a station and the one before, in the unit of the deflections.
-void FillRotations(BeamResults& results, const SessionState& session) {
-  const double unit = session.unitSystem == 1 ? 100 : 12;
-  const Number width = unit * results.grid.span / results.grid.steps;
-  const Float32Array& defl = results.deflTotal;
-  results.rotationTotal.Allocate(results.grid.last);
-  results.rotationTotal[0] = Atan(defl[1] / width);
-  for (int i = 1; i <= results.grid.last; ++i) {
-    results.rotationTotal[i] = Atan((defl[i] - defl[i - 1]) / width);
-  }
-}
-
 void ShowReadOuts(BeamWindow& window) {
   BeamDiagrams& diagrams = window.diagrams;
   const StationGrid& grid = window.results.grid;
