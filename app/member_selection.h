@@ -30,6 +30,11 @@ struct TrussMemberGroup {
 /// Its first content is neutral, so that the calculator always opens on something that can be
 /// divided by.
 struct MemberSelection {
+  // The codes of `MemberSource`.
+  static constexpr int kNoSource = 0;  ///< nothing was chosen yet
+  static constexpr int kSawnSource = 1;
+  static constexpr int kGlulamSource = 2;
+
   Float32 NominalWidth;       ///< in
   Float32 NominalDepth;       ///< in
   Float32 DressedB;           ///< in
@@ -55,7 +60,7 @@ struct MemberSelection {
   std::string BeamGradeLabel;  ///< the text under the beam's size: grade, ", ", wood types; no
                                ///< analysis reads it
   Int16 DataBaseReturn;        ///< -1 from a visit to the data base until the calculator closes
-  Int16 MemberSource;          ///< 0 nothing yet, 1 sawn, 2 glulam
+  Int16 MemberSource;          ///< kNoSource, kSawnSource or kGlulamSource
   std::array<TrussMemberGroup, kMemberGroups> Groups;
 
   TrussMemberGroup& Group(MemberGroup group) { return Groups[static_cast<std::size_t>(group)]; }

@@ -65,8 +65,9 @@ void ListActualStresses(StressCheck& check) {
 bool MayCheck(const BeamWindow& window, const SessionState& session, Platform& platform,
               int memberSource) {
   if (!(session.Member.MemberSource == memberSource)) {
-    platform.ShowMessage({memberSource == 1 ? "YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"
-                                            : "YOUR MEMBER IS NORMAL WOOD, NOT GLU-LAM!"});
+    platform.ShowMessage({memberSource == MemberSelection::kSawnSource
+                              ? "YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"
+                              : "YOUR MEMBER IS NORMAL WOOD, NOT GLU-LAM!"});
     return false;
   }
   if (window.beam.hasRun == 0) {

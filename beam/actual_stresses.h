@@ -28,8 +28,8 @@ void FindAxialStress(StressCheck& check, const CheckInput& input, const Float32&
 /// The rows "ACTUAL STRESSES" to "ALLOWABLE STRESSES".
 void ListActualStresses(StressCheck& check);
 
-/// A member of the source that the check is for (1 sawn, 2 glulam), and a run: the user is told
-/// what is missing.
+/// A member of the source that the check is for (kSawnSource or kGlulamSource), and a run: the user
+/// is told what is missing.
 bool MayCheck(const BeamWindow& window, const SessionState& session, Platform& platform,
               int memberSource);
 

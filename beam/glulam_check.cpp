@@ -53,7 +53,7 @@ const char* ListGlulam(BeamWindow& window, SessionState& session) {
 }  // namespace
 
 void CheckGlulamMember(BeamWindow& window, SessionState& session, Platform& platform) {
-  if (!MayCheck(window, session, platform, 2)) return;
+  if (!MayCheck(window, session, platform, MemberSelection::kGlulamSource)) return;
   EndCheck(window, platform, ListGlulam(window, session));
 }
 

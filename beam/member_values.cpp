@@ -48,9 +48,9 @@ class MemberFiller {
 
   void FillModulus() {
     const Int16& source = session_.Member.MemberSource;
-    if (source == 0 || source == 1) {
+    if (source == Member::kNoSource || source == Member::kSawnSource) {
       Put(window_.modulus, FormatNumber(youngsModulus(session_), "0.00e+00"));
-    } else if (source == 2) {
+    } else if (source == Member::kGlulamSource) {
       Put(window_.modulus,
           FormatNumber(session_.Glulam.Value(AxisOf(window_.beam).modulus), "0.00E+00"));
     }

@@ -167,7 +167,7 @@ const char* SawnCheck::Run() {
 }  // namespace
 
 void CheckSawnMember(BeamWindow& window, SessionState& session, Platform& platform) {
-  if (!MayCheck(window, session, platform, 1)) return;
+  if (!MayCheck(window, session, platform, MemberSelection::kSawnSource)) return;
   SawnCheck check(window, session);
   EndCheck(window, platform, check.Run());
 }

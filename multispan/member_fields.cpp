@@ -8,8 +8,6 @@
 namespace lignara {
 namespace {
 
-constexpr int kGlulamSource = 2;
-
 void ShowAreas(MultiSpanWindow& window) {
   const Number b = ReadNumber(window.Field(SpanField::B));
   const Number d = ReadNumber(window.Field(SpanField::D));
@@ -36,9 +34,9 @@ void FillGlulamModulus(MultiSpanWindow& window, const SessionState& session) {
 
 void FillModulus(MultiSpanWindow& window, const SessionState& session) {
   const int source = session.Member.MemberSource.value();
-  if (source == 0 || source == 1) {
+  if (source == MemberSelection::kNoSource || source == MemberSelection::kSawnSource) {
     window.Field(SpanField::Modulus) = FormatNumber(session.Member.ModulusE, "0.00e+00");
-  } else if (source == kGlulamSource) {
+  } else if (source == MemberSelection::kGlulamSource) {
     FillGlulamModulus(window, session);
   }
 }
@@ -59,7 +57,7 @@ void FillMember(MultiSpanWindow& window, const SessionState& session) {
   FillSize(window, SpanField::D, member.DressedD);
   window.Field(SpanField::Fb) = FormatNumber(member.AllowFb, kTwoDecimals);
   window.Field(SpanField::Fv) = FormatNumber(member.AllowFv, kTwoDecimals);
-  window.type = member.MemberSource.value() == kGlulamSource ? "GLU-LAM" : "NA";
+  window.type = member.MemberSource.value() == MemberSelection::kGlulamSource ? "GLU-LAM" : "NA";
   window.member = member.WoodTypeText + ", " + member.SizeName;
 }
 
@@ -97,7 +95,9 @@ void ActivateMultiSpan(MultiSpanWindow& window, SessionState& session, Platform&
 void ChooseSpanAxis(MultiSpanWindow& window, SessionState& session, Platform& platform, bool weak) {
   FaultScope faults(platform);
   window.weakAxis = weak;
-  if (session.Member.MemberSource.value() == kGlulamSource) FillGlulamModulus(window, session);
+  if (session.Member.MemberSource.value() == MemberSelection::kGlulamSource) {
+    FillGlulamModulus(window, session);
+  }
   FillSection(window, session.Member);
   RefreshSpanNote(window, session);
 }

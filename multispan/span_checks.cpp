@@ -152,7 +152,7 @@ void CheckWoodSpans(MultiSpanResults& window, SessionState& session, Platform& p
   FaultScope faults(platform);
   const MultiSpanModel& model = session.MultiSpan;
   window.stressRows.clear();
-  if (session.Member.MemberSource.value() != 1) {
+  if (session.Member.MemberSource.value() != MemberSelection::kSawnSource) {
     platform.ShowMessage({"YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"});
     return;
   }
@@ -172,7 +172,7 @@ void CheckGlulamSpans(MultiSpanResults& window, const SessionState& session, Pla
   FaultScope faults(platform);
   const MultiSpanModel& model = session.MultiSpan;
   window.stressRows.clear();
-  if (session.Member.MemberSource.value() != 2) {
+  if (session.Member.MemberSource.value() != MemberSelection::kGlulamSource) {
     platform.ShowMessage({"YOUR MEMBER IS NORMAL WOOD, NOT GLU-LAM!"});
     return;
   }

@@ -95,7 +95,7 @@ void UpdateSpan(MultiSpanWindow& window, SessionState& session, Platform& platfo
   StoreFields(window, model, span);
   if (model.spanI[span] > 0 && model.spanE[span] > 0 && model.spanLength[span] > 0) {
     model.spanAxis[span] = window.weakAxis ? 1 : 0;
-    if (session.Member.MemberSource.value() == 2) {
+    if (session.Member.MemberSource.value() == MemberSelection::kGlulamSource) {
       model.spanGlulam[static_cast<std::size_t>(span)] = session.Glulam;
     }
     window.spanAccepted = true;
