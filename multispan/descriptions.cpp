@@ -3,14 +3,10 @@
 #include <algorithm>
 
 #include "app/number_pattern.h"
+#include "multispan/end_class.h"
 
 namespace lignara {
 namespace {
-
-const char* EndInWords(EndSupport support) {
-  constexpr const char* kWords[] = {"free", "fixed", "pinned"};
-  return kWords[static_cast<int>(support)];
-}
 
 std::string Counted(int count, const std::string& thing) {
   return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
@@ -31,7 +27,7 @@ std::string DescribeBeam(const MultiSpanModel& model) {
     points += model.pointCount[j].value();
   }
   return "Beam of " + Counted(model.spanCount.value(), "span") + ", left end " +
-         EndInWords(model.farLeftSupport) + ", right end " + EndInWords(model.farRightSupport) +
+         SupportWord(model.farLeftSupport) + ", right end " + SupportWord(model.farRightSupport) +
          ", " + Counted(uniform, "uniform load") + ", " + Counted(points, "point load");
 }
 

@@ -15,4 +15,9 @@ const EndClass& EndClassOf(EndSupport left, EndSupport right) {
   return kEndClasses[static_cast<std::size_t>(EndClassNumber(left, right) - 1)];
 }
 
+const char* SupportWord(EndSupport support) {
+  if (support == EndSupport::None) return "free";
+  return support == EndSupport::Fixed ? "fixed" : "pinned";
+}
+
 }  // namespace lignara

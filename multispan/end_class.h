@@ -40,4 +40,7 @@ int EndClassNumber(EndSupport left, EndSupport right);
 /// Its row.
 const EndClass& EndClassOf(EndSupport left, EndSupport right);
 
+/// The support of a far end in words: "fixed", "pinned" or "free".
+const char* SupportWord(EndSupport support);
+
 }  // namespace lignara

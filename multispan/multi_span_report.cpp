@@ -4,6 +4,7 @@
 #include "app/report_file.h"
 #include "multispan/beam_sketch.h"
 #include "multispan/diagrams.h"
+#include "multispan/end_class.h"
 #include "multispan/results_window.h"
 
 namespace lignara {
@@ -50,11 +51,6 @@ Lines LoadLines(const MultiSpanModel& model, int j) {
                     Value(model.pointX[span][k]) + " ft from left end.");
   }
   return lines;
-}
-
-const char* SupportWord(EndSupport support) {
-  if (support == EndSupport::None) return "free";
-  return support == EndSupport::Fixed ? "fixed" : "pinned";
 }
 
 void Append(Lines& lines, const Lines& more) {

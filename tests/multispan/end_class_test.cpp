@@ -45,6 +45,12 @@ TEST(EndClassTable, StepOfAnEndFollowsItsSupport) {
   }
 }
 
+TEST(EndClassTable, SupportsHaveAWord) {
+  EXPECT_STREQ(SupportWord(kNone), "free");
+  EXPECT_STREQ(SupportWord(kFixed), "fixed");
+  EXPECT_STREQ(SupportWord(kPinned), "pinned");
+}
+
 TEST(EndClassTable, SupportsBearTheirCodes) {
   EXPECT_EQ(static_cast<int>(kNone), 0);
   EXPECT_EQ(static_cast<int>(kFixed), 1);
