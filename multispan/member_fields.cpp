@@ -1,8 +1,6 @@
 #include "app/fault.h"
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
-#include "app/window_names.h"
-#include "multispan/beam_sketch.h"
 #include "multispan/multi_span_window.h"
 
 namespace lignara {
@@ -48,7 +46,9 @@ void FillSection(MultiSpanWindow& window, const MemberSelection& member) {
       FormatNumber(window.weakAxis ? member.SectionSy : member.SectionSx, kTwoDecimals);
 }
 
-void FillMember(MultiSpanWindow& window, const SessionState& session) {
+}  // namespace
+
+void FillFromMember(MultiSpanWindow& window, const SessionState& session) {
   const MemberSelection& member = session.Member;
   FillModulus(window, session);
   FillSection(window, member);
@@ -61,34 +61,9 @@ void FillMember(MultiSpanWindow& window, const SessionState& session) {
   window.member = member.WoodTypeText + ", " + member.SizeName;
 }
 
-/// The data bases work for beams, whatever the last window worked for, and the unbraced length of
-/// the span goes along.
-void PrepareDataBase(const MultiSpanWindow& window, SessionState& session) {
-  session.DesignMode = "BEAM";
-  const Number unbraced = ReadNumber(window.Field(SpanField::Unbraced));
-  if (unbraced > 0) session.Member.UnbracedLength = unbraced;
-}
-
-}  // namespace
-
-void OpenMultiSpan(MultiSpanWindow& window, SessionState& session, Platform& platform) {
-  FaultScope faults(platform);
-  session.MultiSpan = MultiSpanModel();
-  session.MultiSpan.spanCount = session.SpanCount;
-  window = MultiSpanWindow();
-  window.spanCount = std::to_string(session.SpanCount.value());
-  ShowPointLoad(window, session);
-  window.fields.fill("0.00");
-  window.pointX = "0.00";
-  window.pointLoad = "0";
-  FillMember(window, session);
-  window.picture = DrawBeamSketch(session.MultiSpan, window.currentSpan.value());
-  RefreshSpanNote(window, session);
-}
-
 void ActivateMultiSpan(MultiSpanWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
-  FillMember(window, session);
+  FillFromMember(window, session);
   RefreshSpanNote(window, session);
 }
 
@@ -107,20 +82,6 @@ void EditSpanField(MultiSpanWindow& window, SessionState& session, Platform& pla
   FaultScope faults(platform);
   if (field == SpanField::B || field == SpanField::D) ShowAreas(window);
   RefreshSpanNote(window, session);
-}
-
-void OpenSpanMemberDataBase(const MultiSpanWindow& window, SessionState& session,
-                            Platform& platform) {
-  FaultScope faults(platform);
-  PrepareDataBase(window, session);
-  platform.OpenWindow(window_name::kMemberSize);
-}
-
-void OpenSpanGlulamDataBase(const MultiSpanWindow& window, SessionState& session,
-                            Platform& platform) {
-  FaultScope faults(platform);
-  PrepareDataBase(window, session);
-  platform.OpenWindow(window_name::kGlulam);
 }
 
 }  // namespace lignara

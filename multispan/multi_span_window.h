@@ -42,23 +42,32 @@ struct MultiSpanWindow {
 
 enum class FarEnd { Left, Right };
 
-// Life of the window and the current member (member_fields.cpp).
+// Life of the window (multi_span_window.cpp).
 
 /// The window as it opens, with an empty model of the spans that the session asks for.
 void OpenMultiSpan(MultiSpanWindow& window, SessionState& session, Platform& platform);
-/// The user comes back from another window: the current member goes into the fields of the span
-/// shown, over what stands there. Length, loads and unbraced length stay.
+/// A click on a support of "Far Left Support" or "Far Right Support".
+void SetFarSupport(MultiSpanWindow& window, SessionState& session, FarEnd end, EndSupport support);
+/// Draws the beam anew.
+void ShowBeamSketch(MultiSpanWindow& window, const SessionState& session);
+/// Menu "Options": "Member Data Base..." and "Glu-Lam Data Base...".
+void OpenSpanMemberDataBase(const MultiSpanWindow& window, SessionState& session,
+                            Platform& platform);
+void OpenSpanGlulamDataBase(const MultiSpanWindow& window, SessionState& session,
+                            Platform& platform);
+
+// Values of the current member (member_fields.cpp).
+
+/// The current member goes into the fields of the span shown, over what stands there. Length, loads
+/// and unbraced length stay.
+void FillFromMember(MultiSpanWindow& window, const SessionState& session);
+/// The user comes back from another window: the current member goes into the fields.
 void ActivateMultiSpan(MultiSpanWindow& window, SessionState& session, Platform& platform);
 /// "Strong Axis" and "Weak Axis": shows the member's values about the axis.
 void ChooseSpanAxis(MultiSpanWindow& window, SessionState& session, Platform& platform, bool weak);
 /// After the user changed the text of a field of the span.
 void EditSpanField(MultiSpanWindow& window, SessionState& session, Platform& platform,
                    SpanField field);
-/// Menu "Options": "Member Data Base..." and "Glu-Lam Data Base...".
-void OpenSpanMemberDataBase(const MultiSpanWindow& window, SessionState& session,
-                            Platform& platform);
-void OpenSpanGlulamDataBase(const MultiSpanWindow& window, SessionState& session,
-                            Platform& platform);
 
 // Spans (span_input.cpp).
 
@@ -69,8 +78,6 @@ void ShowPreviousSpan(MultiSpanWindow& window, SessionState& session);
 void ShowNextSpan(MultiSpanWindow& window, SessionState& session);
 /// "Load Same ": takes all but the point loads from the span before.
 void LoadSameSpan(MultiSpanWindow& window, SessionState& session);
-/// A click on a support of "Far Left Support" or "Far Right Support".
-void SetFarSupport(MultiSpanWindow& window, SessionState& session, FarEnd end, EndSupport support);
 /// Brings the note beside "Update Span" up to date.
 void RefreshSpanNote(MultiSpanWindow& window, const SessionState& session);
 

@@ -1,7 +1,6 @@
 #include "app/fault.h"
 #include "app/number_reader.h"
 #include "app/plain_number.h"
-#include "multispan/beam_sketch.h"
 #include "multispan/multi_span_window.h"
 
 namespace lignara {
@@ -93,7 +92,7 @@ void UpdatePointLoad(MultiSpanWindow& window, SessionState& session, Platform& p
   x = load.x;
   CountLoads(model, span);
   window.loadCount = std::to_string(model.pointCount[span].value());
-  window.picture = DrawBeamSketch(model, span);
+  ShowBeamSketch(window, session);
 }
 
 void ShowPreviousLoad(MultiSpanWindow& window, SessionState& session) {

@@ -1,7 +1,6 @@
 #include "app/fault.h"
 #include "app/number_reader.h"
 #include "app/plain_number.h"
-#include "multispan/beam_sketch.h"
 #include "multispan/multi_span_window.h"
 
 namespace lignara {
@@ -42,15 +41,11 @@ void ShowStoredSpan(MultiSpanWindow& window, const MultiSpanModel& model) {
   window.weakAxis = model.spanAxis[span] == 1;
 }
 
-void Redraw(MultiSpanWindow& window, const SessionState& session) {
-  window.picture = DrawBeamSketch(session.MultiSpan, window.currentSpan.value());
-}
-
 void ShowSpan(MultiSpanWindow& window, SessionState& session) {
   window.currentLoad = 1;
   if (HasMultiSpan(window.currentSpan.value())) ShowStoredSpan(window, session.MultiSpan);
   ShowPointLoad(window, session);
-  Redraw(window, session);
+  ShowBeamSketch(window, session);
   RefreshSpanNote(window, session);
 }
 
@@ -99,7 +94,7 @@ void UpdateSpan(MultiSpanWindow& window, SessionState& session, Platform& platfo
       model.spanGlulam[static_cast<std::size_t>(span)] = session.Glulam;
     }
     window.spanAccepted = true;
-    Redraw(window, session);
+    ShowBeamSketch(window, session);
   } else {
     platform.ShowMessage({"I,E OR L IS MISSING"});
   }
@@ -129,14 +124,8 @@ void LoadSameSpan(MultiSpanWindow& window, SessionState& session) {
   CopyToNext(model.spanType, before);
   CopyToNext(model.spanGlulam, before);
   ShowStoredSpan(window, model);
-  Redraw(window, session);
+  ShowBeamSketch(window, session);
   RefreshSpanNote(window, session);
-}
-
-void SetFarSupport(MultiSpanWindow& window, SessionState& session, FarEnd end, EndSupport support) {
-  (end == FarEnd::Left ? session.MultiSpan.farLeftSupport : session.MultiSpan.farRightSupport) =
-      support;
-  Redraw(window, session);
 }
 
 void RefreshSpanNote(MultiSpanWindow& window, const SessionState& session) {

@@ -107,26 +107,5 @@ TEST_F(MemberFields, AreNotStoredByThemselves) {
   EXPECT_EQ(model().spanE[1].value(), 0);
 }
 
-// The data bases.
-
-TEST_F(MemberFields, DataBasesOpenForABeam) {
-  Open(2);
-  session.DesignMode = "TRUSS";
-  OpenSpanMemberDataBase(window, session, platform);
-  EXPECT_EQ(session.DesignMode, "BEAM");
-  OpenSpanGlulamDataBase(window, session, platform);
-  EXPECT_EQ(platform.calls, (Texts{"open WTYPETR", "open GL"}));
-}
-
-TEST_F(MemberFields, DataBasesTakeTheUnbracedLengthAlong) {
-  Open(2);
-  session.Member.UnbracedLength = 5;
-  OpenSpanGlulamDataBase(window, session, platform);
-  EXPECT_EQ(session.Member.UnbracedLength.value(), 5);  // none was entered
-  Type(SpanField::Unbraced, "7.5");
-  OpenSpanGlulamDataBase(window, session, platform);
-  EXPECT_EQ(session.Member.UnbracedLength.value(), 7.5F);
-}
-
 }  // namespace
 }  // namespace lignara

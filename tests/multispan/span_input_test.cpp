@@ -5,44 +5,6 @@ namespace {
 
 class SpanInput : public MultiSpanTest {};
 
-// Opening.
-
-TEST_F(SpanInput, OpensOnTheFirstSpanAndLoad) {
-  Open(3);
-  EXPECT_EQ((Texts{window.spanNumber, window.loadNumber, window.loadCount, window.spanCount}),
-            (Texts{"1", "1", "0", "3"}));
-  EXPECT_FALSE(window.spanAccepted);
-}
-
-TEST_F(SpanInput, OpensWithTwoDecimalsOfZeroAndANeutralMember) {
-  Open(3);
-  EXPECT_EQ(Texts(window.fields.begin(), window.fields.end()),
-            (Texts{"0.00", "0.00", "0.00", "1.00", "1.00e+06", "1.00", "0.00", "1.00", "0.00",
-                   "0.00", "1.00", "1.00"}));
-  EXPECT_EQ((Texts{window.pointX, window.pointLoad}), (Texts{"0.00", "0"}));
-  EXPECT_EQ((Texts{window.member, window.type}), (Texts{"CUSTOM, CUSTOM", "NA"}));
-}
-
-TEST_F(SpanInput, OpensAnEmptyModelWithEightThousandIntegrations) {
-  Open(3);
-  EnterSpan(10, 100);
-  model().curveIntegrations = 5;
-  Support(FarEnd::Left, EndSupport::Fixed);
-  Open(2);
-  EXPECT_EQ(model().spanCount.value(), 2);
-  EXPECT_EQ(model().spanLength[1].value(), 0);
-  EXPECT_EQ(model().curveIntegrations.value(), 8000);
-  EXPECT_EQ(model().farLeftSupport, EndSupport::Pinned);
-  EXPECT_EQ(model().farRightSupport, EndSupport::Pinned);
-}
-
-TEST_F(SpanInput, KeepsItsSpanCountWhenTheLauncherAsksAnew) {
-  Open(3);
-  session.SpanCount = 7;
-  for (int i = 0; i < 9; ++i) Next();
-  EXPECT_EQ(window.spanNumber, "3");
-}
-
 TEST_F(SpanInput, CaptionsFollowTheUnits) {
   const Texts english = {"Length(ft)",
                          "Unbraced Length (ft)",
@@ -300,20 +262,6 @@ TEST_F(SpanInput, LoadSameOnTheFirstSpanDoesNothing) {
   LoadSameSpan(window, session);
   EXPECT_EQ(window.Field(SpanField::Length), "10");
   EXPECT_EQ(model().spanLength[1].value(), 0);
-}
-
-// The far supports.
-
-TEST_F(SpanInput, FarSupportsAreStoredAndDrawn) {
-  Open(2);
-  EnterSpan(10, 0);
-  const Drawing before = window.picture;
-  Support(FarEnd::Left, EndSupport::None);
-  EXPECT_EQ(model().farLeftSupport, EndSupport::None);
-  EXPECT_EQ(model().farRightSupport, EndSupport::Pinned);
-  EXPECT_NE(window.picture, before);
-  Support(FarEnd::Right, EndSupport::Fixed);
-  EXPECT_EQ(model().farRightSupport, EndSupport::Fixed);
 }
 
 // The note beside "Update Span".
