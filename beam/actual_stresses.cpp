@@ -6,16 +6,6 @@
 namespace lignara {
 namespace {
 
-struct CheckField {
-  StressField field;
-  Float32 MemberSelection::*value;
-};
-
-constexpr CheckField kCheckFields[] = {
-    {StressField::Fb, &MemberSelection::AllowFb}, {StressField::Fv, &MemberSelection::AllowFv},
-    {StressField::Fc, &MemberSelection::AllowFc}, {StressField::Ft, &MemberSelection::AllowFt},
-    {StressField::B, &MemberSelection::DressedB}, {StressField::D, &MemberSelection::DressedD}};
-
 std::string StressRow(const char* words, const Float32& stress) {
   return words + FormatNumber(stress, "0.000") + " psi";
 }
@@ -28,13 +18,6 @@ CheckInput::CheckInput(const BeamWindow& window)
       maxMoment(ReadNumber(window.maxMoment)),
       maxShear(ReadNumber(window.maxShear)),
       axial(ReadNumber(window.axial)) {}
-
-void TakeCheckFields(BeamWindow& window, SessionState& session) {
-  for (const CheckField& field : kCheckFields) {
-    session.Member.*field.value = ReadNumber(window.Field(field.field).text);
-  }
-  window.beam.unbracedLength = UnbracedLength(window);
-}
 
 void FindBendingAndShear(StressCheck& check, const CheckInput& input) {
   check.actualShear = Abs(input.maxShear / input.shearArea);
@@ -60,30 +43,6 @@ void ListActualStresses(StressCheck& check) {
   }
   check.rows.push_back("");
   check.rows.push_back("ALLOWABLE STRESSES");
-}
-
-bool MayCheck(const BeamWindow& window, const SessionState& session, Platform& platform,
-              int memberSource) {
-  if (!(session.Member.MemberSource == memberSource)) {
-    platform.ShowMessage({memberSource == MemberSelection::kSawnSource
-                              ? "YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"
-                              : "YOUR MEMBER IS NORMAL WOOD, NOT GLU-LAM!"});
-    return false;
-  }
-  if (window.beam.hasRun == 0) {
-    platform.ShowMessage({"YOU NEED TO HIT THE RUN BUTTON FIRST!"});
-    return false;
-  }
-  return true;
-}
-
-void EndCheck(BeamWindow& window, Platform& platform, const char* problem) {
-  window.beam.abortRun = problem == nullptr ? 0 : -1;
-  if (problem == nullptr) {
-    window.check.open = true;
-  } else {
-    platform.ShowMessage({problem});
-  }
 }
 
 }  // namespace lignara

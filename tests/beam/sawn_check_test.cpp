@@ -1,13 +1,12 @@
-#include "beam/stress_check.h"
-
 #include <gtest/gtest.h>
 
+#include "beam/stress_check.h"
 #include "tests/support/beam_fixture.h"
 
 namespace lignara {
 namespace {
 
-const std::string kAreaMissing = "Check your values required for stress, an area value is missing!";
+const std::string kNoArea = "Check your values required for stress, an area value is missing!";
 const std::string kInputMissing = "YOU ARE MISSING INPUT REQUIRED FOR STRESS CHECK!";
 
 /// A 4X12 (3.5 by 11.25 in, 39.38 in^2, Sx 73.83 in^3) of E 1,600,000 psi under 500 ft-lbs and 100
@@ -82,7 +81,7 @@ TEST_F(SawnCheckTest, NeedsShearAreaAndSectionModulus) {
       Type(field, text);
       Type(StressField::Fb, "0");
       EXPECT_EQ(Check("4"), Texts());
-      EXPECT_EQ(beam.Boxes(), Texts({kAreaMissing})) << "before the other input";
+      EXPECT_EQ(beam.Boxes(), Texts({kNoArea})) << "before the other input";
       EXPECT_EQ(beam.session.Member.AllowFb.value(), 1000.0f) << "nothing was read yet";
       EXPECT_EQ(beam.window.beam.abortRun.value(), -1);
       Type(field, kept);
@@ -190,7 +189,7 @@ TEST_F(SawnCheckTest, OfATooLongMemberWithAxialLoadEndsAtTheCombinedFactor) {
             Texts({"ALLOWABLE STRESSES", "Unbraced length is to long for bending loads!",
                    "Shear = 95.00 psi", "Tensile = 675.00 psi", "",
                    "COMBINED AXIAL AND BENDING FACTOR"}));
-  EXPECT_EQ(beam.Boxes(), Texts({kAreaMissing}));
+  EXPECT_EQ(beam.Boxes(), Texts({kNoArea}));
   EXPECT_FALSE(beam.window.check.open);
   EXPECT_EQ(beam.window.beam.abortRun.value(), -1);
 }
@@ -198,7 +197,7 @@ TEST_F(SawnCheckTest, OfATooLongMemberWithAxialLoadEndsAtTheCombinedFactor) {
 TEST_F(SawnCheckTest, WithoutAnAreaOfTheMemberStopsAtTheAxialStress) {
   beam.session.Member.SectionArea = 0;
   EXPECT_EQ(Check("4", "1000.00"), Texts());
-  EXPECT_EQ(beam.Boxes(), Texts({kAreaMissing}));
+  EXPECT_EQ(beam.Boxes(), Texts({kNoArea}));
 }
 
 // Limits between the classes. B = 23.04 lu d / b^2.
