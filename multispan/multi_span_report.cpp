@@ -6,6 +6,7 @@
 #include "multispan/diagrams.h"
 #include "multispan/end_class.h"
 #include "multispan/results_window.h"
+#include "multispan/stress_check.h"
 
 namespace lignara {
 namespace {

@@ -5,6 +5,7 @@
 #include "app/number_pattern.h"
 #include "multispan/diagrams.h"
 #include "multispan/multi_span_statics.h"
+#include "multispan/stress_check.h"
 
 namespace lignara {
 namespace {

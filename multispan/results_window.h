@@ -46,15 +46,6 @@ struct StressInputs {
   bool operator==(const StressInputs&) const = default;
 };
 
-/// The headings within the list "Stress Check".
-namespace stress_heading {
-inline constexpr const char* kActual = "ACTUAL STRESSES";
-inline constexpr const char* kAllowable = "ALLOWABLE STRESSES";
-inline constexpr const char* kGlulamAllowable = "ALLOWABLE STRESS VALUES";
-inline constexpr const char* kConditions = "MEMBER USE CONDITIONS";
-inline constexpr const char* kAll[] = {kActual, kAllowable, kGlulamAllowable, kConditions};
-}  // namespace stress_heading
-
 /// The window `MDOUTPUT`, "Moment Distribution Output": the last run of the multi-span beam.
 /// Checks, unbraced lengths and the input data of reports are those of the model as it is now.
 struct MultiSpanResults {
@@ -127,15 +118,6 @@ void ShowDeflectedShape(MultiSpanResults& window, const SessionState& session, P
 void MoveShapeStation(MultiSpanResults& window, int station);
 /// "Close".
 void CloseDeflectedShape(MultiSpanResults& window);
-
-// Checks (span_checks.cpp).
-
-/// Menu "Check Stress", "Wood member...". The adjusted bending allowable goes into the session.
-void CheckWoodSpans(MultiSpanResults& window, SessionState& session, Platform& platform);
-/// Menu "Check Stress", "Glu-Lam Members...".
-void CheckGlulamSpans(MultiSpanResults& window, const SessionState& session, Platform& platform);
-/// What a check made now would read of the spans of the model.
-StressInputs StressInputsOf(const MultiSpanModel& model);
 
 // Reports (multi_span_report.cpp).
 

@@ -27,6 +27,7 @@
 #include "desktop/multispan/arrow_button.h"
 #include "desktop/windows.h"
 #include "multispan/descriptions.h"
+#include "multispan/stress_check.h"
 
 namespace lignara {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
+#include "multispan/stress_check.h"
 #include "tests/multispan/multi_span_fixture.h"
 
 namespace lignara {

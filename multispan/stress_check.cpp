@@ -1,3 +1,5 @@
+#include "multispan/stress_check.h"
+
 #include <algorithm>
 
 #include "app/fault.h"
@@ -5,7 +7,6 @@
 #include "glulam/load_durations.h"
 #include "glulam/moisture_and_load_types.h"
 #include "glulam/values_and_wet_factors.h"
-#include "multispan/results_window.h"
 
 namespace lignara {
 namespace {

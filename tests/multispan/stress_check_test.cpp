@@ -1,5 +1,6 @@
+#include "multispan/stress_check.h"
+
 #include "app/number_pattern.h"
-#include "multispan/results_window.h"
 #include "tests/multispan/multi_span_fixture.h"
 
 namespace lignara {
