@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <utility>
 
-#include "desktop/kit/area_keys.h"
+#include "desktop/kit/return_and_escape.h"
 
 namespace lignara {
 

@@ -13,11 +13,11 @@
 #include <QTableWidget>
 #include <utility>
 
-#include "desktop/kit/area_keys.h"
 #include "desktop/kit/field_mark.h"
 #include "desktop/kit/list_notes.h"
 #include "desktop/kit/out_of_date.h"
 #include "desktop/kit/picture.h"
+#include "desktop/kit/return_and_escape.h"
 #include "desktop/kit/row_copy.h"
 #include "desktop/kit/row_delegate.h"
 #include "desktop/kit/tab_order.h"

@@ -4,8 +4,8 @@
 #include <QVariant>
 #include <algorithm>
 
-#include "desktop/kit/area_keys.h"
 #include "desktop/kit/lead_focus.h"
+#include "desktop/kit/return_and_escape.h"
 
 namespace lignara {
 namespace {

@@ -3,8 +3,8 @@
 #include <QMainWindow>
 
 #include "app/session_state.h"
-#include "desktop/kit/area_keys.h"
 #include "desktop/kit/binding.h"
+#include "desktop/kit/return_and_escape.h"
 
 class QGroupBox;
 class QLabel;

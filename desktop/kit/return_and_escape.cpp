@@ -1,4 +1,4 @@
-#include "desktop/kit/area_keys.h"
+#include "desktop/kit/return_and_escape.h"
 
 #include <QListWidget>
 #include <QMainWindow>
