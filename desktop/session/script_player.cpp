@@ -23,9 +23,9 @@
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/control_reading.h"
 #include "desktop/session/kept_answers.h"
+#include "desktop/session/played_keys.h"
 #include "desktop/session/row_finder.h"
 #include "desktop/session/script_error.h"
-#include "desktop/session/window_keys.h"
 
 namespace lignara {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "desktop/kit/binding.h"
 #include "desktop/kit/text.h"
-#include "desktop/session/window_keys.h"
+#include "desktop/session/played_keys.h"
 
 namespace lignara {
 namespace {

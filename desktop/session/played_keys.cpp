@@ -1,4 +1,4 @@
-#include "desktop/session/window_keys.h"
+#include "desktop/session/played_keys.h"
 
 #include <QAbstractButton>
 #include <QAction>
