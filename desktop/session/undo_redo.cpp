@@ -2,8 +2,8 @@
 
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/front_and_focus.h"
 #include "desktop/session/script_line.h"
-#include "desktop/session/user_place.h"
 
 namespace lignara {
 namespace {

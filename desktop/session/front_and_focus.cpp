@@ -1,4 +1,4 @@
-#include "desktop/session/user_place.h"
+#include "desktop/session/front_and_focus.h"
 
 #include "desktop/kit/binding.h"
 #include "desktop/kit/desktop_platform.h"
