@@ -5,7 +5,7 @@
 #include <QRectF>
 
 #include "app/drawing.h"
-#include "desktop/kit/view_transform.h"
+#include "desktop/kit/picture_view.h"
 
 class QPainter;
 

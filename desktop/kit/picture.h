@@ -5,7 +5,7 @@
 
 #include "app/drawing.h"
 #include "desktop/kit/drawing_painter.h"
-#include "desktop/kit/view_transform.h"
+#include "desktop/kit/picture_view.h"
 
 class QMenu;
 

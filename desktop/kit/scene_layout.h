@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/scene.h"
-#include "desktop/kit/view_transform.h"
+#include "desktop/kit/picture_view.h"
 
 namespace lignara {
 

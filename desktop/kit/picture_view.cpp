@@ -1,4 +1,4 @@
-#include "desktop/kit/view_transform.h"
+#include "desktop/kit/picture_view.h"
 
 #include <algorithm>
 
