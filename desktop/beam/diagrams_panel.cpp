@@ -15,8 +15,8 @@
 #include "desktop/beam/close_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture.h"
-#include "desktop/kit/readers.h"
 #include "desktop/kit/save_picture.h"
+#include "desktop/kit/screen_readers.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {

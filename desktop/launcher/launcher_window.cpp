@@ -15,7 +15,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/picture_button.h"
-#include "desktop/kit/readers.h"
+#include "desktop/kit/screen_readers.h"
 #include "desktop/kit/session_commands.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"

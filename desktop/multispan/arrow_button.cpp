@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "desktop/kit/form.h"
-#include "desktop/kit/readers.h"
+#include "desktop/kit/screen_readers.h"
 
 namespace lignara {
 

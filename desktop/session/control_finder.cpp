@@ -9,7 +9,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
-#include "desktop/kit/readers.h"
+#include "desktop/kit/screen_readers.h"
 #include "desktop/kit/text.h"
 #include "desktop/session/script_error.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/kit/readers.h"
+#include "desktop/kit/screen_readers.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
