@@ -13,8 +13,8 @@
 #include <QTableWidget>
 #include <utility>
 
-#include "desktop/kit/field_mark.h"
 #include "desktop/kit/list_notes.h"
+#include "desktop/kit/misread_number_mark.h"
 #include "desktop/kit/out_of_date.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/return_and_escape.h"

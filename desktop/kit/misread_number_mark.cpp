@@ -1,4 +1,4 @@
-#include "desktop/kit/field_mark.h"
+#include "desktop/kit/misread_number_mark.h"
 
 #include <QEvent>
 #include <QLineEdit>

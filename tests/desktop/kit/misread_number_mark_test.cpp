@@ -1,6 +1,6 @@
 // The mark on a field whose text is not wholly a number.
 
-#include "desktop/kit/field_mark.h"
+#include "desktop/kit/misread_number_mark.h"
 
 #include <gtest/gtest.h>
 
