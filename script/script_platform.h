@@ -6,7 +6,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/respondent.h"
 #include "desktop/session/kept_answers.h"
-#include "desktop/session/script_output.h"
+#include "desktop/session/printed_shapes.h"
 
 namespace lignara {
 

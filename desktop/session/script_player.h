@@ -6,8 +6,8 @@
 
 #include "app/window_names.h"
 #include "desktop/session/control_finder.h"
+#include "desktop/session/printed_shapes.h"
 #include "desktop/session/script_line.h"
-#include "desktop/session/script_output.h"
 
 namespace lignara {
 

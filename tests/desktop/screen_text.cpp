@@ -12,7 +12,7 @@
 #include "desktop/kit/picture.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/control_finder.h"
-#include "desktop/session/script_output.h"
+#include "desktop/session/printed_shapes.h"
 
 namespace lignara {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/session/script_output.h"
+#include "desktop/session/printed_shapes.h"
 
 #include <QStringList>
 
