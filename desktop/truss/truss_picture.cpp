@@ -1,4 +1,4 @@
-#include "desktop/truss/drawing_and_zoom.h"
+#include "desktop/truss/truss_picture.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
