@@ -215,7 +215,7 @@ class RepeatForm : public ToolWindow {
       record_.status = "Copied";
     });
     auto* save = new QPushButton("&Save as CSV...");
-    binding().Press(save, [this] { SaveTable(record_, platform()); });
+    binding().Press(save, [this] { SaveTable(record_.table, record_.status, platform()); });
     row->addStretch();
     for (QPushButton* button : {copy, save}) {
       binding().Enabled(button, [this] { return !record_.table.rows.isEmpty(); });

@@ -3,15 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/replace_file.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/text.h"
 #include "desktop/session/variant_values.h"
 
 namespace lignara {
 namespace {
-
-constexpr const char* kCsvFilter = "CSV(*.csv)|*.csv|All(*.*)|*.*|";
 
 QString RowOf(const EnterLine& line) { return line.window + ": " + line.field + " = " + line.text; }
 
@@ -138,16 +135,6 @@ void EndRun(RepeatWindow& window, const std::string& how) {
   window.running = false;
   ShowOutcomes(window);
   window.status += how;
-}
-
-void SaveTable(RepeatWindow& window, Platform& platform) {
-  const auto path = platform.ChooseSaveFile(kCsvFilter);
-  if (!path) return;
-  if (ReplaceFile(*path, FromQt(CsvOf(window.table)))) {
-    window.status = "Saved to " + *path;
-  } else {
-    platform.ShowMessage({"Cannot write " + *path});
-  }
 }
 
 }  // namespace lignara

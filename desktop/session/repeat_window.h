@@ -53,8 +53,4 @@ void ShowOutcomes(RepeatWindow& window);
 /// A run has ended; `how` tells how in words, after "11 of 11 values played".
 void EndRun(RepeatWindow& window, const std::string& how);
 
-/// Writes the table as a CSV file that the user chooses. Tells where it went, or that it cannot be
-/// written.
-void SaveTable(RepeatWindow& window, Platform& platform);
-
 }  // namespace lignara

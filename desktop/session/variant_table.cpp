@@ -3,12 +3,16 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "app/platform.h"
+#include "app/replace_file.h"
+#include "desktop/kit/text.h"
 #include "desktop/session/csv_line.h"
 #include "desktop/session/script_line.h"
 
 namespace lignara {
 namespace {
 
+constexpr const char* kCsvFilter = "CSV(*.csv)|*.csv|All(*.*)|*.*|";
 constexpr const char* kJoin = " | ";
 constexpr const char* kNameEnd = " = ";
 
@@ -185,6 +189,16 @@ QString CsvOf(const VariantTable& table) {
   QString text = CsvLine(table.heads) + "\n";
   for (const QStringList& row : table.rows) text += CsvLine(row) + "\n";
   return text;
+}
+
+void SaveTable(const VariantTable& table, std::string& status, Platform& platform) {
+  const auto path = platform.ChooseSaveFile(kCsvFilter);
+  if (!path) return;
+  if (ReplaceFile(*path, FromQt(CsvOf(table)))) {
+    status = "Saved to " + *path;
+  } else {
+    platform.ShowMessage({"Cannot write " + *path});
+  }
 }
 
 }  // namespace lignara

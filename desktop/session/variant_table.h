@@ -1,8 +1,12 @@
 #pragma once
 
+#include <string>
+
 #include "desktop/session/variants.h"
 
 namespace lignara {
+
+class Platform;
 
 /// Values and what came of them, as a user reads them: heads, and a row a value.
 struct VariantTable {
@@ -20,5 +24,9 @@ VariantTable TableOf(const Variants& variants, const std::vector<VariantOutcome>
 
 /// The table as a CSV file.
 QString CsvOf(const VariantTable& table);
+
+/// Writes the table as a CSV file that the user chooses. Tells where it went in `status`, or in a
+/// message that it cannot be written.
+void SaveTable(const VariantTable& table, std::string& status, Platform& platform);
 
 }  // namespace lignara
