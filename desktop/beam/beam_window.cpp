@@ -36,15 +36,6 @@ namespace {
 
 constexpr SupportType kSupports[] = {SupportType::Fixed, SupportType::Pinned, SupportType::Free};
 
-/// The option of a frame that is on, or the first.
-QRadioButton* ChosenOption(const QGroupBox* frame) {
-  const auto options = frame->findChildren<QRadioButton*>();
-  for (QRadioButton* option : options) {
-    if (option->isChecked()) return option;
-  }
-  return options.front();
-}
-
 /// The panels that open below the results. They scroll rather than ask for all the room that they
 /// could use.
 class PanelPage : public ScrollPage {

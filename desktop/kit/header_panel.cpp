@@ -25,14 +25,6 @@ constexpr HeaderLine kHeaderLines[] = {{"Title:", &ProjectHeader::Title},
                                        {"Engineer:", &ProjectHeader::Engineer},
                                        {"Date:", &ProjectHeader::Date}};
 
-/// Two options of which one is on.
-QGroupBox* OptionPair(Binding& binding, const QString& caption, const QString& first,
-                      const QString& second, bool* firstIsOn) {
-  return MakeOptionFrame(
-      binding, caption, {first, second}, [firstIsOn] { return *firstIsOn ? 0 : 1; },
-      [firstIsOn](int chosen) { *firstIsOn = chosen == 0; }, Qt::Horizontal);
-}
-
 }  // namespace
 
 QGroupBox* MakeHeaderPanel(HeaderPanel& panel, Binding& binding, SessionState& session) {
@@ -45,9 +37,10 @@ QGroupBox* MakeHeaderPanel(HeaderPanel& panel, Binding& binding, SessionState& s
     binding.Words(field, &(panel.texts.*line.text));
   }
   rows->addLayout(grid);
-  rows->addWidget(OptionPair(binding, "Font", "Times New Roman", "Arial", &panel.fontTimes));
+  rows->addWidget(MakeOptionPair(binding, "Font", "Times New Roman", "Arial", &panel.fontTimes,
+                                 Qt::Horizontal));
   auto* foot = new QHBoxLayout;
-  foot->addWidget(OptionPair(binding, "Size", "10", "8", &panel.fontTen));
+  foot->addWidget(MakeOptionPair(binding, "Size", "10", "8", &panel.fontTen, Qt::Horizontal));
   auto* ok = new QPushButton("OK");
   binding.Press(ok, [&panel, &session] { AcceptHeaderPanel(panel, session); });
   foot->addWidget(ok);

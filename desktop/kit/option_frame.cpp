@@ -42,4 +42,19 @@ QGroupBox* MakeOptionFrame(Binding& binding, const QString& caption,
   return frame;
 }
 
+QGroupBox* MakeOptionPair(Binding& binding, const QString& caption, const QString& first,
+                          const QString& second, bool* firstIsOn, Qt::Orientation orientation) {
+  return MakeOptionFrame(
+      binding, caption, {first, second}, [firstIsOn] { return *firstIsOn ? 0 : 1; },
+      [firstIsOn](int at) { *firstIsOn = at == 0; }, orientation);
+}
+
+QRadioButton* ChosenOption(const QGroupBox* frame) {
+  const auto options = frame->findChildren<QRadioButton*>();
+  for (QRadioButton* option : options) {
+    if (option->isChecked()) return option;
+  }
+  return options.front();
+}
+
 }  // namespace lignara

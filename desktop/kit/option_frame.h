@@ -7,6 +7,7 @@
 #include "desktop/kit/binding.h"
 
 class QGroupBox;
+class QRadioButton;
 
 namespace lignara {
 
@@ -16,5 +17,13 @@ namespace lignara {
 QGroupBox* MakeOptionFrame(Binding& binding, const QString& caption,
                            const std::vector<QString>& options, std::function<int()> chosen,
                            Binding::RowCommand choose, Qt::Orientation orientation = Qt::Vertical);
+
+/// A frame of two options of which one is on: the first where `firstIsOn`.
+QGroupBox* MakeOptionPair(Binding& binding, const QString& caption, const QString& first,
+                          const QString& second, bool* firstIsOn,
+                          Qt::Orientation orientation = Qt::Vertical);
+
+/// The option of a frame that is on, or the first.
+QRadioButton* ChosenOption(const QGroupBox* frame);
 
 }  // namespace lignara

@@ -14,17 +14,6 @@
 #include "truss/report.h"
 
 namespace lignara {
-namespace {
-
-/// Two options of which one is on.
-QGroupBox* OptionPair(Binding& binding, const QString& caption, const QString& first,
-                      const QString& second, bool* firstIsOn) {
-  return MakeOptionFrame(
-      binding, caption, {first, second}, [firstIsOn] { return *firstIsOn ? 0 : 1; },
-      [firstIsOn](int at) { *firstIsOn = at == 0; });
-}
-
-}  // namespace
 
 QGroupBox* MakeHeadingsPanel(TrussWindow& window, Binding& binding, SessionState& session) {
   QGroupBox* panel = MakePanel("Output Description");
@@ -54,8 +43,9 @@ QGroupBox* MakeFontsPanel(TrussWindow& window, Binding& binding, SessionState& s
   binding.Shown(panel, &window.fontsOpen, [panel, &window, &binding, &session] {
     auto* rows = new QVBoxLayout(panel);
     auto* pairs = new QHBoxLayout;
-    pairs->addWidget(OptionPair(binding, "Name", "Times New Roman", "Arial", &window.fontTimes));
-    pairs->addWidget(OptionPair(binding, "Size", "10", "8", &window.fontTen));
+    pairs->addWidget(
+        MakeOptionPair(binding, "Name", "Times New Roman", "Arial", &window.fontTimes));
+    pairs->addWidget(MakeOptionPair(binding, "Size", "10", "8", &window.fontTen));
     rows->addLayout(pairs);
     auto* ok = new QPushButton("OK");
     binding.Press(ok, [&window, &session] { AcceptFonts(window, session); });
