@@ -9,6 +9,9 @@
 
 namespace lignara {
 
+/// The kinds of files in the dialogs.
+inline constexpr const char* kSessionFilter = "Session(*.lig)|*.lig|All(*.*)|*.*|";
+
 /// The lines of a session file, read with bounds on its size. Empty, with the reason in `refusal`,
 /// where it cannot be read.
 QStringList ReadSessionFile(const QString& path, QString& refusal);

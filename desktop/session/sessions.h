@@ -74,7 +74,4 @@ class Sessions : public QObject, public SessionCommands {
   std::function<void(const QStringList&)> appended_ = [](const QStringList&) {};
 };
 
-/// The kinds of files in the dialogs.
-inline constexpr const char* kSessionFilter = "Session(*.lig)|*.lig|All(*.*)|*.*|";
-
 }  // namespace lignara
