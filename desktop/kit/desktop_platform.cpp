@@ -137,7 +137,7 @@ std::optional<std::string> DesktopPlatform::UsersText(const std::string& title,
 std::optional<std::string> DesktopPlatform::UsersFile(const std::string& filter) {
   const bool pdf = filter == kPdfFilter;
   SaveProposal proposal;
-  proposal.caption = pdf ? "There is no printer: a PDF file is written" : "Save As";
+  proposal.caption = pdf ? kPdfCaption : "Save As";
   proposal.name = FileNameOf(DocumentName());
   proposal.filter = ToQt(filter);
   const std::optional<QString> path = fileDialogs_.AskSave(proposal);

@@ -4,6 +4,8 @@ namespace lignara {
 
 /// What the save dialog of a PDF file offers.
 inline constexpr const char* kPdfFilter = "PDF(*.pdf)|*.pdf|";
+/// The caption of that dialog.
+inline constexpr const char* kPdfCaption = "There is no printer: a PDF file is written";
 
 class DesktopPlatform;
 class Report;
