@@ -16,6 +16,7 @@
 #include "desktop/session/control_finder.h"
 #include "desktop/session/control_kinds.h"
 #include "desktop/session/journal.h"
+#include "desktop/session/program_start.h"
 #include "desktop/session/session_player.h"
 #include "desktop/session/session_record.h"
 #include "desktop/session/variants.h"

@@ -1,13 +1,12 @@
 #include "desktop/session/session_player.h"
 
-#include <QApplication>
+#include <utility>
 
-#include "app/launcher.h"
+#include "app/program.h"
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/respondent.h"
 #include "desktop/kit/text.h"
-#include "desktop/kit/tool_window.h"
 #include "desktop/session/kept_answers.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_line.h"
@@ -106,23 +105,6 @@ QString TextsOf(const QStringList& printed) {
 }
 
 }  // namespace
-
-void StartProgramAgain(SessionState& session, DesktopPlatform& platform) {
-  for (const char* name : kWindowNames) {
-    const bool stays = std::string(name) == window_name::kLauncher ||
-                       std::string(name) == window_name::kRepeat;  // it is no part of a session
-    if (!stays) platform.CloseWindow(name);
-  }
-  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  const SessionState before = std::move(session);
-  session = SessionState();
-  StartSession(session, "");
-  session.DataDirectory = before.DataDirectory;
-  session.FactorsAtStart = session.FactorsInstead = before.FactorsAtStart;
-  platform.OpenWindow(window_name::kLauncher);
-  platform.FindWindow(window_name::kLauncher)->StartAgain();
-  platform.RefreshWindows();
-}
 
 SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPlatform& platform,
                         const SessionProgress& progress, ReadLines reading) {

@@ -4,8 +4,6 @@
 #include <QStringList>
 #include <functional>
 
-#include "app/session_state.h"
-
 namespace lignara {
 
 class DesktopPlatform;
@@ -33,8 +31,5 @@ enum class ReadLines { PassedOver, Kept };
 /// of the lines.
 SessionPlay PlaySession(const QStringList& lines, const QString& name, DesktopPlatform& platform,
                         const SessionProgress& progress, ReadLines reading = ReadLines::PassedOver);
-
-/// Brings the program to where it stands after its start: the launcher alone, nothing entered.
-void StartProgramAgain(SessionState& session, DesktopPlatform& platform);
 
 }  // namespace lignara

@@ -14,6 +14,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/play_report.h"
+#include "desktop/session/program_start.h"
 #include "desktop/session/repeat_form.h"
 #include "desktop/session/session_file.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/window_names.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/program_start.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_line.h"
 #include "desktop/session/session_file.h"

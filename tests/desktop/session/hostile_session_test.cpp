@@ -15,6 +15,7 @@
 #include "app/window_names.h"
 #include "desktop/kit/text.h"
 #include "desktop/session/journal_keeper.h"
+#include "desktop/session/program_start.h"
 #include "desktop/session/session_file.h"
 #include "desktop/session/sessions.h"
 #include "script/script_platform.h"
