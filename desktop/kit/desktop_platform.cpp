@@ -12,6 +12,7 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/help_window.h"
 #include "desktop/kit/message_box.h"
+#include "desktop/kit/mouse_pointer.h"
 #include "desktop/kit/program_icon.h"
 #include "desktop/kit/proposed_file_name.h"
 #include "desktop/kit/report_printer.h"
@@ -270,13 +271,7 @@ void DesktopPlatform::ShowHelp(const std::string& path, const std::string& secti
   ShowHelpDocument(FindWindow(window_name::kHelp), ToQt(path), ToQt(section));
 }
 
-void DesktopPlatform::SetBusyPointer(bool busy) {
-  if (busy) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-  } else {
-    QApplication::restoreOverrideCursor();
-  }
-}
+void DesktopPlatform::SetBusyPointer(bool busy) { SetWaitingPointer(busy); }
 
 void DesktopPlatform::ShowNote(const std::string& text) {
   if (ToolWindow* front = Front()) front->ShowNote(ToQt(text));

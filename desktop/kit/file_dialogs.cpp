@@ -7,7 +7,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-#include "desktop/kit/arrow_pointer.h"
+#include "desktop/kit/mouse_pointer.h"
 
 namespace lignara {
 namespace {

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
-#include "desktop/kit/arrow_pointer.h"
+#include "desktop/kit/mouse_pointer.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {

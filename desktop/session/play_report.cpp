@@ -10,8 +10,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "desktop/kit/arrow_pointer.h"
 #include "desktop/kit/form.h"
+#include "desktop/kit/mouse_pointer.h"
 #include "desktop/kit/row_copy.h"
 
 namespace lignara {

@@ -2,6 +2,9 @@
 
 namespace lignara {
 
+/// While it is set, the pointer tells that the program is at work.
+void SetWaitingPointer(bool waiting);
+
 /// While one stands, the pointer is an arrow, also in the middle of a long calculation: the user is
 /// asked for something.
 class ArrowPointer {
