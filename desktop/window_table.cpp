@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::array kWindows = {
     WindowKind{window_name::kLauncher, false, MakeLauncherWindow},
-    WindowKind{window_name::kQuestion, false, MakeQuestionWindow},
+    WindowKind{window_name::kQuestion, false, MakeDesignModeWindow},
     WindowKind{window_name::kAbout, true, MakeAboutWindow},
     WindowKind{window_name::kHelp, false, MakeHelpWindow},
     WindowKind{window_name::kTrussInput, false, MakeTrussInputWindow},

@@ -6,7 +6,7 @@ namespace lignara {
 
 // One maker a window; each stands in the file of its window.
 ToolWindow* MakeLauncherWindow(WindowContext context);
-ToolWindow* MakeQuestionWindow(WindowContext context);
+ToolWindow* MakeDesignModeWindow(WindowContext context);
 ToolWindow* MakeAboutWindow(WindowContext context);
 ToolWindow* MakeHelpWindow(WindowContext context);
 ToolWindow* MakeTrussInputWindow(WindowContext context);

@@ -14,9 +14,9 @@ namespace lignara {
 namespace {
 
 /// Lies over the field that it marks and lets mouse and keys through.
-class FieldMark : public QWidget {
+class MisreadNumberMark : public QWidget {
  public:
-  explicit FieldMark(QLineEdit* field)
+  explicit MisreadNumberMark(QLineEdit* field)
       : QWidget(field),
         field_(field),
         tip_(field->toolTip()),
@@ -79,6 +79,6 @@ class FieldMark : public QWidget {
 
 }  // namespace
 
-void MarkReading(QLineEdit* field) { new FieldMark(field); }
+void MarkReading(QLineEdit* field) { new MisreadNumberMark(field); }
 
 }  // namespace lignara

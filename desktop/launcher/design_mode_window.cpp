@@ -13,9 +13,9 @@ namespace lignara {
 namespace {
 
 /// For whom the member size calculator shall work, when no structure is at hand.
-class QuestionForm : public ToolWindow {
+class DesignModeForm : public ToolWindow {
  public:
-  explicit QuestionForm(WindowContext context) : ToolWindow(window_name::kQuestion, context) {
+  explicit DesignModeForm(WindowContext context) : ToolWindow(window_name::kQuestion, context) {
     setWindowTitle("???");
     AddHelpMenu();
     auto* area = new QWidget;
@@ -40,6 +40,6 @@ class QuestionForm : public ToolWindow {
 
 }  // namespace
 
-ToolWindow* MakeQuestionWindow(WindowContext context) { return new QuestionForm(context); }
+ToolWindow* MakeDesignModeWindow(WindowContext context) { return new DesignModeForm(context); }
 
 }  // namespace lignara

@@ -25,9 +25,9 @@ bool HasWave(QLineEdit* field) {
   return false;
 }
 
-class FieldMarkTest : public testing::Test {
+class MisreadNumberMarkTest : public testing::Test {
  protected:
-  FieldMarkTest() {
+  MisreadNumberMarkTest() {
     field.resize(96, 26);
     MarkReading(&field);
     field.show();
@@ -36,20 +36,20 @@ class FieldMarkTest : public testing::Test {
   QLineEdit field;
 };
 
-TEST_F(FieldMarkTest, TellsWhatATextWithACommaIsReadAs) {
+TEST_F(MisreadNumberMarkTest, TellsWhatATextWithACommaIsReadAs) {
   field.setText("1,200");
   EXPECT_EQ(field.toolTip(), "read as 1");
   EXPECT_EQ(field.accessibleDescription(), "read as 1");
   EXPECT_TRUE(HasWave(&field));
 }
 
-TEST_F(FieldMarkTest, LeavesANumberAlone) {
+TEST_F(MisreadNumberMarkTest, LeavesANumberAlone) {
   field.setText("1200");
   EXPECT_EQ(field.toolTip(), "");
   EXPECT_FALSE(HasWave(&field));
 }
 
-TEST_F(FieldMarkTest, GoesWhenTheTextIsMended) {
+TEST_F(MisreadNumberMarkTest, GoesWhenTheTextIsMended) {
   field.setText("1,200");
   field.setText("1200");
   EXPECT_EQ(field.toolTip(), "");
@@ -57,13 +57,13 @@ TEST_F(FieldMarkTest, GoesWhenTheTextIsMended) {
   EXPECT_FALSE(HasWave(&field));
 }
 
-TEST_F(FieldMarkTest, KeepsItsPlaceWhenTheFieldGrows) {
+TEST_F(MisreadNumberMarkTest, KeepsItsPlaceWhenTheFieldGrows) {
   field.setText("x");
   field.resize(200, 40);
   EXPECT_TRUE(HasWave(&field));
 }
 
-TEST(FieldMarkInWindows, StandsOnTheNumbersOfAllForms) {
+TEST(MisreadNumberMarkInWindows, StandsOnTheNumbersOfAllForms) {
   OpenDesktop desktop;
   desktop.Play({"press \"PRATT1\"", "window TR_INPUT", "enter \"Total Length (ft)\" \"1,200\"",
                 "enter \"H (ft)\" 5"});
@@ -74,7 +74,7 @@ TEST(FieldMarkInWindows, StandsOnTheNumbersOfAllForms) {
   EXPECT_EQ(marked, QStringList("Total Length (ft): read as 1"));
 }
 
-TEST(FieldMarkInWindows, IsNotForWords) {
+TEST(MisreadNumberMarkInWindows, IsNotForWords) {
   OpenDesktop desktop;
   desktop.OpenKingPost();
   desktop.Play({"menu \"Files\" \"Headings...\"", "enter \"Title\" \"Roof of a barn\""});
