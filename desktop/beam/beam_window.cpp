@@ -19,6 +19,7 @@
 #include "beam/unit_captions.h"
 #include "desktop/beam/diagrams_panel.h"
 #include "desktop/beam/stress_panels.h"
+#include "desktop/kit/command_button.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/header_panel.h"
@@ -80,7 +81,6 @@ class BeamForm : public ToolWindow {
   QGroupBox* Output();
   QWidget* Panels();
   StaticsView Statics();
-  QPushButton* Button(const QString& caption, Binding::Command command);
   QString Caption(const char* shown) { return CaptionInUnits(shown, session().unitSystem.value()); }
   bool AnyPanelOpen() const {
     return record_.propertiesOpen || record_.check.open || record_.diagrams.open ||
@@ -146,12 +146,6 @@ void BeamForm::AddMenus() {
   AddHelpMenu();
 }
 
-QPushButton* BeamForm::Button(const QString& caption, Binding::Command command) {
-  auto* button = new QPushButton(caption);
-  binding().Press(button, std::move(command));
-  return button;
-}
-
 QLayout* BeamForm::InputColumn() {
   auto* rows = new QVBoxLayout;
   rows->addWidget(Constants());
@@ -182,8 +176,8 @@ QGroupBox* BeamForm::Constants() {
   rows->addLayout(ConstantFields());
   axes_ = Axes();
   rows->addWidget(axes_);
-  rows->addWidget(
-      Button("&More values reqd. for stress check", [this] { OpenProperties(record_); }));
+  rows->addWidget(MakeButton(binding(), "&More values reqd. for stress check",
+                             [this] { OpenProperties(record_); }));
   return panel;
 }
 
@@ -289,9 +283,10 @@ QWidget* BeamForm::LoadFieldRow(LoadField field, int captionWidth) {
 
 QLayout* BeamForm::LoadCommands() {
   auto* grid = new QGridLayout;
-  QPushButton* add = Button("Add &New", [this] { AddLoad(record_, platform()); });
-  QPushButton* edit = Button("&Edit", [this] { EditLoad(record_, platform()); });
-  QPushButton* remove = Button("De&lete", [this] { DeleteLoad(record_, platform()); });
+  QPushButton* add = MakeButton(binding(), "Add &New", [this] { AddLoad(record_, platform()); });
+  QPushButton* edit = MakeButton(binding(), "&Edit", [this] { EditLoad(record_, platform()); });
+  QPushButton* remove =
+      MakeButton(binding(), "De&lete", [this] { DeleteLoad(record_, platform()); });
   binding().Enabled(add, [this] { return record_.addEnabled; });
   for (QPushButton* button : {edit, remove}) {
     binding().Enabled(button, [this] { return record_.editEnabled; });
@@ -299,7 +294,7 @@ QLayout* BeamForm::LoadCommands() {
   grid->addWidget(add, 0, 0);
   grid->addWidget(edit, 0, 1);
   grid->addWidget(remove, 1, 0);
-  grid->addWidget(Button("Cle&ar", [this] { ClearInputs(record_); }), 1, 1);
+  grid->addWidget(MakeButton(binding(), "Cle&ar", [this] { ClearInputs(record_); }), 1, 1);
   return grid;
 }
 
@@ -343,8 +338,10 @@ QGroupBox* BeamForm::Output() {
     binding().OutOfDate(value, [this] { return IsOutOfDate(record_); });
   }
   auto* commands = new QVBoxLayout;
-  commands->addWidget(Button("&RUN", [this] { RunBeam(record_, session(), platform()); }));
-  QPushButton* view = Button("&View Diag.", [this] { OpenDiagrams(record_, session()); });
+  commands->addWidget(
+      MakeButton(binding(), "&RUN", [this] { RunBeam(record_, session(), platform()); }));
+  QPushButton* view =
+      MakeButton(binding(), "&View Diag.", [this] { OpenDiagrams(record_, session()); });
   binding().Enabled(view, [this] { return record_.diagrams.enabled; });
   commands->addWidget(view);
   commands->addStretch();

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "app/window_names.h"
+#include "desktop/kit/command_button.h"
 #include "desktop/kit/form.h"
 #include "desktop/windows.h"
 
@@ -69,8 +70,7 @@ class HelpWindow : public ToolWindow {
   }
 
   QPushButton* AddButton(QHBoxLayout* row, const QString& caption, Binding::Command command) {
-    auto* button = new QPushButton(caption);
-    binding().Press(button, std::move(command));
+    QPushButton* button = MakeButton(binding(), caption, std::move(command));
     row->addWidget(button);
     return button;
   }

@@ -12,6 +12,7 @@
 #include <iterator>
 
 #include "app/window_names.h"
+#include "desktop/kit/command_button.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/header_panel.h"
@@ -90,14 +91,8 @@ class MultiSpanForm : public ToolWindow {
     AddHelpMenu();
   }
 
-  QPushButton* Button(const QString& caption, Binding::Command command) {
-    auto* button = new QPushButton(caption);
-    binding().Press(button, std::move(command));
-    return button;
-  }
-
   QPushButton* Arrow(const QString& caption, const QString& tip, Binding::Command command) {
-    QPushButton* button = Button(caption, std::move(command));
+    QPushButton* button = MakeButton(binding(), caption, std::move(command));
     MakeArrow(button, tip);
     return button;
   }
@@ -187,10 +182,11 @@ class MultiSpanForm : public ToolWindow {
 
   QLayout* SpanCommands(QGroupBox* panel) {
     auto* row = new QHBoxLayout;
-    QPushButton* update =
-        Button("&Update Span", [this] { UpdateSpan(record_, session(), platform()); });
+    QPushButton* update = MakeButton(binding(), "&Update Span",
+                                     [this] { UpdateSpan(record_, session(), platform()); });
     row->addWidget(update);
-    row->addWidget(Button("Load &Same ", [this] { LoadSameSpan(record_, session()); }));
+    row->addWidget(
+        MakeButton(binding(), "Load &Same ", [this] { LoadSameSpan(record_, session()); }));
     auto* note = Named("Span Note", new QLabel);
     binding().Text(note, &record_.note);
     row->addWidget(note, 1);
@@ -210,8 +206,8 @@ class MultiSpanForm : public ToolWindow {
     binding().Field(PutField(grid, 0, 0, captions.place, 70), &record_.pointX);
     binding().Field(PutField(grid, 0, 2, captions.load, 70), &record_.pointLoad);
     rows->addLayout(grid);
-    QPushButton* update =
-        Button("Update &Load", [this] { UpdatePointLoad(record_, session(), platform()); });
+    QPushButton* update = MakeButton(binding(), "Update &Load",
+                                     [this] { UpdatePointLoad(record_, session(), platform()); });
     binding().Enabled(update, [this] { return record_.spanAccepted; });
     rows->addWidget(update, 0, Qt::AlignLeft);
     rows->addWidget(new QLabel("Note, X is the distance from the left side of the span."));
@@ -241,7 +237,8 @@ class MultiSpanForm : public ToolWindow {
   QLayout* RunRow() {
     auto* row = new QHBoxLayout;
     row->addStretch();
-    QPushButton* run = Button("&Run", [this] { RunMultiSpan(session(), platform()); });
+    QPushButton* run =
+        MakeButton(binding(), "&Run", [this] { RunMultiSpan(session(), platform()); });
     run->setMinimumWidth(140);
     row->addWidget(run);
     return row;

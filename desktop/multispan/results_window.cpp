@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "app/window_names.h"
+#include "desktop/kit/command_button.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/header_panel.h"
@@ -95,12 +96,6 @@ class ResultsForm : public ToolWindow {
     AddHelpMenu();
   }
 
-  QPushButton* Button(const QString& caption, Binding::Command command) {
-    auto* button = new QPushButton(caption);
-    binding().Press(button, std::move(command));
-    return button;
-  }
-
   /// A result of the run: grey once the beam has changed.
   void GreyWhenOld(QWidget* result) {
     binding().OutOfDate(result, [this] { return record_.runOlder; });
@@ -157,8 +152,8 @@ class ResultsForm : public ToolWindow {
     auto* grid = new QGridLayout;
     binding().Field(PutField(grid, 0, 0, "Unbraced Length (ft)", 60), &record_.unbraced.length);
     row->addLayout(grid);
-    QPushButton* enter =
-        Button("&Enter", [this] { EnterUnbracedLength(record_, session(), platform()); });
+    QPushButton* enter = MakeButton(
+        binding(), "&Enter", [this] { EnterUnbracedLength(record_, session(), platform()); });
     row->addWidget(enter);
     rows->addLayout(row);
     SetReturnButton(panel, enter);
@@ -166,7 +161,7 @@ class ResultsForm : public ToolWindow {
   }
 
   QPushButton* Arrow(const QString& caption, const QString& tip, Binding::Command command) {
-    QPushButton* button = Button(caption, std::move(command));
+    QPushButton* button = MakeButton(binding(), caption, std::move(command));
     MakeArrow(button, tip);
     return button;
   }
@@ -267,7 +262,7 @@ class ResultsForm : public ToolWindow {
     ShowResult(PutValue(grid, 1, 0, "Rotation(rad)", 64), &record_.shape.rotation);
     ShowResult(PutValue(grid, 1, 2, captions_.largest, 64), &record_.shape.largest);
     rows->addLayout(grid);
-    QPushButton* close = Button("Cl&ose", [this] { CloseDeflectedShape(record_); });
+    QPushButton* close = MakeButton(binding(), "Cl&ose", [this] { CloseDeflectedShape(record_); });
     grid->addWidget(close, 1, 4);
     binding().Shown(panel, &record_.shape.open);
     SetEscapeButton(panel, close);
