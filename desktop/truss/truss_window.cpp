@@ -4,13 +4,13 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/window_names.h"
+#include "desktop/kit/command_button.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/scroll_page.h"
@@ -18,7 +18,9 @@
 #include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
 #include "desktop/truss/distributed_load_panels.h"
+#include "desktop/truss/force_list.h"
 #include "desktop/truss/headings_and_fonts.h"
+#include "desktop/truss/node_loads.h"
 #include "desktop/truss/result_lists.h"
 #include "desktop/truss/truss_picture.h"
 #include "desktop/windows.h"
@@ -29,14 +31,6 @@
 
 namespace lignara {
 namespace {
-
-/// A list of the side column: it takes its height from the window and leaves the width to the
-/// drawing.
-QListWidget* SideList(const char* name) {
-  QListWidget* list = MakeList(name, 6);
-  list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-  return list;
-}
 
 /// The truss at hand: loads, analysis, results and the drawing.
 class TrussForm : public ToolWindow {
@@ -61,11 +55,6 @@ class TrussForm : public ToolWindow {
   QLayout* OpenedPanels();
   QLayout* CommandRow();
   QGroupBox* ResultsPanel();
-  QLayout* NodeLoads();
-  QLayout* NodeField();
-  QLayout* Forces();
-  QLayout* MemberHit();
-  QPushButton* Button(const QString& caption, Binding::Command command);
 
   TrussWindow record_;
   QListWidget* nodes_ = nullptr;
@@ -113,12 +102,6 @@ void TrussForm::AddMenus() {
   save->setShortcut(QKeySequence::Save);
   binding().Menu(save, [this] { SaveTrussReport(record_, session(), platform()); });
   AddHelpMenu();
-}
-
-QPushButton* TrussForm::Button(const QString& caption, Binding::Command command) {
-  auto* button = new QPushButton(caption);
-  binding().Press(button, std::move(command));
-  return button;
 }
 
 QLayout* TrussForm::CanvasColumn() {
@@ -191,15 +174,19 @@ QLayout* TrussForm::OpenedPanels() {
 
 QLayout* TrussForm::CommandRow() {
   auto* grid = new QGridLayout;
-  QPushButton* wood = Button("&Wood Type", [this] { OpenWoodType(session(), platform()); });
+  QPushButton* wood =
+      MakeButton(binding(), "&Wood Type", [this] { OpenWoodType(session(), platform()); });
   wood->setEnabled(platform().HasWindow(window_name::kMemberSize));
   grid->addWidget(wood, 0, 0);
-  QPushButton* run = Button("&Run", [this] { RunTruss(record_, session(), platform()); });
+  QPushButton* run =
+      MakeButton(binding(), "&Run", [this] { RunTruss(record_, session(), platform()); });
   grid->addWidget(run, 0, 1);
-  grid->addWidget(
-      Button("&Memb. Len.", [this] { ShowMemberLengths(record_, session(), platform()); }), 0, 2);
-  grid->addWidget(Button("&Deflections", [this] { OpenDeflections(record_); }), 1, 0);
-  grid->addWidget(Button("&Code Stress", [this] { OpenStresses(record_); }), 1, 1);
+  grid->addWidget(MakeButton(binding(), "&Memb. Len.",
+                             [this] { ShowMemberLengths(record_, session(), platform()); }),
+                  0, 2);
+  grid->addWidget(MakeButton(binding(), "&Deflections", [this] { OpenDeflections(record_); }), 1,
+                  0);
+  grid->addWidget(MakeButton(binding(), "&Code Stress", [this] { OpenStresses(record_); }), 1, 1);
   return grid;
 }
 
@@ -207,86 +194,13 @@ QGroupBox* TrussForm::ResultsPanel() {
   QGroupBox* panel = MakePanel("Results");
   auto* columns = new QHBoxLayout(panel);
   columns->setSpacing(12);
-  loads_ = InWidget(NodeLoads());
+  const NodeLoads loads = MakeNodeLoads(record_, binding(), session(), platform());
+  loads_ = loads.area;
+  nodes_ = loads.list;
   columns->addWidget(loads_);
-  forces_ = InWidget(Forces());
+  forces_ = MakeForces(record_, binding());
   columns->addWidget(forces_);
   return panel;
-}
-
-QLayout* TrussForm::NodeLoads() {
-  auto* rows = new QVBoxLayout;
-  rows->addWidget(MakeHeading("Top Node Loads (lbs)"));
-  rows->addWidget(new QLabel("Click on list item to select"));
-  nodes_ = SideList("Top Node Loads (lbs)");
-  binding().List(nodes_, &record_.nodeRows, &record_.nodeRow,
-                 [this](int row) { SelectNode(record_, session(), platform(), row); });
-  rows->addWidget(nodes_, 1);
-  rows->addLayout(NodeField());
-  rows->addWidget(Button("&Unif. Load (lb/ft)", [this] { OpenLineLoad(record_); }));
-  rows->addWidget(Button("&Area Load (lbs/sf)", [this] { OpenAreaLoad(record_); }));
-  return rows;
-}
-
-QLayout* TrussForm::NodeField() {
-  auto* rows = new QVBoxLayout;
-  QLineEdit* field = MakeField("Top Node Loads (lbs)");
-  binding().Field(field, &record_.nodeLoad);
-  rows->addWidget(field);
-  auto* pair = new QHBoxLayout;
-  pair->addWidget(Button("&Enter", [this] { EnterNodeLoad(record_, session(), platform()); }));
-  pair->addWidget(Button("A&ll", [this] { EnterAllNodeLoads(record_, session(), platform()); }));
-  rows->addLayout(pair);
-  binding().OnReturn(field, [this, field] {
-    EnterNodeLoadAndGoOn(record_, session(), platform());
-    // The load of the next node is there to be typed over.
-    binding().Refresh();
-    field->selectAll();
-  });
-  return rows;
-}
-
-QLayout* TrussForm::Forces() {
-  auto* rows = new QVBoxLayout;
-  rows->addWidget(MakeHeading("Axial Load (lbs)"));
-  QListWidget* list = SideList("Axial Load (lbs)");
-  binding().List(list, &record_.axialRows, &record_.axialRow,
-                 [this](int row) { SelectAxialRow(record_, row); });
-  // The row that lights its member is one of the rows that may be marked to be copied.
-  list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  binding().Notes(list, &record_.axialNotes);
-  binding().WhyEmpty(list, [this] { return record_.whyNoForces; });
-  rows->addWidget(list, 1);
-  rows->addLayout(MemberHit());
-  QGroupBox* reactions = MakePanel("End Reactions (lbs)");
-  auto* grid = new QGridLayout(reactions);
-  QLineEdit* left = AddValue(grid, "Left Side");
-  binding().Text(left, &record_.leftReaction);
-  QLineEdit* right = AddValue(grid, "Right Side");
-  binding().Text(right, &record_.rightReaction);
-  rows->addWidget(reactions);
-  for (QWidget* result : std::initializer_list<QWidget*>{list, left, right}) {
-    binding().OutOfDate(result, [this] { return record_.outOfDate; });
-  }
-  return rows;
-}
-
-QLayout* TrussForm::MemberHit() {
-  auto* rows = new QVBoxLayout;
-  rows->addWidget(new QLabel("Click in red circle on member!"));
-  QLineEdit* member = MakeField("Click in red circle on member!");
-  ShowOnly(member);
-  binding().Text(member, &record_.hitMember);
-  rows->addWidget(member);
-  auto* grid = new QGridLayout;
-  binding().Text(AddValue(grid, "Axial Load (lbs)"), &record_.hitLoad);
-  QLineEdit* sense = MakeField("Tension or compression", 24);
-  sense->setMaximumWidth(sense->minimumWidth());
-  ShowOnly(sense);
-  binding().Text(sense, &record_.hitSense);
-  grid->addWidget(sense, grid->rowCount() - 1, 2);
-  rows->addLayout(grid);
-  return rows;
 }
 
 }  // namespace
