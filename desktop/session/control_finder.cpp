@@ -1,16 +1,13 @@
 #include "desktop/session/control_finder.h"
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QGroupBox>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <algorithm>
 
-#include "desktop/kit/screen_readers.h"
 #include "desktop/kit/text.h"
+#include "desktop/session/control_captions.h"
 #include "desktop/session/script_error.h"
 
 namespace lignara {
@@ -62,37 +59,6 @@ std::vector<Candidate> Search(QMainWindow* window, const QString& caption, const
 
 }  // namespace
 
-QString CaptionOf(const QWidget* widget) {
-  if (const QString name = ScriptNameOf(widget); !name.isEmpty()) return name;
-  if (!widget->accessibleName().isEmpty()) return PlainCaption(widget->accessibleName());
-  if (const auto* panel = qobject_cast<const QGroupBox*>(widget)) {
-    return PlainCaption(panel->title());
-  }
-  if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-    return PlainCaption(button->text());
-  }
-  if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-    return PlainCaption(label->text());
-  }
-  return QString();
-}
-
-QStringList FullPath(const QWidget* widget) {
-  QStringList path;
-  if (CaptionOf(widget).isEmpty()) return path;
-  for (const QWidget* at = widget; at != nullptr && !at->isWindow(); at = at->parentWidget()) {
-    const bool names = at == widget || qobject_cast<const QGroupBox*>(at) != nullptr;
-    if (names && !CaptionOf(at).isEmpty()) path.prepend(CaptionOf(at));
-  }
-  return path;
-}
-
-std::size_t KindOf(const QWidget* widget, const Kinds& kinds) {
-  std::size_t kind = 0;
-  while (kind < kinds.size() && !kinds[kind](widget)) ++kind;
-  return kind;
-}
-
 QWidget* Decide(const QStringList& path, const std::vector<Candidate>& candidates, bool& several) {
   std::vector<Found> found;
   for (const Candidate& candidate : candidates) {
@@ -118,31 +84,13 @@ QWidget* FindControl(QMainWindow* window, const QStringList& path,
   throw ScriptError{"no control is named" + QuotedPath(path)};
 }
 
-std::vector<QStringList> PathsTo(const QStringList& fullPath) {
-  std::vector<QStringList> paths;
-  const qsizetype panels = fullPath.size() - 1;
-  for (unsigned mask = 0; mask < (1U << panels); ++mask) {
-    QStringList path;
-    for (qsizetype i = 0; i < panels; ++i) {
-      if ((mask >> i & 1U) != 0) path << fullPath[i];
-    }
-    paths.push_back(path << fullPath.last());
-  }
-  std::stable_sort(paths.begin(), paths.end(),
-                   [](const QStringList& a, const QStringList& b) { return a.size() < b.size(); });
-  return paths;
-}
-
-QStringList FewestCaptions(QMainWindow* window, const QWidget* widget,
-                           const std::vector<Kinds>& stages) {
-  const QStringList fullPath = FullPath(widget);
-  if (fullPath.isEmpty()) return {};
-  for (const QStringList& path : PathsTo(fullPath)) {
-    try {
-      if (FindControl(window, path, stages) == widget) return path;
-    } catch (const ScriptError&) {
-      continue;  // it names several
-    }
+QStringList MenuPath(const QList<QAction*>& actions, const QAction* item) {
+  for (const QAction* action : actions) {
+    const QString caption = PlainCaption(action->text());
+    if (action == item) return {caption};
+    if (action->menu() == nullptr) continue;
+    const QStringList inside = MenuPath(action->menu()->actions(), item);
+    if (!inside.isEmpty()) return QStringList(caption) + inside;
   }
   return {};
 }

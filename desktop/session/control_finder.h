@@ -12,14 +12,6 @@ class QWidget;
 
 namespace lignara {
 
-/// The caption by which a script names a widget; empty for one without.
-QString CaptionOf(const QWidget* widget);
-
-/// The captions of the panels around a widget and its own, from the window inward. Empty for a
-/// widget without a caption, such as the scroll bars inside a list: the panel around it is not its
-/// name.
-QStringList FullPath(const QWidget* widget);
-
 /// A control that bears the caption asked for.
 struct Candidate {
   QWidget* widget;
@@ -38,18 +30,10 @@ QWidget* Decide(const QStringList& path, const std::vector<Candidate>& candidate
 QWidget* FindControl(QMainWindow* window, const QStringList& path,
                      const std::vector<Kinds>& stages);
 
-/// The captions of panels that may stand before a control's own, the fewest first: none, one of
-/// them, two of them, and so on, each with its own.
-std::vector<QStringList> PathsTo(const QStringList& fullPath);
-
-/// The fewest captions by which `FindControl` finds a widget; empty where none do.
-QStringList FewestCaptions(QMainWindow* window, const QWidget* widget,
-                           const std::vector<Kinds>& stages);
-
 /// The menu item that a path of captions names, from the menu bar on. Null when there is none.
 QAction* FindMenuItem(QMainWindow* window, const QStringList& path);
 
-/// The place of a widget's kind; the number of kinds when it is of none.
-std::size_t KindOf(const QWidget* widget, const Kinds& kinds);
+/// The captions that lead to an item from a menu bar on; empty where it is not in there.
+QStringList MenuPath(const QList<QAction*>& actions, const QAction* item);
 
 }  // namespace lignara

@@ -22,6 +22,12 @@ bool IsTypedInto(const QWidget* widget) {
   return field != nullptr && !field->isReadOnly();
 }
 
+std::size_t KindOf(const QWidget* widget, const Kinds& kinds) {
+  std::size_t kind = 0;
+  while (kind < kinds.size() && !kinds[kind](widget)) ++kind;
+  return kind;
+}
+
 const Kinds& KindsOf(UserAction::Kind action) {
   using Kind = UserAction::Kind;
   // Where a field and a list bear the same name, keys go to the field.

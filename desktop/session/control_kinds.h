@@ -38,6 +38,9 @@ bool IsList(const QWidget* widget);
 /// A field that takes text.
 bool IsTypedInto(const QWidget* widget);
 
+/// The place of a widget's kind; the number of kinds when it is of none.
+std::size_t KindOf(const QWidget* widget, const Kinds& kinds);
+
 /// The controls among which a script line of an action looks.
 const Kinds& KindsOf(UserAction::Kind action);
 

@@ -1,7 +1,11 @@
 #include "desktop/session/control_names.h"
 
 #include <QAbstractButton>
+#include <QMainWindow>
 #include <algorithm>
+
+#include "desktop/session/control_captions.h"
+#include "desktop/session/script_error.h"
 
 namespace lignara {
 namespace {
@@ -15,6 +19,20 @@ QString Said(const QWidget* widget) {
 }
 
 }  // namespace
+
+QStringList FewestCaptions(QMainWindow* window, const QWidget* widget,
+                           const std::vector<Kinds>& stages) {
+  const QStringList fullPath = FullPath(widget);
+  if (fullPath.isEmpty()) return {};
+  for (const QStringList& path : PathsTo(fullPath)) {
+    try {
+      if (FindControl(window, path, stages) == widget) return path;
+    } catch (const ScriptError&) {
+      continue;  // it names several
+    }
+  }
+  return {};
+}
 
 QStringList ControlNames::ShortestName(QWidget* widget, const Kinds& kinds) {
   const auto isIt = [widget](const Entry& entry) { return entry.widget == widget; };

@@ -8,6 +8,10 @@
 
 namespace lignara {
 
+/// The fewest captions by which `FindControl` finds a widget; empty where none do.
+QStringList FewestCaptions(QMainWindow* window, const QWidget* widget,
+                           const std::vector<Kinds>& stages);
+
 /// The controls of one window, to be named at each action of a user: the list of them is made once
 /// and when a panel was made since, and a caption is worked out anew only when its widget says
 /// another one.

@@ -11,6 +11,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/control_finder.h"
+#include "desktop/session/control_names.h"
 #include "desktop/session/script_error.h"
 
 namespace lignara {

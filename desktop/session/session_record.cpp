@@ -1,9 +1,7 @@
 #include "desktop/session/session_record.h"
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
 #include <utility>
 
@@ -56,18 +54,6 @@ QString PathWords(const QStringList& path) {
   QString words;
   for (const QString& caption : path) words += " " + Quoted(caption);
   return words;
-}
-
-/// The captions that lead to an item from a menu bar on; empty where it is not in there.
-QStringList MenuPath(const QList<QAction*>& actions, const QAction* item) {
-  for (const QAction* action : actions) {
-    const QString caption = PlainCaption(action->text());
-    if (action == item) return {caption};
-    if (action->menu() == nullptr) continue;
-    const QStringList inside = MenuPath(action->menu()->actions(), item);
-    if (!inside.isEmpty()) return QStringList(caption) + inside;
-  }
-  return {};
 }
 
 QString MenuLine(ToolWindow* window, const QAction* item) {

@@ -8,6 +8,7 @@
 #include "app/fault.h"
 #include "app/launcher.h"
 #include "desktop/kit/tool_window.h"
+#include "desktop/session/control_captions.h"
 #include "desktop/session/control_finder.h"
 #include "desktop/session/script_player.h"
 #include "script/script_platform.h"

@@ -11,6 +11,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/tool_window.h"
+#include "desktop/session/control_captions.h"
 #include "desktop/session/control_finder.h"
 #include "desktop/session/printed_shapes.h"
 
