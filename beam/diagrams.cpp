@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <optional>
 
 #include "app/number_pattern.h"
 
@@ -145,14 +144,13 @@ Drawing DiagramOnPaper(const BeamWindow& window, Diagram diagram) {
   return Painted(window, kDiagramRows[static_cast<std::size_t>(diagram)], std::nullopt);
 }
 
-std::string DescribeDiagram(const BeamWindow& window, Diagram diagram) {
+std::optional<DiagramPeak> PeakOfDiagram(const BeamWindow& window, Diagram diagram) {
   const DiagramRow& row = kDiagramRows[static_cast<std::size_t>(diagram)];
   const BeamResults& results = window.results;
   const Float32Array& values = results.*row.values;
-  if (values.upper() < 0) return "before a run";
+  if (values.upper() < 0) return std::nullopt;
   const int peak = PeakStation(values, results.grid.last);
-  return "largest value " + window.*row.peakText + " at " + LocationText(results.grid, peak) +
-         " ft";
+  return DiagramPeak{window.*row.peakText, LocationText(results.grid, peak)};
 }
 
 void ShowDiagrams(BeamWindow& window, const SessionState& session) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "beam/beam_window.h"
 
 namespace lignara {
@@ -9,9 +12,13 @@ enum class Diagram { Shear, Moment, Deflection };
 /// A diagram of the last run as paper shows it: base line, curve, and the peak with its value.
 /// Nothing before the first run.
 Drawing DiagramOnPaper(const BeamWindow& window, Diagram diagram);
-/// A diagram in words, for who cannot see it: "largest value 2500.00 at 5.000 ft", or "before a
-/// run".
-std::string DescribeDiagram(const BeamWindow& window, Diagram diagram);
+
+/// The value of largest magnitude, as shown, and the first place of it, ft.
+struct DiagramPeak {
+  std::string value, location;
+};
+/// The peak of a diagram of the last run; none before the first.
+std::optional<DiagramPeak> PeakOfDiagram(const BeamWindow& window, Diagram diagram);
 
 /// Draws shear, moment and deflected shape of the last run, fills the rotations, and enables "View
 /// Diag.". The read-outs follow.

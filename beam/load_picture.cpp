@@ -8,7 +8,6 @@
 #include "app/sketch_pen.h"
 #include "beam/label_rooms.h"
 #include "beam/load_lanes.h"
-#include "beam/support_class.h"
 
 namespace lignara {
 namespace {
@@ -348,13 +347,6 @@ void ShowLoadPicture(BeamWindow& window) {
   LoadSketch sketch(window.beam, window.loads.row + 1);
   sketch.Draw();
   window.loadPicture = sketch.Take();
-}
-
-std::string DescribeLoads(const SingleSpanBeam& beam) {
-  const int loads = beam.loadCount.value();
-  return "beam of " + PlainNumber(beam.spanLength) + " ft, left support " +
-         SupportWord(beam.leftSupport) + ", right support " + SupportWord(beam.rightSupport) +
-         ", " + std::to_string(loads) + (loads == 1 ? " load" : " loads");
 }
 
 }  // namespace lignara

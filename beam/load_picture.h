@@ -9,8 +9,5 @@ namespace lignara {
 void DrawLoadPicture(BeamWindow& window, Platform& platform);
 /// The same in silence: after a change of length, supports or selection.
 void ShowLoadPicture(BeamWindow& window);
-/// The picture in words, for who cannot see it: "beam of 10 ft, left support pinned, right support
-/// free, 2 loads".
-std::string DescribeLoads(const SingleSpanBeam& beam);
 
 }  // namespace lignara

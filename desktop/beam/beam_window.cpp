@@ -12,8 +12,8 @@
 #include <QVBoxLayout>
 
 #include "app/window_names.h"
+#include "beam/descriptions.h"
 #include "beam/diagrams.h"
-#include "beam/load_picture.h"
 #include "beam/report.h"
 #include "beam/stress_check.h"
 #include "beam/unit_captions.h"

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "beam/descriptions.h"
 #include "beam/diagrams.h"
 #include "desktop/beam/close_button.h"
 #include "desktop/kit/form.h"

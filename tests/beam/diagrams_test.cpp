@@ -92,15 +92,6 @@ TEST_F(SingleSpanDiagrams, MoveOnlyTheMarkWithTheStation) {
   EXPECT_EQ(Panel().moment, before);
 }
 
-TEST_F(SingleSpanDiagrams, AreToldInWords) {
-  EXPECT_EQ(DescribeDiagram(beam.window, Diagram::Shear), "before a run");
-  beam.Supports(SupportType::Fixed, SupportType::Free);
-  beam.Point("10", "100");
-  beam.Run();
-  EXPECT_EQ(DescribeDiagram(beam.window, Diagram::Moment), "largest value 1000.00 at 0.000 ft");
-  EXPECT_EQ(DescribeDiagram(beam.window, Diagram::Deflection), "largest value 0.9000 at 10.000 ft");
-}
-
 TEST_F(SingleSpanDiagrams, OfNothingAreFlat) {
   beam.Run();
   EXPECT_EQ(Panel().shear.height, 1.0);

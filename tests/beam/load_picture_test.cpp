@@ -191,16 +191,6 @@ TEST_F(LoadPicture, StacksUpwardLoadsBelowTheBeamOnly) {
   }
 }
 
-TEST_F(LoadPicture, IsToldInWords) {
-  beam.Supports(Fixed, Free);
-  EXPECT_EQ(DescribeLoads(beam.window.beam),
-            "beam of 10 ft, left support fixed, right support free, 0 loads");
-  beam.Length("12.5");
-  beam.Point("5", "1");
-  EXPECT_EQ(DescribeLoads(beam.window.beam),
-            "beam of 12.5 ft, left support fixed, right support free, 1 load");
-}
-
 TEST_F(LoadPicture, StacksLoadsThatLieOverEachOther) {
   beam.Uniform("0", "10", "100");
   const std::size_t one = Picture().shapes.size();
