@@ -1,5 +1,7 @@
 #include "app/project_header.h"
 
+#include "app/report_font.h"
+
 namespace lignara {
 
 void OpenHeaderPanel(HeaderPanel& panel, const SessionState& session) {
@@ -13,18 +15,6 @@ void AcceptHeaderPanel(HeaderPanel& panel, SessionState& session) {
   session.Header = panel.texts;
   ChooseReportFont(session, panel.fontTimes, panel.fontTen);
   panel.open = false;
-}
-
-void ChooseReportFont(SessionState& session, bool times, bool ten) {
-  session.ReportFont.Name = times ? "Times New Roman" : "Arial";
-  session.ReportFont.Size = ten ? 10 : 8;
-}
-
-Report NewReport(const SessionState& session) {
-  Report report;
-  report.fontName = session.ReportFont.Name;
-  report.fontSize = session.ReportFont.Size.value();
-  return report;
 }
 
 void WriteHeader(Report& report, const ProjectHeader& header) {

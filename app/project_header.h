@@ -22,11 +22,6 @@ void OpenHeaderPanel(HeaderPanel& panel, const SessionState& session);
 /// "OK": texts and font go into the session, and the panel closes.
 void AcceptHeaderPanel(HeaderPanel& panel, SessionState& session);
 
-/// The font of reports as the panels offer it: "Times New Roman" or "Arial", 10 or 8 points.
-void ChooseReportFont(SessionState& session, bool times, bool ten);
-
-/// An empty report in the font of the session.
-Report NewReport(const SessionState& session);
 /// The head of a page: the two title lines, engineer, date, a blank line.
 void WriteHeader(Report& report, const ProjectHeader& header);
 

@@ -4,6 +4,7 @@
 #include "app/number_pattern.h"
 #include "app/number_reader.h"
 #include "app/report_file.h"
+#include "app/report_font.h"
 #include "beam/diagrams.h"
 #include "beam/support_class.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/number_pattern.h"
 #include "app/report_file.h"
+#include "app/report_font.h"
 #include "multispan/beam_sketch.h"
 #include "multispan/diagrams.h"
 #include "multispan/end_class.h"

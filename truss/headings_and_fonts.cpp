@@ -1,6 +1,6 @@
 #include "truss/headings_and_fonts.h"
 
-#include "app/project_header.h"
+#include "app/report_font.h"
 
 namespace lignara {
 

@@ -6,7 +6,6 @@
 
 #include "app/fault.h"
 #include "app/number_pattern.h"
-#include "app/project_header.h"
 #include "app/report_file.h"
 #include "truss/canvas.h"
 #include "truss/top_nodes.h"

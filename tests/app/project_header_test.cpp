@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/launcher.h"
+#include "app/report_font.h"
 
 namespace lignara {
 namespace {
@@ -70,13 +71,6 @@ TEST_F(Header, OkStoresTheFontOfReports) {
   const Report report = NewReport(session);
   EXPECT_EQ(report.fontName, "Arial");
   EXPECT_EQ(report.fontSize, 8);
-}
-
-TEST_F(Header, ReportBearsTimesAtTenPointsUntilChosenOtherwise) {
-  const Report report = NewReport(session);
-  EXPECT_EQ(report.fontName, "Times New Roman");
-  EXPECT_EQ(report.fontSize, 10);
-  EXPECT_TRUE(report.items().empty());
 }
 
 }  // namespace
