@@ -3,6 +3,8 @@
 #include "beam/beam_window.h"
 #include "desktop/kit/tool_window.h"
 
+class QGroupBox;
+
 namespace lignara {
 
 /// The panel "Diagrams" of the single-span window: the three pictures, their values at the station

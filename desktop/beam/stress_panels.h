@@ -3,6 +3,8 @@
 #include "beam/beam_window.h"
 #include "desktop/kit/tool_window.h"
 
+class QGroupBox;
+
 namespace lignara {
 
 /// The panels of the stress check in the single-span window. The record has to live as long as the

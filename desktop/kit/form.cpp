@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -104,6 +105,12 @@ QLabel* MakeHeading(const QString& text) {
   font.setBold(true);
   label->setFont(font);
   return label;
+}
+
+QGroupBox* MakePanel(const QString& caption) {
+  auto* panel = new QGroupBox(caption);
+  panel->setAccessibleName(PlainCaption(caption));
+  return panel;
 }
 
 }  // namespace lignara

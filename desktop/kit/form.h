@@ -3,12 +3,12 @@
 #include <QString>
 
 class QGridLayout;
+class QGroupBox;
 class QHBoxLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
 class QListWidget;
-class QWidget;
 class QWidget;
 
 namespace lignara {
@@ -51,5 +51,15 @@ QWidget* InWidget(QLayout* layout);
 
 /// A label in bold letters.
 QLabel* MakeHeading(const QString& text);
+
+/// A panel: a framed part of a window with a caption.
+QGroupBox* MakePanel(const QString& caption);
+
+/// Gives a widget the name by which scripts and screen readers find it.
+template <typename Widget>
+Widget* Named(const char* name, Widget* widget) {
+  widget->setAccessibleName(name);
+  return widget;
+}
 
 }  // namespace lignara

@@ -5,7 +5,7 @@
 #include <QRadioButton>
 #include <algorithm>
 
-#include "desktop/kit/tool_window.h"
+#include "desktop/kit/form.h"
 
 namespace lignara {
 namespace {

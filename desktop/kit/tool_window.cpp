@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
@@ -12,6 +11,7 @@
 #include "app/help.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/focus_mark.h"
+#include "desktop/kit/form.h"
 #include "desktop/kit/scroll_page.h"
 #include "desktop/kit/standard_keys.h"
 #include "desktop/kit/text.h"
@@ -123,12 +123,6 @@ bool ToolWindow::Enter(QWidget* focus) {
   if (button == nullptr) return PressReturn(focus);
   button->click();
   return true;
-}
-
-QGroupBox* MakePanel(const QString& caption) {
-  auto* panel = new QGroupBox(caption);
-  panel->setAccessibleName(PlainCaption(caption));
-  return panel;
 }
 
 }  // namespace lignara

@@ -6,7 +6,6 @@
 #include "desktop/kit/binding.h"
 #include "desktop/kit/return_and_escape.h"
 
-class QGroupBox;
 class QLabel;
 class QPushButton;
 
@@ -94,15 +93,5 @@ class ToolWindow : public QMainWindow {
   Binding binding_;
   bool closingForGood_ = false;
 };
-
-/// A panel: a framed part of a window with a caption.
-QGroupBox* MakePanel(const QString& caption);
-
-/// Gives a widget the name by which scripts and screen readers find it.
-template <typename Widget>
-Widget* Named(const char* name, Widget* widget) {
-  widget->setAccessibleName(name);
-  return widget;
-}
 
 }  // namespace lignara

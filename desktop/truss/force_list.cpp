@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include "desktop/kit/form.h"
-#include "desktop/kit/tool_window.h"
 #include "desktop/truss/side_list.h"
 #include "truss/force_and_length_lists.h"
 

@@ -9,12 +9,12 @@
 #include <algorithm>
 
 #include "desktop/kit/desktop_platform.h"
+#include "desktop/kit/form.h"
 #include "desktop/kit/legend.h"
 #include "desktop/kit/picture.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/screen_readers.h"
 #include "desktop/kit/text.h"
-#include "desktop/kit/tool_window.h"
 #include "truss/picture_in_words.h"
 #include "truss/truss_picture.h"
 
