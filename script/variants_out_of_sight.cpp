@@ -10,6 +10,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/session/csv_line.h"
 #include "desktop/session/variant_pipe.h"
+#include "desktop/session/variant_table.h"
 #include "script/exit_status.h"
 #include "script/script_platform.h"
 

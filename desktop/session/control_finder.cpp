@@ -9,6 +9,7 @@
 #include "desktop/kit/text.h"
 #include "desktop/session/control_captions.h"
 #include "desktop/session/script_error.h"
+#include "desktop/session/script_line.h"
 
 namespace lignara {
 namespace {
@@ -26,12 +27,6 @@ QStringList PlainPath(const QStringList& path) {
   QStringList plain;
   for (const QString& caption : path) plain << PlainCaption(caption);
   return plain;
-}
-
-QString QuotedPath(const QStringList& path) {
-  QString quoted;
-  for (const QString& caption : path) quoted += " " + Quoted(caption);
-  return quoted;
 }
 
 /// What a path names, and whether in full.
@@ -78,10 +73,10 @@ QWidget* FindControl(QMainWindow* window, const QStringList& path,
   for (const Kinds& kinds : stages) {
     bool several = false;
     QWidget* control = Decide(plain, Search(window, plain.last(), kinds), several);
-    if (several) throw ScriptError{"more than one control is named" + QuotedPath(path)};
+    if (several) throw ScriptError{"more than one control is named" + PathWords(path)};
     if (control != nullptr) return control;
   }
-  throw ScriptError{"no control is named" + QuotedPath(path)};
+  throw ScriptError{"no control is named" + PathWords(path)};
 }
 
 QStringList MenuPath(const QList<QAction*>& actions, const QAction* item) {

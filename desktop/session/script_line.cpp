@@ -42,6 +42,20 @@ std::vector<ScriptWord> SplitScriptLine(const QString& line) {
   }
 }
 
+std::vector<ScriptWord> WordsOf(const QString& line) {
+  try {
+    return SplitScriptLine(line);
+  } catch (const ScriptError&) {
+    return {};
+  }
+}
+
+QString Captions(const std::vector<ScriptWord>& words, std::size_t lastOnes) {
+  QStringList captions;
+  for (std::size_t i = 1; i + lastOnes < words.size(); ++i) captions << words[i].text;
+  return captions.join(' ');
+}
+
 double ToFigure(const ScriptWord& word) {
   bool ok = false;
   const double value = word.text.toDouble(&ok);
@@ -54,6 +68,32 @@ int ToWhole(const ScriptWord& word) {
   const int value = word.text.toInt(&ok);
   if (!ok) throw ScriptError{Quoted(word.text) + " is not a whole number"};
   return value;
+}
+
+QString Word(const QString& text) {
+  bool bare = !text.isEmpty();
+  for (const QChar sign : text) {
+    bare = bare &&
+           ((sign.unicode() < 128 && sign.isLetterOrNumber()) || QString("+-._").contains(sign));
+  }
+  return bare ? text : Quoted(text);
+}
+
+QString KeyName(const QKeySequence& key) {
+  return key == QKeySequence(Qt::Key_Escape) ? QString("Escape") : Word(key.toString());
+}
+
+QString PathWords(const QStringList& path) {
+  QString words;
+  for (const QString& caption : path) words += " " + Quoted(caption);
+  return words;
+}
+
+QString WithLastWord(const QString& line, const QString& text) {
+  const std::vector<ScriptWord> words = WordsOf(line);
+  QString changed = words[0].text;
+  for (std::size_t i = 1; i + 1 < words.size(); ++i) changed += " " + Quoted(words[i].text);
+  return changed + " " + Quoted(text);
 }
 
 }  // namespace lignara

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 namespace lignara {
@@ -15,8 +17,26 @@ struct ScriptWord {
 /// that begin with # have none. Throws ScriptError for a quote that is not closed.
 std::vector<ScriptWord> SplitScriptLine(const QString& line);
 
+/// The same of a line that may be spoilt: none where a quote is not closed.
+std::vector<ScriptWord> WordsOf(const QString& line);
+
+/// The captions of a line, without its first word and so many of its last.
+QString Captions(const std::vector<ScriptWord>& words, std::size_t lastOnes);
+
 /// The number that a word is. A `ScriptError` where it is none.
 double ToFigure(const ScriptWord& word);
 int ToWhole(const ScriptWord& word);
+
+/// A text as the last word of a line: bare where it can be.
+QString Word(const QString& text);
+
+/// The name that scripts give a key, which the toolkit shortens.
+QString KeyName(const QKeySequence& key);
+
+/// Captions as words of a line, a blank before each.
+QString PathWords(const QStringList& path);
+
+/// A line of two words or more with another text in the place of the last.
+QString WithLastWord(const QString& line, const QString& text);
 
 }  // namespace lignara

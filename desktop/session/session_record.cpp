@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "desktop/kit/binding.h"
-#include "desktop/kit/text.h"
 #include "desktop/session/played_keys.h"
+#include "desktop/session/script_line.h"
 
 namespace lignara {
 namespace {
@@ -33,27 +33,6 @@ const Verb* VerbOf(Kind kind) {
     if (verb.kind == kind) return &verb;
   }
   return nullptr;
-}
-
-/// A text as the last word of a line: bare where it can be.
-QString Word(const QString& text) {
-  bool bare = !text.isEmpty();
-  for (const QChar sign : text) {
-    bare = bare &&
-           ((sign.unicode() < 128 && sign.isLetterOrNumber()) || QString("+-._").contains(sign));
-  }
-  return bare ? text : Quoted(text);
-}
-
-/// The name that scripts give a key, which the toolkit shortens.
-QString KeyName(const QKeySequence& key) {
-  return key == QKeySequence(Qt::Key_Escape) ? QString("Escape") : Word(key.toString());
-}
-
-QString PathWords(const QStringList& path) {
-  QString words;
-  for (const QString& caption : path) words += " " + Quoted(caption);
-  return words;
 }
 
 QString MenuLine(ToolWindow* window, const QAction* item) {

@@ -160,7 +160,20 @@ QStringList HeadsOf(const std::vector<Column>& columns) {
   return heads;
 }
 
+bool Reads(const std::vector<ScriptWord>& words) {
+  return words.size() > 1 && (words[0].text == "read" || words[0].text == "rows");
+}
+
 }  // namespace
+
+QStringList VariantHeads(const Variants& variants) {
+  QStringList heads(Captions(WordsOf(variants.lines[variants.enterLine]), 1));
+  for (const QString& line : variants.lines) {
+    const std::vector<ScriptWord> words = WordsOf(line);
+    if (Reads(words)) heads << Captions(words, 0);
+  }
+  return heads;
+}
 
 VariantTable TableOf(const Variants& variants, const std::vector<VariantOutcome>& outcomes) {
   const QString field = VariantHeads(variants).first();

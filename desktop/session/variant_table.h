@@ -16,6 +16,9 @@ struct VariantTable {
   bool operator==(const VariantTable&) const = default;
 };
 
+/// The heads that a variant gives: the field, then what each `read` or `rows` line names.
+QStringList VariantHeads(const Variants& variants);
+
 /// The table of the outcomes so far, which are those of the first values. A list whose rows bear
 /// the same names in all of them, such as "TL = ", has a column for each row; any other stands in
 /// one column, its rows joined. What boxes said and what could not be done has a column where there

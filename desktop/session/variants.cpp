@@ -1,7 +1,6 @@
 #include "desktop/session/variants.h"
 
 #include "app/window_names.h"
-#include "desktop/kit/text.h"
 #include "desktop/session/program_start.h"
 #include "desktop/session/script_error.h"
 #include "desktop/session/script_line.h"
@@ -10,32 +9,6 @@
 
 namespace lignara {
 namespace {
-
-std::vector<ScriptWord> WordsOf(const QString& line) {
-  try {
-    return SplitScriptLine(line);
-  } catch (const ScriptError&) {
-    return {};
-  }
-}
-
-bool Reads(const std::vector<ScriptWord>& words) {
-  return words.size() > 1 && (words[0].text == "read" || words[0].text == "rows");
-}
-
-/// The captions of a line, without its first word and so many of its last.
-QString Captions(const std::vector<ScriptWord>& words, std::size_t lastOnes) {
-  QStringList captions;
-  for (std::size_t i = 1; i + lastOnes < words.size(); ++i) captions << words[i].text;
-  return captions.join(' ');
-}
-
-QString WithValue(const QString& line, const QString& value) {
-  const std::vector<ScriptWord> words = WordsOf(line);
-  QString changed = words[0].text;
-  for (std::size_t i = 1; i + 1 < words.size(); ++i) changed += " " + Quoted(words[i].text);
-  return changed + " " + Quoted(value);
-}
 
 void ReadAtTheEnd(const std::vector<Reading>& readings, const DesktopPlatform& platform,
                   VariantOutcome& outcome) {
@@ -72,19 +45,10 @@ std::vector<EnterLine> EnterLines(const QStringList& lines) {
   return entered;
 }
 
-QStringList VariantHeads(const Variants& variants) {
-  QStringList heads(Captions(WordsOf(variants.lines[variants.enterLine]), 1));
-  for (const QString& line : variants.lines) {
-    const std::vector<ScriptWord> words = WordsOf(line);
-    if (Reads(words)) heads << Captions(words, 0);
-  }
-  return heads;
-}
-
 VariantOutcome PlayVariant(const Variants& variants, const QString& value, SessionState& session,
                            DesktopPlatform& platform) {
   QStringList lines = variants.lines;
-  lines[variants.enterLine] = WithValue(lines[variants.enterLine], value);
+  lines[variants.enterLine] = WithLastWord(lines[variants.enterLine], value);
   session.FactorsAtStart = StartFactorsIn(lines);
   StartProgramAgain(session, platform);
   const SessionPlay play = PlaySession(

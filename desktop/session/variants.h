@@ -45,9 +45,6 @@ struct EnterLine {
 /// The lines of a session that can take values.
 std::vector<EnterLine> EnterLines(const QStringList& lines);
 
-/// The heads of the table: the field, then what each `read` or `rows` line names.
-QStringList VariantHeads(const Variants& variants);
-
 /// Plays a variant in the program as it stands after its start.
 VariantOutcome PlayVariant(const Variants& variants, const QString& value, SessionState& session,
                            DesktopPlatform& platform);

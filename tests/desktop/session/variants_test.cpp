@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "desktop/kit/text.h"
+#include "desktop/session/variant_table.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {
