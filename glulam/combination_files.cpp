@@ -4,7 +4,9 @@
 #include <string>
 #include <utility>
 
+#include "app/fault.h"
 #include "app/field_file.h"
+#include "glulam/glulam_window.h"
 
 namespace lignara {
 namespace {
@@ -34,6 +36,18 @@ void ReadCombinations(GlulamCombinationTable& table, int option, const std::stri
     if (!row) return;
     table.cells[static_cast<std::size_t>(at)] = std::move(*row);
   }
+}
+
+void LoadCombinationFile(GlulamWindow& window, SessionState& session, Platform& platform,
+                         int option) {
+  FaultScope faults(platform);
+  GlulamCombinationTable& table = session.GlulamCombinations;
+  ReadCombinations(table, option, session.DataDirectory, platform);
+  window.combinations = ListRows();
+  for (int row = 1; row <= table.RowCount.value(); ++row) {
+    window.combinations.rows.push_back(table.RowAt(row)[glulam_cell::kSymbol]);
+  }
+  ChooseCombination(window, session, platform, 0);
 }
 
 }  // namespace lignara

@@ -2,7 +2,6 @@
 
 #include "app/fault.h"
 #include "app/window_names.h"
-#include "glulam/combination_files.h"
 #include "glulam/user_factors.h"
 
 namespace lignara {
@@ -14,18 +13,6 @@ void OpenGlulamWindow(GlulamWindow& window, const SessionState& session, Platfor
 }
 
 void ExitGlulam(Platform& platform) { platform.CloseWindow(window_name::kGlulam); }
-
-void LoadCombinationFile(GlulamWindow& window, SessionState& session, Platform& platform,
-                         int option) {
-  FaultScope faults(platform);
-  GlulamCombinationTable& table = session.GlulamCombinations;
-  ReadCombinations(table, option, session.DataDirectory, platform);
-  window.combinations = ListRows();
-  for (int row = 1; row <= table.RowCount.value(); ++row) {
-    window.combinations.rows.push_back(table.RowAt(row)[glulam_cell::kSymbol]);
-  }
-  ChooseCombination(window, session, platform, 0);
-}
 
 void ChooseCombination(GlulamWindow& window, const SessionState& session, Platform& platform,
                        int row) {

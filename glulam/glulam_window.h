@@ -48,11 +48,14 @@ void OpenGlulamWindow(GlulamWindow& window, const SessionState& session, Platfor
 /// Menu "Files", "Exit", and the window's close control.
 void ExitGlulam(Platform& platform);
 
-// Choices (glulam_window.cpp).
+// The table of combinations (combination_files.cpp).
 
 /// A button of "Data Base Options", 1 to 4: reads the file and chooses its first combination.
 void LoadCombinationFile(GlulamWindow& window, SessionState& session, Platform& platform,
                          int option);
+
+// Choices (glulam_window.cpp).
+
 /// A click on a row of the list. A row outside of it changes nothing.
 void ChooseCombination(GlulamWindow& window, const SessionState& session, Platform& platform,
                        int row);
