@@ -10,10 +10,6 @@
 namespace lignara {
 namespace {
 
-constexpr double kZoomStep = 0.1;
-constexpr double kZoomLimit = 2.5;
-constexpr int kBarStep = 600;
-
 /// Nine tenths of the canvas's width and seven tenths of its height hold the truss at zoom 1.
 void SetScales(TrussView& view, const SessionState& session) {
   const Number width = kCanvasWidth - 0.1 * kCanvasWidth;
@@ -47,14 +43,6 @@ void Draw(TrussWindow& window, const SessionState& session, Platform& platform) 
   DrawArrow(window, session, shape, painter);
   window.view.MemberMark = painter.TakeMarks();
   window.view.drawing = painter.TakeDrawing();
-}
-
-void Zoom(TrussWindow& window, const SessionState& session, Platform& platform, double step) {
-  FaultScope faults(platform);
-  TrussView& view = window.view;
-  view.ZoomFactor = view.ZoomFactor + step * view.ZoomFactor;
-  view.markedRow = -1;
-  RedrawTruss(window, session, platform);
 }
 
 }  // namespace
@@ -91,22 +79,6 @@ Drawing PageDrawing(const TrussWindow& window, const SessionState& session) {
   Drawing drawing = painter.TakeDrawing();
   drawing.scene = PageScene(window, session);
   return drawing;
-}
-
-void EnlargeTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
-  if (window.view.ZoomFactor < kZoomLimit) Zoom(window, session, platform, kZoomStep);
-}
-
-void ReduceTruss(TrussWindow& window, const SessionState& session, Platform& platform) {
-  Zoom(window, session, platform, -kZoomStep);
-}
-
-void PanTruss(TrussWindow& window, const SessionState& session, Platform& platform, int barValue) {
-  FaultScope faults(platform);
-  window.view.panBar = barValue;
-  window.view.CanvasOriginX = Number(barValue) * kBarStep;
-  window.view.markedRow = -1;
-  RedrawTruss(window, session, platform);
 }
 
 }  // namespace lignara

@@ -4,6 +4,7 @@
 
 #include "tests/support/drawn_members.h"
 #include "tests/support/opened_truss.h"
+#include "tests/truss/example_canvas.h"
 
 namespace lignara {
 namespace {
@@ -13,43 +14,10 @@ using Texts = std::vector<std::string>;
 const char* const kTypes[] = {"PRATT1", "FINK",   "ENGLISH", "KINGPOST",
                               "SCI",    "PRATT2", "HOWE",    "WARREN"};
 
-/// 30 ft by 7.5 ft: 144 units a foot across, 280 up, origin (144, 2580).
-OpenedTruss Example(const std::string& type = "PRATT1") {
-  const bool fixed = type == "KINGPOST" || type == "SCI";
-  return OpenedTruss(type, fixed ? 4 : 6, 30, 7.5, 3);
-}
-
-void ExpectView(const OpenedTruss& truss, int scaleX, int scaleY, int originX, int originY) {
-  const TrussView& view = truss.window.view;
-  EXPECT_EQ(view.PixelsPerFootX.value(), scaleX);
-  EXPECT_EQ(view.PixelsPerFootY.value(), scaleY);
-  EXPECT_EQ(view.CanvasOriginX.value(), originX);
-  EXPECT_EQ(view.CanvasOriginY.value(), originY);
-}
-
-void Enlarge(OpenedTruss& truss) { EnlargeTruss(truss.window, truss.session, truss.platform); }
-void Reduce(OpenedTruss& truss) { ReduceTruss(truss.window, truss.session, truss.platform); }
-void Pan(OpenedTruss& truss, int bar) {
-  PanTruss(truss.window, truss.session, truss.platform, bar);
-}
-void Select(OpenedTruss& truss, int row) {
-  SelectNode(truss.window, truss.session, truss.platform, row);
-}
-
-/// The blue lines of the picture.
-std::vector<LineShape> Arrow(const OpenedTruss& truss) {
-  std::vector<LineShape> lines;
-  for (const Shape& shape : truss.window.view.drawing.shapes) {
-    const auto* line = std::get_if<LineShape>(&shape);
-    if (line != nullptr && line->colour == Colour::Blue) lines.push_back(*line);
-  }
-  return lines;
-}
-
 TEST(Canvas, ScalesFitTheTrussAtOpening) {
   // 0.9 x 4800 / 30 = 144; 0.7 x 3000 / 7.5 = 280; 3000 - 280 x 0.2 x 7.5 = 2580.
-  ExpectView(Example(), 144, 280, 144, 2580);
-  EXPECT_EQ(Example().window.view.ZoomFactor.value(), 1.0f);
+  ExpectView(ExampleOnCanvas(), 144, 280, 144, 2580);
+  EXPECT_EQ(ExampleOnCanvas().window.view.ZoomFactor.value(), 1.0f);
 }
 
 TEST(Canvas, ScalesRoundTiesToTheEvenNumber) {
@@ -63,7 +31,7 @@ TEST(Canvas, AxesScaleSeparately) {
 }
 
 TEST(Canvas, PictureHasTheCanvasesUnits) {
-  const Drawing drawing = Example().window.view.drawing;
+  const Drawing drawing = ExampleOnCanvas().window.view.drawing;
   EXPECT_EQ(drawing.width, 4800);
   EXPECT_EQ(drawing.height, 3000);
   EXPECT_GT(drawing.textHeight, 0);
@@ -71,7 +39,7 @@ TEST(Canvas, PictureHasTheCanvasesUnits) {
 
 TEST(Canvas, EveryMemberHasARedCircleAtItsMidpoint) {
   for (const char* type : kTypes) {
-    const OpenedTruss truss = Example(type);
+    const OpenedTruss truss = ExampleOnCanvas(type);
     const auto members = DrawnMembers(truss.window.view.drawing);
     EXPECT_EQ(members.size() * 3, truss.window.view.drawing.shapes.size()) << type;
     EXPECT_EQ(members.size(), truss.window.view.MemberMark.size()) << type;
@@ -86,7 +54,7 @@ TEST(Canvas, EveryMemberHasARedCircleAtItsMidpoint) {
 
 // VL 1 runs from (864, 2580) to (864, 1880).
 TEST(Canvas, MarksHoldTheMidpoints) {
-  const OpenedTruss truss = Example();
+  const OpenedTruss truss = ExampleOnCanvas();
   const MarkPoint& mark = truss.window.view.MemberMark.at({Family::VL, 1});
   EXPECT_EQ(mark.x.value(), 864);
   EXPECT_EQ(mark.y.value(), 2230);
@@ -96,14 +64,14 @@ TEST(Canvas, MarksHoldTheMidpoints) {
 }
 
 TEST(Canvas, MembersAreBlackBeforeARun) {
-  for (const DrawnMember& member : DrawnMembers(Example().window.view.drawing)) {
+  for (const DrawnMember& member : DrawnMembers(ExampleOnCanvas().window.view.drawing)) {
     EXPECT_EQ(member.line.colour, Colour::Black);
     EXPECT_EQ(member.name.colour, Colour::Black);
   }
 }
 
 TEST(Canvas, MembersShowTensionAndCompressionAfterARun) {
-  OpenedTruss truss = Example("KINGPOST");
+  OpenedTruss truss = ExampleOnCanvas("KINGPOST");
   for (const Family family : {Family::TL, Family::TR, Family::CL, Family::CR, Family::CV}) {
     AxialOf(truss.model(), family).Allocate(4);
   }
@@ -126,99 +94,6 @@ TEST(Canvas, NothingIsDrawnForAKeywordThatIsNoType) {
   EXPECT_TRUE(truss.window.view.drawing.shapes.empty());
 }
 
-TEST(Zoom, EnlargesByATenthUntilTheFirstValueAbove2Point5) {
-  OpenedTruss truss = Example();
-  const double factors[] = {1.1, 1.21, 1.331};
-  for (const double factor : factors) {
-    Enlarge(truss);
-    EXPECT_NEAR(truss.window.view.ZoomFactor.value(), factor, 1e-6);
-  }
-  for (int step = 4; step <= 9; ++step) Enlarge(truss);
-  EXPECT_LT(truss.window.view.ZoomFactor.value(), 2.5f);
-  Enlarge(truss);  // the tenth: 1.1^10 = 2.5937
-  EXPECT_NEAR(truss.window.view.ZoomFactor.value(), 2.5937425, 1e-5);
-  const float last = truss.window.view.ZoomFactor.value();
-  Enlarge(truss);
-  EXPECT_EQ(truss.window.view.ZoomFactor.value(), last);
-}
-
-TEST(Zoom, AtTheLimitItselfNothingHappens) {
-  OpenedTruss truss = Example();
-  truss.window.view.ZoomFactor = 2.5;
-  Select(truss, 1);
-  Enlarge(truss);
-  EXPECT_EQ(truss.window.view.ZoomFactor.value(), 2.5f);
-  EXPECT_EQ(Arrow(truss).size(), 3u) << "no redraw";
-}
-
-TEST(Zoom, TakesEffectAtOnceAndKeepsTheOrigin) {
-  OpenedTruss truss = Example();
-  Enlarge(truss);
-  ExpectView(truss, 158, 308, 144, 2580);  // 158.4 and 308
-  // A panel is 5 x 158 = 790 units, a third of the height 2.5 x 308 = 770.
-  const LineShape line = DrawnByName(truss.window.view.drawing).at("TL 1").line;
-  EXPECT_EQ(line.x2, 934);
-  EXPECT_EQ(line.y2, 1810);
-}
-
-TEST(Zoom, ReducesByATenth) {
-  OpenedTruss truss = Example();
-  Reduce(truss);
-  EXPECT_NEAR(truss.window.view.ZoomFactor.value(), 0.9, 1e-6);
-  ExpectView(truss, 130, 252, 144, 2580);  // 129.6 and 252
-  Enlarge(truss);
-  EXPECT_NEAR(truss.window.view.ZoomFactor.value(), 0.99, 1e-6);
-}
-
-// 0.9^80 x 280 = 0.06.
-TEST(Zoom, TrussCollapsesToAPointAfterMuchReducing) {
-  OpenedTruss truss = Example();
-  for (int step = 0; step < 80; ++step) Reduce(truss);
-  ExpectView(truss, 0, 0, 144, 2580);
-  EXPECT_TRUE(truss.platform.messages.empty());
-  for (const DrawnMember& member : DrawnMembers(truss.window.view.drawing)) {
-    EXPECT_EQ(member.circle.x, 144);
-    EXPECT_EQ(member.circle.y, 2580);
-  }
-}
-
-TEST(Pan, SetsTheOriginInStepsOf600) {
-  OpenedTruss truss = Example();
-  for (const auto& [bar, origin] : {std::pair{2, 1200}, std::pair{-3, -1800}, std::pair{0, 0}}) {
-    Pan(truss, bar);
-    ExpectView(truss, 144, 280, origin, 2580);
-    EXPECT_EQ(DrawnByName(truss.window.view.drawing).at("CL 1").line.x1, origin);
-  }
-}
-
-TEST(Pan, IsKeptByZoom) {
-  OpenedTruss truss = Example();
-  Pan(truss, 2);
-  Enlarge(truss);
-  Reduce(truss);
-  EXPECT_EQ(truss.window.view.CanvasOriginX.value(), 1200);
-}
-
-TEST(Pan, BeyondTheCanvasesNumbersIsAFaultAndKeepsTheOrigin) {
-  OpenedTruss truss = Example();
-  Pan(truss, 55);  // 33000
-  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
-  EXPECT_EQ(truss.window.view.CanvasOriginX.value(), 144);
-}
-
-// Origin 32400: what lies further right than 32767 cannot be drawn.
-TEST(Pan, MembersBeyondTheCanvasesNumbersAreLeftOutWithOneBox) {
-  OpenedTruss truss = Example();
-  Pan(truss, 54);
-  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
-  EXPECT_TRUE(truss.window.view.drawing.shapes.empty()) << "the first panel is 720 units long";
-  EXPECT_TRUE(truss.window.view.MemberMark.empty());
-  Pan(truss, 53);  // 31800 + 720 = 32520 fits
-  EXPECT_EQ(truss.platform.TakeTexts(), Texts{"The number is too large"});
-  EXPECT_EQ(DrawnNames(truss.window.view.drawing), (Texts{"TL 1", "CL 1", "VL 1"}));
-}
-
-// 0.1 ft would need 43200 units a foot.
 TEST(Scale, TooLargeForTheCanvasIsOneFaultADrawingAndStaysAsItWas) {
   OpenedTruss truss("PRATT1", 6, 0.1, 7.5);
   truss.platform.messages.clear();
@@ -228,7 +103,7 @@ TEST(Scale, TooLargeForTheCanvasIsOneFaultADrawingAndStaysAsItWas) {
 }
 
 TEST(NodeMarker, BlueArrowPointsDownAtTheNode) {
-  OpenedTruss truss = Example();
+  OpenedTruss truss = ExampleOnCanvas();
   Select(truss, 1);  // PL 1 at (864, 1880)
   const auto arrow = Arrow(truss);
   ASSERT_EQ(arrow.size(), 3u);
@@ -273,7 +148,7 @@ TEST(NodeMarker, StandsOverTheNodeOfEachRow) {
 }
 
 TEST(NodeMarker, MovesWithTheSelection) {
-  OpenedTruss truss = Example();
+  OpenedTruss truss = ExampleOnCanvas();
   Select(truss, 1);
   Select(truss, 2);
   const auto arrow = Arrow(truss);
@@ -282,14 +157,14 @@ TEST(NodeMarker, MovesWithTheSelection) {
 }
 
 TEST(NodeMarker, BlankRowHasNoNode) {
-  OpenedTruss truss = Example();
+  OpenedTruss truss = ExampleOnCanvas();
   Select(truss, 1);
   Select(truss, 0);
   EXPECT_TRUE(Arrow(truss).empty());
 }
 
 TEST(NodeMarker, StaysOverARedrawButNotOverZoomAndPan) {
-  OpenedTruss truss = Example();
+  OpenedTruss truss = ExampleOnCanvas();
   Select(truss, 1);
   RedrawTruss(truss.window, truss.session, truss.platform);
   EXPECT_EQ(Arrow(truss).size(), 3u);
