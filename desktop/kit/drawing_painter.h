@@ -5,7 +5,7 @@
 #include <QRectF>
 
 #include "app/drawing.h"
-#include "desktop/kit/picture_view.h"
+#include "desktop/kit/visible_part.h"
 
 class QPainter;
 

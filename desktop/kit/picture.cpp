@@ -13,6 +13,11 @@
 namespace lignara {
 namespace {
 
+// What one press of a key or one notch of the wheel enlarges by.
+constexpr double kZoomStep = 1.25;
+// How far one press of an arrow key moves, in pixels.
+constexpr double kMoveStep = 40;
+
 struct MoveKey {
   int key;
   QPointF pixels;

@@ -5,7 +5,7 @@
 
 #include "app/drawing.h"
 #include "desktop/kit/drawing_painter.h"
-#include "desktop/kit/picture_view.h"
+#include "desktop/kit/visible_part.h"
 
 class QMenu;
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/scene.h"
-#include "desktop/kit/picture_view.h"
+#include "desktop/kit/visible_part.h"
 
 namespace lignara {
 

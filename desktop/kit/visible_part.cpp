@@ -1,4 +1,4 @@
-#include "desktop/kit/picture_view.h"
+#include "desktop/kit/visible_part.h"
 
 #include <algorithm>
 

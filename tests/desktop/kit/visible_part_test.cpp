@@ -1,6 +1,6 @@
 // How a user looks at a picture: all of it, nearer, moved, and never past it.
 
-#include "desktop/kit/picture_view.h"
+#include "desktop/kit/visible_part.h"
 
 #include <gtest/gtest.h>
 

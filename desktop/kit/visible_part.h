@@ -6,11 +6,6 @@
 
 namespace lignara {
 
-/// What one press of a key or one notch of the wheel enlarges by.
-inline constexpr double kZoomStep = 1.25;
-/// How far one press of an arrow key moves, in pixels.
-inline constexpr double kMoveStep = 40;
-
 /// How the user looks at a picture: which part of it, and how large. The picture's own units know
 /// nothing of it.
 class PictureView {
