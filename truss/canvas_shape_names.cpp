@@ -29,26 +29,26 @@ constexpr int kUnreadable = 100;
 constexpr std::size_t kMostMembers = 150;
 
 /// The corners aslant of a circle, in which a name is nearest to it.
-NameRoom Aslant(CanvasPoint mark, bool right, bool above, NameSize size) {
+NameBox Aslant(CanvasPoint mark, bool right, bool above, NameSize size) {
   return {right ? mark.x + kAslant : mark.x - kAslant - size.width,
           above ? mark.y - kAslant - size.height : mark.y + kAslant, size.width, size.height};
 }
 
 /// Right or left of a circle; `part` of the name's height lies above the circle's centre.
-NameRoom Beside(CanvasPoint mark, bool right, double part, NameSize size) {
+NameBox Beside(CanvasPoint mark, bool right, double part, NameSize size) {
   return {right ? mark.x + kBeside : mark.x - kBeside - size.width, mark.y - part * size.height,
           size.width, size.height};
 }
 
 /// Above or below a circle; `part` of the name's width lies left of the circle's centre.
-NameRoom OverOrUnder(CanvasPoint mark, bool over, double part, NameSize size) {
+NameBox OverOrUnder(CanvasPoint mark, bool over, double part, NameSize size) {
   return {mark.x - part * size.width, over ? mark.y - kBeside - size.height : mark.y + kBeside,
           size.width, size.height};
 }
 
 /// All places around a circle, the nearer ones first.
-std::vector<NameRoom> PlacesAround(CanvasPoint mark, NameSize size) {
-  std::vector<NameRoom> places;
+std::vector<NameBox> PlacesAround(CanvasPoint mark, NameSize size) {
+  std::vector<NameBox> places;
   for (const bool right : {true, false}) {
     for (const bool above : {false, true}) places.push_back(Aslant(mark, right, above, size));
   }
@@ -72,7 +72,7 @@ Direction DirectionOf(const CanvasLine& line) {
 }
 
 /// The place from which the line leads away: outside of a top chord, to the right of a web.
-NameRoom Preferred(Family family, Direction direction, CanvasPoint mark, NameSize size) {
+NameBox Preferred(Family family, Direction direction, CanvasPoint mark, NameSize size) {
   // Of the top chord the left rafter alone rises.
   const bool rafter = family == Family::TL;
   if (direction == Direction::Upright) return Beside(mark, true, 0.5, size);
@@ -81,14 +81,14 @@ NameRoom Preferred(Family family, Direction direction, CanvasPoint mark, NameSiz
   return Aslant(mark, !rafter, rafter, size);
 }
 
-NameRoom BottomRoom(const CanvasLine& line, NameSize size) {
+NameBox BottomRoom(const CanvasLine& line, NameSize size) {
   const CanvasPoint mark = line.Middle();
   const double shift = DirectionOf(line) == Direction::Falling ? -size.width : 0.0;
   return {mark.x + shift, mark.y + kBelow, size.width, size.height};
 }
 
 /// True where the line comes nearer to the room than its own thickness.
-bool Crosses(const CanvasLine& line, const NameRoom& room) {
+bool Crosses(const CanvasLine& line, const NameBox& room) {
   double from = 0, to = 1;
   return Clip(line.from.x, line.to.x - line.from.x, room.x - kClear, room.x + room.width + kClear,
               from, to) &&
@@ -96,13 +96,13 @@ bool Crosses(const CanvasLine& line, const NameRoom& room) {
               from, to);
 }
 
-bool Covers(const NameRoom& room, CanvasPoint mark) {
+bool Covers(const NameBox& room, CanvasPoint mark) {
   const double dx = std::max({room.x - mark.x, 0.0, mark.x - room.x - room.width});
   const double dy = std::max({room.y - mark.y, 0.0, mark.y - room.y - room.height});
   return std::hypot(dx, dy) < kMarkRadius;
 }
 
-bool Overlap(const NameRoom& a, const NameRoom& b) {
+bool Overlap(const NameBox& a, const NameBox& b) {
   return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
 }
 
@@ -137,20 +137,20 @@ NamePlacer::NamePlacer(const std::vector<CanvasLine>& lines)
   }
 }
 
-NameRoom NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name) {
+NameBox NamePlacer::PlaceMember(const CanvasLine& line, const std::string& name) {
   const NameSize size = SizeOf(name, height_);
   if (IsBottom(line.member.family)) return BottomRoom(line, size);
   const CanvasPoint mark = line.Middle();
-  const NameRoom first = Preferred(line.member.family, DirectionOf(line), mark, size);
+  const NameBox first = Preferred(line.member.family, DirectionOf(line), mark, size);
   taken_.push_back(Best(first, PlacesAround(mark, size)));
   return taken_.back();
 }
 
-NameRoom NamePlacer::Best(NameRoom first, const std::vector<NameRoom>& places) const {
+NameBox NamePlacer::Best(NameBox first, const std::vector<NameBox>& places) const {
   if (lines_.size() > kMostMembers) return first;
-  NameRoom best = first;
+  NameBox best = first;
   int least = Flaws(best);
-  for (const NameRoom& place : places) {
+  for (const NameBox& place : places) {
     if (least == 0) break;
     const int flaws = Flaws(place);
     if (flaws >= least) continue;
@@ -160,13 +160,13 @@ NameRoom NamePlacer::Best(NameRoom first, const std::vector<NameRoom>& places) c
   return best;
 }
 
-int NamePlacer::Flaws(const NameRoom& room) const {
+int NamePlacer::Flaws(const NameBox& room) const {
   int flaws = room.x < 0 || room.x + room.width > kCanvasWidth ? kUnreadable : 0;
   for (const CanvasLine& line : lines_) {
     if (Crosses(line, room)) ++flaws;
     if (Covers(room, line.Middle())) flaws += kUnreadable;
   }
-  for (const NameRoom& other : taken_) {
+  for (const NameBox& other : taken_) {
     if (Overlap(room, other)) flaws += kUnreadable;
   }
   return flaws;

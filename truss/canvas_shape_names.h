@@ -22,7 +22,7 @@ struct CanvasLine {
 };
 
 /// The room of a name: its top left corner and its size, in canvas units.
-struct NameRoom {
+struct NameBox {
   double x, y, width, height;
 };
 
@@ -39,19 +39,19 @@ class NamePlacer {
 
   /// The place of a member's name. Names of the bottom chord stand 50 units below the midpoint,
   /// always.
-  NameRoom PlaceMember(const CanvasLine& line, const std::string& name);
+  NameBox PlaceMember(const CanvasLine& line, const std::string& name);
 
   /// Height of the names: that of a line of text, but less where panels are narrow.
   double height() const { return height_; }
 
  private:
   /// The place with the fewest flaws, the first one if it has none.
-  NameRoom Best(NameRoom first, const std::vector<NameRoom>& places) const;
-  int Flaws(const NameRoom& room) const;
+  NameBox Best(NameBox first, const std::vector<NameBox>& places) const;
+  int Flaws(const NameBox& room) const;
 
   const std::vector<CanvasLine>& lines_;
   double height_;
-  std::vector<NameRoom> taken_;
+  std::vector<NameBox> taken_;
 };
 
 /// The room of a name at a height of its letters.

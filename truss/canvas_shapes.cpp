@@ -64,7 +64,7 @@ void CanvasPainter::DrawMember(const CanvasLine& line, Colour colour, NamePlacer
                                            kMarkRadius, Colour::Red});
   const Member& member = line.member;
   const std::string name = member.family == Family::CV ? centreName : MemberLabel(member);
-  const NameRoom room = names.PlaceMember(line, name);
+  const NameBox room = names.PlaceMember(line, name);
   Text(room.x, room.y, name);
   marks_[{member.family, member.index}] = {mark.x, mark.y};
 }
