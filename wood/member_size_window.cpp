@@ -103,6 +103,10 @@ void ShowMember(MemberSizeWindow& window, SessionState& session) {
 
 }  // namespace
 
+std::string GradeLabel(const MemberSelection& member) {
+  return member.GradeText + ", " + member.WoodTypeText;
+}
+
 void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform) {
   FaultScope faults(platform);
   window = MemberSizeWindow();

@@ -92,6 +92,8 @@ struct MemberSizeWindow {
 void OpenMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// The window `wdb` was closed: its stresses go to the ticked groups, and all fields are filled.
 void ReturnFromWoodDataBase(MemberSizeWindow& window, SessionState& session, Platform& platform);
+/// The grade of the data base as a member's caption tells it.
+std::string GradeLabel(const MemberSelection& member);
 /// "OK": reads all fields into the current member and closes the window.
 void AcceptMemberSize(MemberSizeWindow& window, SessionState& session, Platform& platform);
 /// "Cancel".

@@ -6,10 +6,6 @@
 
 namespace lignara {
 
-std::string GradeLabel(const MemberSelection& member) {
-  return member.GradeText + ", " + member.WoodTypeText;
-}
-
 void TakeDataBaseStresses(const MemberSizeWindow& window, MemberSelection& member) {
   for (std::size_t i = 0; i < member.Groups.size(); ++i) {
     if (!window.groups[i].ticked) continue;
