@@ -9,7 +9,7 @@ namespace lignara {
 /// Clears and refills the list "Axial Load (lbs)": magnitudes of all members, after a blank row.
 void SHOW_AXIAL(TrussWindow& window, const SessionState& session);
 
-/// The members of the rows of both lists, which follow a blank row.
+/// The members of the rows of the axial and of the length list, which follow a blank row.
 std::vector<Member> AxialMembers(const SessionState& session);
 
 /// What stands beside the rows of "Axial Load (lbs)": tension or compression, and whether the

@@ -4,7 +4,7 @@
 
 namespace lignara {
 
-/// Fills both panels from the session.
+/// Fills the panels "Output Description" and "Fonts" from the session.
 void ShowReportChoices(TrussWindow& window, const SessionState& session);
 
 /// "Headings...": opens the panel "Output Description".

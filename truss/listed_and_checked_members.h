@@ -13,7 +13,8 @@ using Ranges = std::vector<MemberRange>;
 // Listed and checked alike.
 Ranges KingPostMembers();
 Ranges ScissorsMembers();
-/// `firstDiagonal` is 1 in the lists, 2 in the check.
+
+/// WARREN: listed from diagonal 1, checked from diagonal 2, which is `firstDiagonal`.
 Ranges WarrenRows(int firstDiagonal);
 
 // Rows of the axial and of the length list.

@@ -1,7 +1,5 @@
 #include "truss/member_signs.h"
 
-#include <utility>
-
 #include "truss/truss_types.h"
 
 namespace lignara {

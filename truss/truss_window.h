@@ -139,7 +139,8 @@ void RunTruss(TrussWindow& window, SessionState& session, Platform& platform);
 void ShowMemberLengths(TrussWindow& window, const SessionState& session, Platform& platform);
 void CloseMemberLengths(TrussWindow& window);
 
-// Canvas (zoom_and_pan.cpp, canvas_hit.cpp); the report's commands stand in truss/report.h.
+// Canvas (zoom_and_pan.cpp, canvas_hit.cpp); the report's commands stand in truss/report.h, those
+// of its panels in truss/headings_and_fonts.h.
 
 /// "Zoom" "+" and "-".
 void EnlargeTruss(TrussWindow& window, const SessionState& session, Platform& platform);

@@ -1,15 +1,11 @@
 #include "truss/window_marks.h"
 
-#include <algorithm>
-#include <optional>
-
 #include "app/fault.h"
 #include "truss/changed_since_run.h"
 #include "truss/force_and_length_lists.h"
 #include "truss/force_sense.h"
 #include "truss/overstress.h"
 #include "truss/truss_picture.h"
-#include "truss/truss_types.h"
 
 namespace lignara {
 namespace {

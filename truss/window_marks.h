@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "truss/overstress.h"
 #include "truss/truss_window.h"
 

@@ -6,7 +6,7 @@
 namespace lignara {
 namespace {
 
-class SpanChecks : public MultiSpanTest {
+class SpanStressCheck : public MultiSpanTest {
  protected:
   /// Two spans of 10 ft under 120 lbs/ft, 1.5 by 9.25 in, S 20, shear area 9.25, Fb 1200, Fv 75,
   /// E 1600000; unbraced lengths as told.
@@ -50,7 +50,7 @@ class SpanChecks : public MultiSpanTest {
 
 // Both spans have 1500 ft-lbs over the joint and 750 lbs beside it: 1500 x 12 / 20 = 900 and
 // 750 / 9.25 = 81.08. Unbraced 8 ft: le 184.32, S 757.76, K 800.
-TEST_F(SpanChecks, WoodListsActualAndAllowableStresses) {
+TEST_F(SpanStressCheck, WoodListsActualAndAllowableStresses) {
   Solve(8, 12);
   EXPECT_EQ(CheckWood(),
             (Texts{"ACTUAL STRESSES", "Span 1 Hem-Fir, 2X10", "Bending stress = 900.00 psi",
@@ -62,7 +62,7 @@ TEST_F(SpanChecks, WoodListsActualAndAllowableStresses) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(SpanChecks, WoodWantsASawnMember) {
+TEST_F(SpanStressCheck, WoodWantsASawnMember) {
   Solve(8, 8);
   for (const int source : {0, 2}) {
     session.Member.MemberSource = source;
@@ -71,7 +71,7 @@ TEST_F(SpanChecks, WoodWantsASawnMember) {
   }
 }
 
-TEST_F(SpanChecks, WoodWantsAllDataOfEachSpan) {
+TEST_F(SpanStressCheck, WoodWantsAllDataOfEachSpan) {
   for (Float32Array MultiSpanModel::*list :
        {&MultiSpanModel::spanSectionModulus, &MultiSpanModel::spanShearArea, &MultiSpanModel::spanB,
         &MultiSpanModel::spanD, &MultiSpanModel::spanFb, &MultiSpanModel::spanFv}) {
@@ -85,7 +85,7 @@ TEST_F(SpanChecks, WoodWantsAllDataOfEachSpan) {
   }
 }
 
-TEST_F(SpanChecks, WoodWantsASawnMemberBeforeItsData) {
+TEST_F(SpanStressCheck, WoodWantsASawnMemberBeforeItsData) {
   Solve(8, 8);
   model().spanFb[1] = 0;
   session.Member.MemberSource = 2;
@@ -93,7 +93,7 @@ TEST_F(SpanChecks, WoodWantsASawnMemberBeforeItsData) {
   EXPECT_EQ(Messages(), Texts{"YOUR MEMBER IS GLU-LAM, NOT NORMAL WOOD!"});
 }
 
-TEST_F(SpanChecks, EmptyTheListFirst) {
+TEST_F(SpanStressCheck, EmptyTheListFirst) {
   Solve(8, 8);
   CheckWood();
   EXPECT_EQ(CheckWood().size(), 14u);
@@ -101,7 +101,7 @@ TEST_F(SpanChecks, EmptyTheListFirst) {
   EXPECT_TRUE(CheckWood().empty());
 }
 
-TEST_F(SpanChecks, WoodTakesTheLargerSideAsDepth) {
+TEST_F(SpanStressCheck, WoodTakesTheLargerSideAsDepth) {
   Solve(8, 8);
   model().spanB[1] = 9.25;
   model().spanD[1] = 1.5;
@@ -109,24 +109,24 @@ TEST_F(SpanChecks, WoodTakesTheLargerSideAsDepth) {
 }
 
 // Unbraced 1 ft: le 23.04, S 94.72: short.
-TEST_F(SpanChecks, ShortFirstSpanShowsTheSelectionsAllowable) {
+TEST_F(SpanStressCheck, ShortFirstSpanShowsTheSelectionsAllowable) {
   Solve(1, 8);
   EXPECT_EQ(Fb(1), "Allowable Bending Stress = 850.00 psi");
 }
 
-TEST_F(SpanChecks, ShortSpanShowsTheAllowableOfTheSpanBefore) {
+TEST_F(SpanStressCheck, ShortSpanShowsTheAllowableOfTheSpanBefore) {
   Solve(8, 1);
   EXPECT_EQ(Fb(2), "Allowable Bending Stress = 1178.79 psi");
 }
 
-TEST_F(SpanChecks, WoodLeavesItsLastAllowableInTheSession) {
+TEST_F(SpanStressCheck, WoodLeavesItsLastAllowableInTheSession) {
   Solve(8, 12);
   CheckWood();
   EXPECT_EQ(FormatNumber(session.Member.AllowFb, "0.00"), "563.06");
 }
 
 // b 24, d 25: S = 23.04 x L x 25 / 576 = L in feet.
-TEST_F(SpanChecks, SlendernessOfExactlyOneHundredIsShort) {
+TEST_F(SpanStressCheck, SlendernessOfExactlyOneHundredIsShort) {
   Solve(100, 8);
   model().spanB[1] = 24;
   model().spanD[1] = 25;
@@ -135,14 +135,14 @@ TEST_F(SpanChecks, SlendernessOfExactlyOneHundredIsShort) {
   EXPECT_NE(Fb(1), "Allowable Bending Stress = 850.00 psi");
 }
 
-TEST_F(SpanChecks, SlendernessOfExactly2500IsLong) {
+TEST_F(SpanStressCheck, SlendernessOfExactly2500IsLong) {
   Solve(2500, 8);
   model().spanB[1] = 24;
   model().spanD[1] = 25;
   EXPECT_EQ(Fb(1), "Allowable Bending Stress = 256.00 psi");  // 0.4 x 1600000 / 2500
 }
 
-TEST_F(SpanChecks, SlendernessAbove2500HasNoAllowable) {
+TEST_F(SpanStressCheck, SlendernessAbove2500HasNoAllowable) {
   Solve(2501, 8);
   model().spanB[1] = 24;
   model().spanD[1] = 25;
@@ -151,7 +151,7 @@ TEST_F(SpanChecks, SlendernessAbove2500HasNoAllowable) {
 }
 
 // K = 3 x 1600000 / (5 x 300) = 3200: the middle range reaches beyond 2500, but shows no value.
-TEST_F(SpanChecks, SlendernessAbove2500HasNoAllowableInTheMiddleRangeEither) {
+TEST_F(SpanStressCheck, SlendernessAbove2500HasNoAllowableInTheMiddleRangeEither) {
   Solve(2600, 1);
   model().spanB[1] = 24;
   model().spanD[1] = 25;
@@ -161,7 +161,7 @@ TEST_F(SpanChecks, SlendernessAbove2500HasNoAllowableInTheMiddleRangeEither) {
   EXPECT_EQ(Fb(2).substr(0, 33), "Allowable Bending Stress = -34708");
 }
 
-TEST_F(SpanChecks, SlendernessOfExactlyKIsMiddle) {
+TEST_F(SpanStressCheck, SlendernessOfExactlyKIsMiddle) {
   Solve(800, 8);
   model().spanB[1] = 24;
   model().spanD[1] = 25;
@@ -169,13 +169,13 @@ TEST_F(SpanChecks, SlendernessOfExactlyKIsMiddle) {
   EXPECT_EQ(Fb(1), "Allowable Bending Stress = -210924.30 psi");
 }
 
-TEST_F(SpanChecks, ReadTheModelAsItIsNow) {
+TEST_F(SpanStressCheck, ReadTheModelAsItIsNow) {
   Solve(8, 8);
   model().spanSectionModulus[1] = 40;
   EXPECT_EQ(CheckWood()[2], "Bending stress = 450.00 psi");
 }
 
-TEST_F(SpanChecks, OfAnEmptiedModelWantItsData) {
+TEST_F(SpanStressCheck, OfAnEmptiedModelWantItsData) {
   Solve(8, 8);
   session.SpanCount = 3;
   OpenMultiSpan(window, session, platform);
@@ -183,7 +183,7 @@ TEST_F(SpanChecks, OfAnEmptiedModelWantItsData) {
   EXPECT_EQ(Messages(), Texts{"YOU ARE MISSING DATA REQUIRED FOR CODE CHECK IN SPAN 1"});
 }
 
-TEST_F(SpanChecks, ASpanThatWasNotInTheRunHasNoStress) {
+TEST_F(SpanStressCheck, ASpanThatWasNotInTheRunHasNoStress) {
   Solve(8, 8);
   model().spanCount = 3;
   model().spanSectionModulus[3] = model().spanShearArea[3] = model().spanB[3] = 1;
@@ -193,7 +193,7 @@ TEST_F(SpanChecks, ASpanThatWasNotInTheRunHasNoStress) {
 
 // Glulam.
 
-TEST_F(SpanChecks, GlulamWantsAGlulamMember) {
+TEST_F(SpanStressCheck, GlulamWantsAGlulamMember) {
   Solve(8, 8);
   for (const int source : {0, 1}) {
     session.Member.MemberSource = source;
@@ -204,7 +204,7 @@ TEST_F(SpanChecks, GlulamWantsAGlulamMember) {
   }
 }
 
-TEST_F(SpanChecks, GlulamListsAllowablesAndConditions) {
+TEST_F(SpanStressCheck, GlulamListsAllowablesAndConditions) {
   Solve(8, 8);
   model().spanCount = 1;
   GlulamTransfer& glulam = model().spanGlulam[1];
@@ -239,7 +239,7 @@ TEST_F(SpanChecks, GlulamListsAllowablesAndConditions) {
                    "Wood is considered Wet."}));
 }
 
-TEST_F(SpanChecks, GlulamTellsEachConditionByItsCode) {
+TEST_F(SpanStressCheck, GlulamTellsEachConditionByItsCode) {
   const std::vector<std::pair<int, std::string>> durations = {
       {1, "Load duration is greater than 10 years."},
       {2, "Load duration is 2 months."},
@@ -264,13 +264,13 @@ TEST_F(SpanChecks, GlulamTellsEachConditionByItsCode) {
   EXPECT_EQ(CheckGlulam().at(23), "Wood is considered Dry.");
 }
 
-TEST_F(SpanChecks, GlulamTellsNoConditionThatWasNeverChosen) {
+TEST_F(SpanStressCheck, GlulamTellsNoConditionThatWasNeverChosen) {
   Solve(8, 8);
   model().spanCount = 1;
   EXPECT_EQ(CheckGlulam().back(), "SPAN 1");
 }
 
-TEST_F(SpanChecks, GlulamListsAllSpansUnderEachHeading) {
+TEST_F(SpanStressCheck, GlulamListsAllSpansUnderEachHeading) {
   Solve(8, 8);
   const Texts rows = CheckGlulam();
   EXPECT_EQ(rows[1 + 6], "ALLOWABLE STRESS VALUES");
@@ -278,7 +278,7 @@ TEST_F(SpanChecks, GlulamListsAllSpansUnderEachHeading) {
   EXPECT_EQ((Texts{rows[37], rows[38]}), (Texts{"SPAN 1", "SPAN 2"}));
 }
 
-TEST_F(SpanChecks, DivisionByZeroIsTold) {
+TEST_F(SpanStressCheck, DivisionByZeroIsTold) {
   Solve(8, 8);
   model().spanCount = 1;
   model().spanSectionModulus[1] = 0;
