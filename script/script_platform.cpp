@@ -5,7 +5,7 @@
 #include <QLayout>
 
 #include "app/report.h"
-#include "desktop/kit/row_delegate.h"
+#include "desktop/kit/row_widths.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"
 

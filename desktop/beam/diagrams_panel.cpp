@@ -15,7 +15,7 @@
 #include "beam/diagrams.h"
 #include "desktop/beam/close_button.h"
 #include "desktop/kit/form.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/screen_readers.h"
 #include "desktop/kit/text.h"

@@ -16,7 +16,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/windows.h"
 

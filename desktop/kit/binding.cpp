@@ -16,10 +16,10 @@
 #include "desktop/kit/list_notes.h"
 #include "desktop/kit/misread_number_mark.h"
 #include "desktop/kit/out_of_date.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/return_and_escape.h"
 #include "desktop/kit/row_copy.h"
-#include "desktop/kit/row_delegate.h"
+#include "desktop/kit/row_widths.h"
 #include "desktop/kit/tab_order.h"
 #include "desktop/kit/text.h"
 

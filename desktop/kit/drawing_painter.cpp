@@ -34,7 +34,7 @@ Fit StretchInto(const QRectF& target, const Drawing& drawing) {
   return {room.width() / drawing.width, room.height() / drawing.height, room.topLeft()};
 }
 
-Fit FitOf(const PictureView& view, const QRectF& room, const Drawing& drawing) {
+Fit FitOf(const VisiblePart& view, const QRectF& room, const Drawing& drawing) {
   if (drawing.stretched) return StretchInto(room, drawing);
   return {view.scale(), view.scale(), view.ToPixels({0, 0})};
 }
@@ -149,7 +149,7 @@ QColor ColourOn(const QColor& ground, Colour colour) {
   return dark ? Qt::white : Qt::black;
 }
 
-QPointF PlaceAt(const PictureView& view, const QRectF& room, const Drawing& drawing,
+QPointF PlaceAt(const VisiblePart& view, const QRectF& room, const Drawing& drawing,
                 const QPointF& pixel) {
   if (!drawing.stretched) return view.ToDrawing(pixel);
   const Fit fit = StretchInto(room, drawing);
@@ -167,7 +167,7 @@ QRectF ContentOf(const Drawing& drawing) {
 
 void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawing,
                   const QPalette& palette) {
-  PictureView view;
+  VisiblePart view;
   view.SetContent(ContentOf(drawing));
   view.SetRoom(target.size());
   view.Fit();
@@ -177,7 +177,7 @@ void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawin
   painter.restore();
 }
 
-void PaintDrawing(QPainter& painter, const PictureView& view, const QRectF& room,
+void PaintDrawing(QPainter& painter, const VisiblePart& view, const QRectF& room,
                   const Drawing& drawing, const QPalette& palette) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);

@@ -15,7 +15,7 @@ namespace lignara {
 QColor ColourOn(const QColor& ground, Colour colour);
 
 /// The place of a drawing that lies under a pixel of its room.
-QPointF PlaceAt(const PictureView& view, const QRectF& room, const Drawing& drawing,
+QPointF PlaceAt(const VisiblePart& view, const QRectF& room, const Drawing& drawing,
                 const QPointF& pixel);
 
 /// What of a drawing is to be seen at once, in its units: its scene, or the whole of its room.
@@ -27,7 +27,7 @@ void PaintDrawing(QPainter& painter, const QRectF& target, const Drawing& drawin
                   const QPalette& palette);
 
 /// Paints a drawing as a view shows it; the view's room begins at the painter's origin.
-void PaintDrawing(QPainter& painter, const PictureView& view, const QRectF& room,
+void PaintDrawing(QPainter& painter, const VisiblePart& view, const QRectF& room,
                   const Drawing& drawing, const QPalette& palette);
 
 }  // namespace lignara

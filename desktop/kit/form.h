@@ -4,7 +4,6 @@
 
 class QGridLayout;
 class QGroupBox;
-class QHBoxLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;

@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "desktop/kit/row_delegate.h"
+#include "desktop/kit/row_widths.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/warning_colour.h"
 

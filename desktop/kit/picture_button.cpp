@@ -4,7 +4,7 @@
 #include <QStylePainter>
 
 #include "desktop/kit/form.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 
 namespace lignara {
 

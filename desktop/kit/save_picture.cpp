@@ -6,7 +6,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/drawing_painter.h"
 #include "desktop/kit/legend.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {

@@ -46,7 +46,7 @@ QPointF WishOf(const NamedLine& line, const QLineF& drawn) {
 /// Lays a scene out at one view.
 class LayoutMaker {
  public:
-  LayoutMaker(const Scene& scene, const PictureView& view, const QRectF& room,
+  LayoutMaker(const Scene& scene, const VisiblePart& view, const QRectF& room,
               const QFontMetricsF& metrics)
       : scene_(scene), view_(view), room_(room), metrics_(metrics) {
     layout_.unit = metrics.height() / 16;
@@ -200,7 +200,7 @@ class LayoutMaker {
   QSizeF SizeOf(const std::string& text) const { return {Width(text), metrics_.height() * 0.8}; }
 
   const Scene& scene_;
-  const PictureView& view_;
+  const VisiblePart& view_;
   const QRectF room_;
   const QFontMetricsF metrics_;
   std::optional<NameRoom> names_;
@@ -210,7 +210,7 @@ class LayoutMaker {
 
 }  // namespace
 
-SceneLayout LayOut(const Scene& scene, const PictureView& view, const QRectF& room,
+SceneLayout LayOut(const Scene& scene, const VisiblePart& view, const QRectF& room,
                    const QFontMetricsF& metrics) {
   return LayoutMaker(scene, view, room, metrics).Make();
 }

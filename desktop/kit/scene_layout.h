@@ -35,7 +35,7 @@ struct SceneLayout {
 inline constexpr double kLoadLength = 20;
 inline constexpr double kLoadGap = 5;
 
-SceneLayout LayOut(const Scene& scene, const PictureView& view, const QRectF& room,
+SceneLayout LayOut(const Scene& scene, const VisiblePart& view, const QRectF& room,
                    const QFontMetricsF& metrics);
 
 }  // namespace lignara

@@ -57,7 +57,7 @@ void PaintDashes(QPainter& painter, const QLineF& line, const QColor& colour, do
 /// Paints the parts of a scene one over the other.
 class ScenePainter {
  public:
-  ScenePainter(QPainter& painter, const PictureView& view, const QRectF& room, const Scene& scene,
+  ScenePainter(QPainter& painter, const VisiblePart& view, const QRectF& room, const Scene& scene,
                const QPalette& palette)
       : painter_(painter),
         view_(view),
@@ -162,7 +162,7 @@ class ScenePainter {
   }
 
   QPainter& painter_;
-  const PictureView& view_;
+  const VisiblePart& view_;
   const QRectF room_;
   const Scene& scene_;
   const QPalette& palette_;
@@ -197,7 +197,7 @@ void PaintLine(QPainter& painter, const QLineF& line, const LineLook& look,
   painter.drawLine(line);
 }
 
-void PaintScene(QPainter& painter, const PictureView& view, const QRectF& room, const Scene& scene,
+void PaintScene(QPainter& painter, const VisiblePart& view, const QRectF& room, const Scene& scene,
                 const QPalette& palette) {
   // Letters measured in pixels are as high as a path as they are as a text, on any device.
   QFont font = painter.font();

@@ -28,7 +28,7 @@ void PaintLine(QPainter& painter, const QLineF& line, const LineLook& look,
 
 /// Paints a scene as a view shows it, in the painter's font. Where names do not find room, circles
 /// and names thin out evenly; each name stands beside its own circle and on no other.
-void PaintScene(QPainter& painter, const PictureView& view, const QRectF& room, const Scene& scene,
+void PaintScene(QPainter& painter, const VisiblePart& view, const QRectF& room, const Scene& scene,
                 const QPalette& palette);
 
 }  // namespace lignara

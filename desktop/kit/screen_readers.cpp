@@ -4,7 +4,7 @@
 #include <QAccessibleWidget>
 #include <QVariant>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 
 namespace lignara {
 namespace {

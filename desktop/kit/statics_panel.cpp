@@ -14,7 +14,6 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/out_of_date.h"
 #include "desktop/kit/row_copy.h"
-#include "desktop/kit/screen_readers.h"
 #include "desktop/kit/table.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"

@@ -21,47 +21,47 @@ double Shift(double from, double size, double room) {
 
 }  // namespace
 
-void PictureView::SetContent(const QRectF& content) {
+void VisiblePart::SetContent(const QRectF& content) {
   content_ = Solid(content);
   KeepInSight();
 }
 
-void PictureView::SetRoom(const QSizeF& room) {
+void VisiblePart::SetRoom(const QSizeF& room) {
   room_ = {std::max(room.width(), 1.0), std::max(room.height(), 1.0)};
   KeepInSight();
 }
 
-void PictureView::Fit() {
+void VisiblePart::Fit() {
   home_ = content_;
   zoom_ = 1;
   centre_ = home_.center();
 }
 
-void PictureView::ZoomAt(const QPointF& pixel, double factor) {
+void VisiblePart::ZoomAt(const QPointF& pixel, double factor) {
   const QPointF held = ToDrawing(pixel);
   const double smallest = std::min(1.0, FitScale(content_) / FitScale(home_));
   zoom_ = std::clamp(zoom_ * factor, smallest, kLargestZoom);
   MoveBy(pixel - ToPixels(held));
 }
 
-void PictureView::MoveBy(const QPointF& pixels) {
+void VisiblePart::MoveBy(const QPointF& pixels) {
   centre_ -= pixels / scale();
   KeepInSight();
 }
 
-QPointF PictureView::ToPixels(const QPointF& place) const {
+QPointF VisiblePart::ToPixels(const QPointF& place) const {
   return (place - centre_) * scale() + QPointF(room_.width(), room_.height()) / 2;
 }
 
-QPointF PictureView::ToDrawing(const QPointF& pixel) const {
+QPointF VisiblePart::ToDrawing(const QPointF& pixel) const {
   return (pixel - QPointF(room_.width(), room_.height()) / 2) / scale() + centre_;
 }
 
-double PictureView::FitScale(const QRectF& box) const {
+double VisiblePart::FitScale(const QRectF& box) const {
   return std::min(room_.width() / box.width(), room_.height() / box.height());
 }
 
-void PictureView::KeepInSight() {
+void VisiblePart::KeepInSight() {
   const QPointF corner = ToPixels(content_.topLeft());
   const QSizeF size = content_.size() * scale();
   const QPointF shift(Shift(corner.x(), size.width(), room_.width()),

@@ -8,7 +8,7 @@ namespace lignara {
 
 /// How the user looks at a picture: which part of it, and how large. The picture's own units know
 /// nothing of it.
-class PictureView {
+class VisiblePart {
  public:
   /// The part of a drawing, in its units, that holds all there is to see.
   void SetContent(const QRectF& content);

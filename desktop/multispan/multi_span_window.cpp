@@ -17,7 +17,7 @@
 #include "desktop/kit/form.h"
 #include "desktop/kit/header_panel.h"
 #include "desktop/kit/option_frame.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/screen_readers.h"
 #include "desktop/kit/text.h"

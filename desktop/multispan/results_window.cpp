@@ -19,7 +19,7 @@
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
 #include "desktop/kit/header_panel.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/screen_readers.h"
 #include "desktop/kit/statics_panel.h"

@@ -12,7 +12,7 @@
 
 #include "desktop/kit/form.h"
 #include "desktop/kit/option_frame.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/save_picture.h"
 #include "desktop/kit/text.h"
 #include "desktop/kit/tool_window.h"

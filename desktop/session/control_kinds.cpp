@@ -7,7 +7,7 @@
 #include <QTableWidget>
 #include <map>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 
 namespace lignara {
 

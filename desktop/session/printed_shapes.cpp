@@ -3,7 +3,6 @@
 #include <QStringList>
 
 #include "desktop/kit/text.h"
-#include "desktop/session/script_line.h"
 
 namespace lignara {
 namespace {

@@ -4,7 +4,7 @@
 #include <QEvent>
 
 #include "desktop/kit/desktop_platform.h"
-#include "desktop/kit/row_delegate.h"
+#include "desktop/kit/row_widths.h"
 #include "desktop/kit/tool_window.h"
 
 namespace lignara {

@@ -11,7 +11,6 @@
 #include "desktop/kit/option_frame.h"
 #include "desktop/kit/tool_window.h"
 #include "truss/headings_and_fonts.h"
-#include "truss/report.h"
 
 namespace lignara {
 

@@ -9,7 +9,7 @@
 #include "app/window_names.h"
 #include "desktop/kit/desktop_platform.h"
 #include "desktop/kit/form.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "desktop/windows.h"
 #include "truss/truss_input.h"

@@ -24,7 +24,6 @@
 #include "desktop/truss/result_lists.h"
 #include "desktop/truss/truss_picture.h"
 #include "desktop/windows.h"
-#include "truss/force_and_length_lists.h"
 #include "truss/headings_and_fonts.h"
 #include "truss/report.h"
 #include "truss/window_marks.h"

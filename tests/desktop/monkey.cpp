@@ -18,7 +18,7 @@
 
 #include "app/launcher.h"
 #include "app/window_names.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "multispan/multi_span_solution.h"
 

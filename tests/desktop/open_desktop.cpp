@@ -14,7 +14,7 @@
 #include <QWindow>
 #include <stdexcept>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 
 namespace lignara {

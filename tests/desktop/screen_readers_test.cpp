@@ -4,8 +4,8 @@
 
 #include <QAccessible>
 
-#include "desktop/kit/picture.h"
 #include "desktop/kit/picture_button.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 
@@ -16,7 +16,7 @@ QAccessibleInterface* ReaderOf(QWidget* widget) {
   return QAccessible::queryAccessibleInterface(widget);
 }
 
-TEST(Readers, HearTheTypeOfEachPictureOfTheLauncher) {
+TEST(ScreenReaders, HearTheTypeOfEachPictureOfTheLauncher) {
   OpenDesktop desktop;
   QStringList names;
   for (QWidget* control : VisibleControls(desktop.Window("main"))) {
@@ -29,7 +29,7 @@ TEST(Readers, HearTheTypeOfEachPictureOfTheLauncher) {
             "Pratt2 truss, Warren truss");
 }
 
-TEST(Readers, HearWhatTheTrussPictureShows) {
+TEST(ScreenReaders, HearWhatTheTrussPictureShows) {
   OpenDesktop desktop;
   desktop.OpenKingPost();
   Picture* canvas = nullptr;
@@ -59,7 +59,7 @@ std::string DescriptionIn(ToolWindow* window, const char* picture) {
 
 // 450 lbs on the outer supports, 120 x 100 / 8 ft-lbs over the middle one; at 4.4 ft
 // w x (L^3 - 3 L x^2 + 2 x^3) / 48 E I = 20.736 x 0.44 x 0.5896 / 48 = 0.1121 in.
-TEST(Readers, HearWhatThePicturesOfAMultiSpanBeamShow) {
+TEST(ScreenReaders, HearWhatThePicturesOfAMultiSpanBeamShow) {
   OpenDesktop desktop;
   desktop.Play(kRunTwoSpans);
   desktop.Play(kOpenAllBeamResults);
@@ -75,7 +75,7 @@ TEST(Readers, HearWhatThePicturesOfAMultiSpanBeamShow) {
             "Deflected shape: largest 0.1121 in, 0.0000 in at 0.000 ft");
 }
 
-TEST(Readers, HearWhichWayAnArrowWalks) {
+TEST(ScreenReaders, HearWhichWayAnArrowWalks) {
   OpenDesktop desktop;
   desktop.Play(kRunTwoSpans);
   QStringList walks;
@@ -89,7 +89,7 @@ TEST(Readers, HearWhichWayAnArrowWalks) {
             "Previous span, Next span, Previous load, Next load, Previous span, Next span");
 }
 
-TEST(Readers, HearWhatThePicturesOfASingleSpanBeamShow) {
+TEST(ScreenReaders, HearWhatThePicturesOfASingleSpanBeamShow) {
   OpenDesktop desktop;
   desktop.Play({"press \"Single Span Beams\"", "window MLSP", "enter \"A(ft)\" 5",
                 "enter \"P(lbs)\" 1000", "press \"Add New\"", "press \"RUN\"",
@@ -116,7 +116,7 @@ void ExpectNamesAndRoles(ToolWindow* window) {
   EXPECT_GT(stops, 1) << FromQt(window->name());
 }
 
-TEST(Readers, HearANameAndARoleWhereverTheTabKeyStops) {
+TEST(ScreenReaders, HearANameAndARoleWhereverTheTabKeyStops) {
   OpenDesktop desktop;
   desktop.OpenKingPost();
   desktop.Play(kOpenAllTrussPanels);

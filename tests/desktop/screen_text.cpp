@@ -9,7 +9,7 @@
 #include <QTableWidget>
 
 #include "desktop/kit/desktop_platform.h"
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/tool_window.h"
 #include "desktop/session/control_captions.h"
 #include "desktop/session/control_finder.h"

@@ -7,7 +7,7 @@
 #include <QGroupBox>
 #include <QListWidget>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 

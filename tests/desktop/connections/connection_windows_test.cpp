@@ -12,7 +12,7 @@
 #include <QMap>
 #include <QScrollBar>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 

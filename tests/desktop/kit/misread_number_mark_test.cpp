@@ -7,7 +7,6 @@
 #include <QImage>
 #include <QLineEdit>
 
-#include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 
 namespace lignara {

@@ -13,7 +13,7 @@
 #include <QTableWidget>
 #include <set>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 

@@ -9,7 +9,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "tests/desktop/session/recorded_user.h"
 
 namespace lignara {

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/text.h"
 #include "tests/desktop/open_desktop.h"
 

@@ -13,7 +13,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 #include "desktop/kit/save_picture.h"
 #include "tests/desktop/open_desktop.h"
 

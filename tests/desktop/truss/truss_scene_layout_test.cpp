@@ -43,7 +43,7 @@ Scene SceneOf(const std::string& type, int spans) {
 
 struct Shown {
   Scene scene;
-  PictureView view;
+  VisiblePart view;
   SceneLayout layout;
 
   QPointF Mark(const SceneText& name) const {

@@ -1,4 +1,4 @@
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -34,7 +34,7 @@ Picture::Picture(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-const PictureView& Picture::view() {
+const VisiblePart& Picture::view() {
   view_.SetRoom(size());
   return view_;
 }

@@ -1,4 +1,4 @@
-#include "desktop/kit/row_delegate.h"
+#include "desktop/kit/row_widths.h"
 
 #include <QListView>
 #include <algorithm>

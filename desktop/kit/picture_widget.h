@@ -33,7 +33,7 @@ class Picture : public QWidget {
   /// it. The picture becomes a stop of the Tab key.
   void LetUserExplore();
   /// The view at the picture's size as it is now.
-  const PictureView& view();
+  const VisiblePart& view();
 
   /// What the mouse does that comes to a place of the drawing and is pressed there.
   void PressAt(double x, double y);
@@ -61,7 +61,7 @@ class Picture : public QWidget {
   void SetPointer(const QPointF& position);
 
   Drawing drawing_;
-  PictureView view_;
+  VisiblePart view_;
   bool explored_ = false;
   bool dragging_ = false;
   QPointF grabbed_;  ///< where the mouse was when it last moved the picture

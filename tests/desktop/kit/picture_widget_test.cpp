@@ -1,6 +1,6 @@
 // A picture on the screen: which place of the drawing the mouse means, and the picture as a file.
 
-#include "desktop/kit/picture.h"
+#include "desktop/kit/picture_widget.h"
 
 #include <gtest/gtest.h>
 
